@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <memory>
+
+namespace zuvora {
+
+class Connessione; // one open SQLite connection; private to the store
+
+// Types of a new column, by the engine's number.
+enum class TipoCampo : int { Booleano = 1, Intero = 4, Singolo = 6, Doppio = 7, Testo = 10 };
+
+struct Campo {
+    QString Name;
+    TipoCampo Type = TipoCampo::Testo;
+};
+
+// A database file opened for what a record set can't do. Never creates a file. Every operation throws EngineError.
+class Database {
+public:
+    // Opens the file at `percorso`. Throws 3024 when it is missing, 3044 when its folder is, 3343 when it is no database
+    // (an empty file included), 3049 when it is damaged.
+    static Database OpenDatabase(const QString &percorso);
+    ~Database();
+    Database(Database &&) noexcept;
+    Database &operator=(Database &&) noexcept;
+
+    class ElencoCampi {
+    public:
+        // Adds a column; 3380 when the table has one of that name (in any case).
+        void Append(const Campo &campo);
+        QStringList Names() const;
+
+    private:
+        friend class Database;
+        friend class Tabella;
+        ElencoCampi(Connessione &c, QString tabella);
+        Connessione *m_connessione;
+        QString m_tabella;
+    };
+    class Tabella {
+    public:
+        ElencoCampi Fields() const;
+
+    private:
+        friend class Database;
+        Tabella(Connessione &c, QString tabella);
+        Connessione *m_connessione;
+        QString m_tabella;
+    };
+    class ElencoTabelle {
+    public:
+        Tabella Item(const QString &tabella) const; // 3265 when there is no such table
+        QStringList Names() const;
+
+    private:
+        friend class Database;
+        explicit ElencoTabelle(Connessione &c);
+        Connessione *m_connessione;
+    };
+
+    ElencoTabelle TableDefs();
+    // Runs one SQL statement that changes something. A select is refused with 3075, as the engine does.
+    void Execute(const QString &sql);
+    void Close();
+
+private:
+    explicit Database(std::unique_ptr<Connessione> c);
+    std::unique_ptr<Connessione> m_connessione;
+};
+
+} // namespace zuvora
