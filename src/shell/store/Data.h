@@ -34,6 +34,9 @@ private:
     std::unique_ptr<Interno> m_interno;
 };
 
+// The path of the settings database in the application folder, in the platform's form.
+QString percorsoArchivio(const QString &cartella);
+
 // The three steps that begin every access to the settings database: file, source, refresh.
 // `cartella` is the application folder; the file is Zuvora.mdb in it.
 zuvora::Recordset &apri(Data &dato, const QString &cartella, const QString &sorgente);
