@@ -9,9 +9,10 @@ namespace {
 using enum Tinta;
 
 constexpr Strato pulisci[] = {
-    {"M28 4L17 15", Nessuna, Evidenza, 3},
-    {"M12 12l8 8l-4 3.5l-7.5-7.5z", Accento, Primario},
-    {"M8.5 16l7.5 7.5l-4.5 5.5q-5-.5-8.5-4q4-.5 5.5-9z", EvidenzaChiara, Primario},
+    {"M24.67 3.04L19.19 11.81", Nessuna, Evidenza, 3},
+    {"M13.11 13.56L20.29 18.04L18.05 30.49L2.9 21.03z", EvidenzaChiara, Primario},
+    {"M11.22 20.13L8.33 23.87M15.21 22.62L13.12 26.86", Nessuna, Primario, 1.8},
+    {"M14.96 9.72L22.93 14.7L20.44 18.69L12.47 13.71z", Accento, Primario},
 };
 
 constexpr Strato cartella[] = {

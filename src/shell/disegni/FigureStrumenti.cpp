@@ -9,9 +9,11 @@ namespace {
 using enum Tinta;
 
 constexpr Strato testoScorrevole[] = {
-    {"M5 6h22a3 3 0 0 1 3 3v6a3 3 0 0 1 -3 3h-22a3 3 0 0 1 -3 -3v-6a3 3 0 0 1 3 -3z", Primario, Primario},
-    {"M7 12h2M13 12h6M23 12h6", Nessuna, Bianco, 2.5},
-    {"M27 25H6M10 21l-4 4l4 4", Nessuna, Accento, 2.5},
+    {"M5 4h22a3 3 0 0 1 3 3v9a3 3 0 0 1 -3 3h-22a3 3 0 0 1 -3 -3v-9a3 3 0 0 1 3 -3z", Primario, Primario},
+    {"M4 15.500l3-7.500l3 7.500M5 13h4M13.500 8v7.500h2.500a2 2 0 0 0 0-4.200h-2.500h2a1.650 1.650 0 0 0 0-3.300zM27 "
+     "9.200a3.700 3.700 0 1 0 0 5",
+     Nessuna, Bianco},
+    {"M27 26H6M10 22l-4 4l4 4", Nessuna, Accento, 2.5},
 };
 
 constexpr Strato servizio[] = {
@@ -110,8 +112,8 @@ constexpr Strato meteo[] = {
 };
 
 constexpr Strato secondoSchermo[] = {
-    {"M4 3h14a2 2 0 0 1 2 2v9a2 2 0 0 1 -2 2h-14a2 2 0 0 1 -2 -2v-9a2 2 0 0 1 2 -2z", Bianco, Bordo},
-    {"M8 20h5", Nessuna, Bordo},
+    {"M4 3h14a2 2 0 0 1 2 2v9a2 2 0 0 1 -2 2h-14a2 2 0 0 1 -2 -2v-9a2 2 0 0 1 2 -2z", Bianco, TestoTenue},
+    {"M6 20h4", Nessuna, TestoTenue},
     {"M13 10h15a2 2 0 0 1 2 2v10a2 2 0 0 1 -2 2h-15a2 2 0 0 1 -2 -2v-10a2 2 0 0 1 2 -2z", Accento, Primario},
     {"M20.5 25v3M16 29h9", Nessuna, Primario},
     {"M18 14.7q.6-1.7 2.5-1.7q2.5 0 2.5 2.1q0 1.5-1.8 2.9l-3.2 3h5.3", Nessuna, Bianco, 2.4},
