@@ -5,6 +5,7 @@
 #include "shell/host/Schiera.h"
 
 #include <QDialog>
+#include <concepts>
 
 namespace zuvora {
 
@@ -39,7 +40,9 @@ public:
     template <class Mittente, class Segnale, class F> void quando(Mittente &mittente, Segnale segnale, F azione) {
         QObject::connect(&mittente, segnale, this, [this, azione] { proteggi(azione); });
     }
-    template <class C, class F> void alClic(C &controllo, F azione) { quando(controllo, &C::clicked, azione); }
+    template <class C, class F>
+        requires std::derived_from<C, QWidget>
+    void alClic(C &controllo, F azione) { quando(controllo, &C::clicked, azione); }
     // One handler for a control array; it gets the index.
     template <class C, class F> void alClic(const Schiera<C> &schiera, F azione) {
         for (const auto &membro : schiera)

@@ -5,6 +5,7 @@
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -25,8 +26,12 @@ public:
             Recordset &rs = dato->Recordset();
             m_righe = rs.RecordCount();
             const QStringList nomi = rs.Fields().Names();
-            for (const Grid::Colonna &c : m_colonne)
-                m_indici.push_back(static_cast<int>(nomi.indexOf(QString::fromUtf8(c.campo), 0, Qt::CaseInsensitive)));
+            for (const Grid::Colonna &c : m_colonne) {
+                const auto trovato = std::find_if(nomi.begin(), nomi.end(), [&](const QString &nome) {
+                    return nome.compare(QString::fromUtf8(c.campo), Qt::CaseInsensitive) == 0;
+                });
+                m_indici.push_back(trovato == nomi.end() ? -1 : static_cast<int>(trovato - nomi.begin()));
+            }
         }
         endResetModel();
     }
