@@ -9,7 +9,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-const QString NonDisponibile = u"n.d."_s;
 constexpr int OltreIlPrimo = 20; // twips beyond the first screen's right edge
 
 // A number column as an int; Null and text give nothing, so that they match no constant.
@@ -26,8 +25,8 @@ std::optional<int> interoDi(const Valore &v) {
 StatoAvvio leggiStatoAvvio(Data &dato, const QString &cartella) {
     StatoAvvio stato;
     Recordset &versione = apri(dato, cartella, u"Versione"_s);
-    stato.numero = testoDi(versione[u"Numero"].Value(), NonDisponibile);
-    stato.data = testoDi(versione[u"Data"].Value(), NonDisponibile);
+    stato.numero = testoDi(versione[u"Numero"].Value(), u"n.d."_s);
+    stato.data = testoDi(versione[u"Data"].Value(), u"n.d."_s);
     Recordset &riga = apri(dato, cartella, u"Configurazione"_s);
     const int misura = interoDi(riga[u"MisuraFormWH"].Value()).value_or(0);
     stato.risoluzione = misura >= 1 && misura <= int(Risoluzioni.size()) ? misura : 0;
@@ -49,6 +48,13 @@ void salvaNominativo(Data &dato, const QString &cartella, const QString &nominat
     Recordset &riga = apri(dato, cartella, u"configurazione"_s);
     riga.Edit();
     riga[u"Nominativo"].SetValue(nominativo);
+    riga.Update();
+}
+
+void salvaAutoAccensione(Data &dato, const QString &cartella, bool accesa) {
+    Recordset &riga = apri(dato, cartella, u"Configurazione"_s);
+    riga.Edit();
+    riga[u"TempoChiamata"].SetValue(accesa ? 1 : 2);
     riga.Update();
 }
 

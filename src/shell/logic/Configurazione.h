@@ -42,6 +42,9 @@ inline constexpr std::array<Risoluzione, 4> Risoluzioni = {{
     {u" Risoluzione 1080 x 1920 (TV Full-HD-V)", 28800, 16200},
 }};
 
+// Whether the call display starts by itself: stored as 1 or 2, never 0.
+void salvaAutoAccensione(Data &dato, const QString &cartella, bool accesa);
+
 // `misura` is 1 to 4.
 void salvaRisoluzione(Data &dato, const QString &cartella, int misura);
 
