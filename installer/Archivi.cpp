@@ -31,7 +31,7 @@ void riempiTutto(Sqlite &db, const Archivio &archivio, const QString &cartella, 
     for (const Tabella &tabella : archivio.tabelle)
         riempi(db, tabella, cartella, esempio);
     db.esegui("COMMIT");
-    if (db.leggi(u"PRAGMA quick_check"_s) != QList{QStringList{u"ok"_s}})
+    if (!db.integro())
         throw Guasto{
             u"%1 appena creato non supera il controllo: verificare il disco e riprovare."_s.arg(archivio.file)};
 }

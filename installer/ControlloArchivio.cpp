@@ -85,7 +85,7 @@ void ControlloArchivio::controlla() {
     }
     try {
         Sqlite db = Sqlite::solaLettura(m_file);
-        if (db.leggi(u"PRAGMA quick_check(1)"_s) == QList{QStringList{u"ok"_s}})
+        if (db.integro())
             m_db.emplace(std::move(db));
         else
             segnala(danneggiato);

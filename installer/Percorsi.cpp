@@ -19,7 +19,7 @@ QString conBarre(QString percorso) {
     return percorso.replace(u'\\', u'/');
 }
 
-constexpr bool sistemaConUnita() {
+bool sistemaConUnita() {
     return QDir::separator() == u'\\';
 }
 } // namespace

@@ -91,4 +91,8 @@ QList<QStringList> Sqlite::leggi(const QString &sql) {
     return righe;
 }
 
+bool Sqlite::integro() {
+    return leggi(u"PRAGMA quick_check(1)"_s).value(0).value(0) == u"ok"_s;
+}
+
 } // namespace zuvora::installa

@@ -48,6 +48,7 @@ public:
     void esegui(const QByteArray &sql); // any number of statements, without results
     Istruzione prepara(const QString &sql) { return {m_db.get(), sql}; }
     QList<QStringList> leggi(const QString &sql); // all rows as text
+    bool integro();                               // the engine's own check of the file
 
 private:
     struct Fine {
