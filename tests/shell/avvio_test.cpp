@@ -152,8 +152,9 @@ TEST_F(Avvio, ArchivioTroncato) {
     ASSERT_TRUE(f.resize(f.size() / 3));
     const QByteArray prima = prova.contenuto();
     const int esito = esegui();
-    if (esito != 0)
+    if (esito != 0) {
         EXPECT_FALSE(prova.dialoghi.unicoMessaggio().isEmpty());
+    }
     EXPECT_EQ(prova.contenuto(), prima);
 }
 

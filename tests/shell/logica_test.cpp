@@ -35,7 +35,7 @@ TEST(Nominativo, SoloServer1EPrincipale) {
 
 TEST(Versione, SoloLeCinquePrecedentiSiAggiornano) {
     for (const QStringView breve : {u"3.1.0", u"3.1.6", u"3.1.8", u"3.1.9", u"3.1.10"})
-        EXPECT_EQ(versioneDaAggiornare(u"Versione "_s + breve), breve.toString());
+        EXPECT_EQ(versioneDaAggiornare(u"Versione "_s + breve.toString()), breve.toString());
     for (const QStringView altra :
          {u"Versione 3.1.7", u"Versione 3.1.11", u"versione 3.1.8", u"Versione 3.1.8 ", u"n.d.", u"3.1.8", u""})
         EXPECT_FALSE(versioneDaAggiornare(altra)) << altra.toString().toStdString();
