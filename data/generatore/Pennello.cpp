@@ -118,10 +118,16 @@ QBrush sfumato(const QRectF &r, const QColor &alto, const QColor &basso) {
     return g;
 }
 
-void ombra(QPainter &p, QSize misura, const QPainterPath &forma, QPointF scarto, int raggio, const QColor &colore) {
-    QImage macchia = dipinto(misura, [&](QPainter &q) { q.fillPath(forma.translated(scarto), colore); });
+void ombra(QPainter &p, const QPainterPath &forma, QPointF scarto, int raggio, const QColor &colore) {
+    const QPainterPath sagoma = forma.translated(scarto);
+    const int orlo = 2 * raggio;
+    const QRect area = sagoma.boundingRect().toAlignedRect().adjusted(-orlo, -orlo, orlo, orlo);
+    QImage macchia = dipinto(area.size(), [&](QPainter &q) {
+        q.translate(-area.topLeft());
+        q.fillPath(sagoma, colore);
+    });
     sfoca(macchia, std::max(1, raggio / 2));
-    p.drawImage(0, 0, macchia);
+    p.drawImage(area.topLeft(), macchia);
 }
 
 bool carattereDisponibile() {
