@@ -1,0 +1,40 @@
+#pragma once
+
+#include "designer/logic/DisplayLayout.h"
+#include "designer/logic/TrascinamentoVivo.h"
+
+#include <QString>
+
+namespace zuvora {
+
+// The size under test of the news box (WB22), grown and shrunk in steps of 100 twips. A step never makes it smaller
+// than one step.
+class AnteprimaTG {
+public:
+    static constexpr double passo = 100;
+    static constexpr double massimo = 491505; // twips: the largest place a form can give
+
+    explicit AnteprimaTG(const DisplayLayout &layout);
+
+    Dimensione WB22() const { return m_dimensione; }
+    Dimensione GB1() const { return {m_dimensione.width + m_bordoX, m_dimensione.height + m_bordoY}; }
+    QString A1() const; // the width as text
+    QString A2() const; // the height as text
+
+    void Allarga() { cambia(m_dimensione.width, passo); }
+    void Stringi() { cambia(m_dimensione.width, -passo); }
+    void Alza() { cambia(m_dimensione.height, passo); }
+    void Abbassa() { cambia(m_dimensione.height, -passo); }
+
+    // Gives the size in the two boxes to WB2, which keeps its place. Empty when done; else an Italian sentence, and WB2
+    // keeps its size: the texts must be numbers above 0.
+    static QString Accetta(DisplayLayout &layout, const QString &A1, const QString &A2);
+
+private:
+    static void cambia(double &misura, double di);
+    static constexpr double m_bordoX = 240;
+    static constexpr double m_bordoY = 480;
+    Dimensione m_dimensione;
+};
+
+} // namespace zuvora

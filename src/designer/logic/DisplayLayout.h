@@ -1,0 +1,78 @@
+#pragma once
+
+#include "designer/logic/LayoutElement.h"
+
+#include <QList>
+#include <QString>
+#include <QStringView>
+#include <array>
+
+namespace zuvora {
+
+inline constexpr int righeLayout = 70;
+inline constexpr int numeroPannelli = 8;
+inline constexpr int numeroDecorazioni = 25;
+inline constexpr int numeroLayout = 11; // the base and Layout1 to Layout10
+
+// The table of a layout by its number: 0 the base, 1 to 10 the others. Other numbers give an empty name.
+QString tabellaLayout(int numero);
+// The number of a layout table, -1 for any other name. Without regard to case.
+int numeroLayoutDi(QStringView tabella);
+// A file of the application folder, as the platform writes paths; `relativo` with slashes, as u"a/b.gif".
+QString percorsoIn(const QString &cartella, QStringView relativo);
+
+// One layout of the call display: its 70 elements in row order, the stacking order and the decorations' paths and
+// planes. It is the only copy while the designer is open. An element's number ("posto") is its row counted from 0.
+class DisplayLayout {
+public:
+    // All elements at their start values.
+    explicit DisplayLayout(QString nomeTabella);
+
+    const QString &NomeTabella() const { return m_nomeTabella; }
+    bool eBase() const; // the master layout, in which most elements don't answer the mouse
+
+    LayoutElement &operator[](int posto) { return m_elementi[static_cast<std::size_t>(posto)]; }
+    const LayoutElement &operator[](int posto) const { return m_elementi[static_cast<std::size_t>(posto)]; }
+    auto begin() { return m_elementi.begin(); }
+    auto end() { return m_elementi.end(); }
+    auto begin() const { return m_elementi.begin(); }
+    auto end() const { return m_elementi.end(); }
+
+    // The element of a kind; `indice` as in its name (0 for single elements, decorations from 1).
+    LayoutElement &elemento(TipoElemento tipo, int indice = 0);
+    const LayoutElement &elemento(TipoElemento tipo, int indice = 0) const;
+    // The number of an element, -1 when there is none. By name as in "Text1(5)" and "WB1".
+    static int postoDi(TipoElemento tipo, int indice = 0);
+    static int postoDi(QStringView nome);
+
+    // The hidden label's text: the background's path as a save writes it. "Label2" until a path is set.
+    QString &Label2() { return elemento(TipoElemento::Label2).didascalia; }
+    const QString &Label2() const { return elemento(TipoElemento::Label2).didascalia; }
+    // The canvas: coloreSfondo is the colour of the screen, immagine the path of the background actually shown.
+    LayoutElement &tela() { return elemento(TipoElemento::Tela); }
+    const LayoutElement &tela() const { return elemento(TipoElemento::Tela); }
+
+    // Index i belongs to Image1(i); index 0 holds nothing.
+    std::array<QString, numeroDecorazioni + 1> PercorsiDecorazione;
+    std::array<QString, numeroDecorazioni + 1> PianiDecorazione; // "avanti" (in front) or "dietro" (behind)
+
+    // Numbers of the elements on the canvas, from the bottom of the stack to its top. Labels lie on their panel.
+    const QList<int> &ordine() const { return m_ordine; }
+    void portaAvanti(int posto); // to the top of the stack
+    void mandaDietro(int posto); // to its bottom
+    // Plane of decoration i: the word and the place in the stack.
+    void impostaPiano(int i, bool avanti);
+    bool inPrimoPiano(int i) const;
+
+    // An element's place on the canvas in twips: a label's panel and its place in it taken together.
+    Area areaSullaTela(int posto) const;
+    // The topmost visible element at a point of the canvas (twips), -1 on the bare canvas.
+    int elementoSotto(double x, double y) const;
+
+private:
+    QString m_nomeTabella;
+    std::array<LayoutElement, righeLayout> m_elementi;
+    QList<int> m_ordine;
+};
+
+} // namespace zuvora
