@@ -1,9 +1,15 @@
 #pragma once
 
+#include "installer/Crea.h"
+
 #include <QMap>
 #include <QString>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <ostream>
+
+// Readable texts in failures.
+inline void PrintTo(const QString &testo, std::ostream *dove) { *dove << '"' << testo.toStdString() << '"'; }
 
 // What the tests of the installer share.
 namespace prova {
@@ -20,6 +26,8 @@ private:
     QTemporaryDir m_cartella;
 };
 
+// An installation without the program, its pictures from beside the tool.
+zuvora::installa::OpzioniCrea opzioni(const QString &cartella, bool esempio);
 // Runs one statement on a database file, writing; gives the first value of the first row, or a null text.
 QString sql(const QString &archivio, const QString &istruzione);
 QByteArray leggi(const QString &file);
