@@ -9,7 +9,9 @@
 #include <ostream>
 
 // Readable texts in failures.
-inline void PrintTo(const QString &testo, std::ostream *dove) { *dove << '"' << testo.toStdString() << '"'; }
+inline void PrintTo(const QString &testo, std::ostream *dove) {
+    *dove << '"' << testo.toStdString() << '"';
+}
 
 // What the tests of the installer share.
 namespace prova {

@@ -77,10 +77,10 @@ TEST_F(Contenuto, OgniLayoutHaLeSueRigheInOrdine) {
 TEST_F(Contenuto, ILayoutStannoNelloSchermoSenzaSovrapporsi) {
     impianto(false);
     const QMap<QString, QSizeF> schermi{{u"LayoutBase"_s, {28800, 16200}},
-                                       {u"Layout1"_s, {28800, 16200}},
-                                       {u"Layout2"_s, {28800, 16200}},
-                                       {u"Layout3"_s, {16200, 28800}},
-                                       {u"Layout4"_s, {15360, 11520}}};
+                                        {u"Layout1"_s, {28800, 16200}},
+                                        {u"Layout2"_s, {28800, 16200}},
+                                        {u"Layout3"_s, {16200, 28800}},
+                                        {u"Layout4"_s, {15360, 11520}}};
     for (auto it = schermi.begin(); it != schermi.end(); ++it) {
         const QList<QRectF> presenti = riquadri(it.key());
         EXPECT_GE(presenti.size(), 6);
