@@ -12,6 +12,11 @@ QString Banco::percorso(const QString &nome) const {
     return m_cartella.filePath(nome);
 }
 
+QString Banco::modello() {
+    const QFileInfo memoria(u"/dev/shm"_s);
+    return (memoria.isWritable() ? memoria.filePath() : QDir::tempPath()) + u"/prova-XXXXXX"_s;
+}
+
 QString Banco::impianto(bool esempio) {
     const QString cartella = percorso(u"impianto"_s);
     const auto esito = zuvora::installa::creaInstallazione(opzioni(cartella, esempio));

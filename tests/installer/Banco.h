@@ -25,7 +25,8 @@ protected:
     void scrivi(const QString &nome, const QByteArray &contenuto) const; // with the folders it needs
 
 private:
-    QTemporaryDir m_cartella;
+    QTemporaryDir m_cartella{modello()};
+    static QString modello(); // in memory where the system offers that: each installation waits for the disk
 };
 
 // An installation without the program, its pictures from beside the tool.
