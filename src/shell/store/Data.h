@@ -1,8 +1,10 @@
 #pragma once
 
+#include "shell/store/Attesa.h"
 #include "shell/store/Recordset.h"
 
 #include <QString>
+#include <QStringView>
 #include <functional>
 #include <memory>
 
@@ -19,6 +21,7 @@ public:
 
     QString DatabaseName;
     QString RecordSource;
+    std::chrono::milliseconds attesa = kAttesaBlocco; // how long to wait for another program's lock; read by Refresh
 
     // Opens the record set anew on the two and places it on the first record. On failure throws EngineError and leaves
     // no record set open. Never creates a file.
@@ -33,6 +36,12 @@ private:
     struct Interno;
     std::unique_ptr<Interno> m_interno;
 };
+
+inline constexpr QStringView NomeArchivio = u"Zuvora.mdb";
+
+// The path of the settings database in the application folder, in the platform's form. A file whose name differs only
+// in case is found too.
+QString percorsoArchivio(const QString &cartella);
 
 // The three steps that begin every access to the settings database: file, source, refresh.
 // `cartella` is the application folder; the file is Zuvora.mdb in it.

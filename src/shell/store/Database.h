@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/store/Attesa.h"
+
 #include <QString>
 #include <QStringList>
 #include <memory>
@@ -19,9 +21,9 @@ struct Campo {
 // A database file opened for what a record set can't do. Never creates a file. Every operation throws EngineError.
 class Database {
 public:
-    // Opens the file at `percorso`. Throws 3024 when it is missing, 3044 when its folder is, 3343 when it is no database
-    // (an empty file included), 3049 when it is damaged.
-    static Database OpenDatabase(const QString &percorso);
+    // Opens the file at `percorso`. Throws 3024 when it is missing, 3044 when its folder is, 3343 when it is no
+    // database (an empty file included), 3049 when it is damaged.
+    static Database OpenDatabase(const QString &percorso, std::chrono::milliseconds attesa = kAttesaBlocco);
     ~Database();
     Database(Database &&) noexcept;
     Database &operator=(Database &&) noexcept;
@@ -61,8 +63,10 @@ public:
     };
 
     ElencoTabelle TableDefs();
-    // Runs one SQL statement that changes something. A select is refused with 3075, as the engine does.
+    // Runs one SQL statement that changes something. A select is refused with 3065, as the engine does.
     void Execute(const QString &sql);
+    // The engine's own check of the whole file: one finding a line, empty when it is sound.
+    QStringList verifica();
     void Close();
 
 private:

@@ -7,25 +7,27 @@ namespace zuvora {
 
 // The engine's failure numbers that the program tells apart. The sibling programs know the same numbers.
 enum class Errore : int {
-    PercorsoFile = 75,          // path/file access error
-    PercorsoNonTrovato = 76,    // path not found
-    GiaAperto = 3006,           // the database is held exclusively by another process
-    TabellaNonTrovata = 3078,   // no such table
-    ModificaNonIniziata = 3020, // Update without Edit or AddNew
-    NessunRecord = 3021,        // no current record
-    FileNonTrovato = 3024,      // the database file does not exist
-    DiscoPieno = 3026,          // not enough space on disk
-    SolaLettura = 3027,         // database, object or record set is read-only
-    PercorsoNonValido = 3044,   // the folder of the database is not a valid path
-    FileDanneggiato = 3049,     // the file can't be opened or its content is damaged
-    Accesso = 3051,             // no permission to open the file
-    Sintassi = 3075,            // the SQL text or criterion is not well formed
-    Bloccato = 3260,            // locked by another process longer than the store waits
-    ColonnaNonTrovata = 3265,   // no such column (or no such item in a collection)
-    NonDatabase = 3343,         // the file is not a database
-    ColonnaGiaPresente = 3380,  // a column of that name exists already
-    TipoNonValido = 3421,       // a value can't be converted to the column's type
-    Altro = 3000                // anything else the engine reports
+    PercorsoFile = 75,            // path/file access error
+    PercorsoNonTrovato = 76,      // path not found
+    GiaAperto = 3006,             // the database is held exclusively by another process
+    TabellaNonTrovata = 3078,     // no such table
+    ModificaNonIniziata = 3020,   // Update without Edit or AddNew
+    NessunRecord = 3021,          // no current record
+    FileNonTrovato = 3024,        // the database file does not exist
+    DiscoPieno = 3026,            // not enough space on disk
+    SolaLettura = 3027,           // database, object or record set is read-only
+    DiscoRete = 3043,             // disk or network error while reading or writing
+    PercorsoNonValido = 3044,     // the folder of the database is not a valid path
+    FileDanneggiato = 3049,       // the file can't be opened or its content is damaged
+    Accesso = 3051,               // no permission to open the file
+    SelezioneInEsecuzione = 3065, // Execute was given a select
+    Sintassi = 3075,              // the SQL text or criterion is not well formed
+    Bloccato = 3260,              // locked by another process longer than the store waits
+    ColonnaNonTrovata = 3265,     // no such column (or no such item in a collection)
+    NonDatabase = 3343,           // the file is not a database
+    ColonnaGiaPresente = 3380,    // a column of that name exists already
+    TipoNonValido = 3421,         // a value can't be converted to the column's type
+    Altro = 3000                  // anything else the engine reports
 };
 
 // A failure of the store: the engine's number, an Italian sentence for the user (what failed and what to do) and the

@@ -23,9 +23,10 @@ public:
     // One column of the current record, or of the record being added.
     class Field {
     public:
-        Valore Value() const;             // 3021 without a current record, 3265 when there is no such column
-        void SetValue(const Valore &v);   // kept until Update; 3020 outside Edit/AddNew; 3421 when it does not convert
+        Valore Value() const;           // 3021 without a current record, 3265 when there is no such column
+        void SetValue(const Valore &v); // kept until Update; 3020 outside Edit/AddNew; 3421 when it does not convert
         QString Name() const;
+        QString TipoDichiarato() const; // the column's type as the table declares it, in capitals ("BOOLEAN", "DATE")
 
     private:
         friend class Recordset;
@@ -48,12 +49,12 @@ public:
     Campi Fields();
     Field operator[](QStringView nome); // Fields().Item(nome)
 
-    int RecordCount() const; // 0 when empty; exact from the start
-    bool Bof() const;        // before the first record (also when empty)
-    bool Eof() const;        // behind the last record (also when empty)
-    void MoveFirst();        // 3021 when empty
-    void MoveLast();         // 3021 when empty
-    void MoveNext();         // from the last record to Eof; 3021 at Eof
+    int RecordCount() const;              // 0 when empty; exact from the start
+    bool Bof() const;                     // before the first record (also when empty)
+    bool Eof() const;                     // behind the last record (also when empty)
+    void MoveFirst();                     // 3021 when empty
+    void MoveLast();                      // 3021 when empty
+    void MoveNext();                      // from the last record to Eof; 3021 at Eof
     int AbsolutePosition() const;         // 0-based place of the current record, -1 without one
     void SetAbsolutePosition(int indice); // 3021 when out of range
 
@@ -74,6 +75,7 @@ private:
     friend class Data;
     struct Stato;
     explicit Recordset(std::unique_ptr<Stato> stato);
+    Stato &stato() const; // 3021 when nothing is open
     std::unique_ptr<Stato> m_stato;
 };
 

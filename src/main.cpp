@@ -1,0 +1,19 @@
+// The composition root: the only place that knows every form.
+#include "shell/forms/Avvio.h"
+#include "shell/host/QtDialoghi.h"
+#include "shell/host/QtPiattaforma.h"
+#include "shell/host/Stile.h"
+
+#include <QApplication>
+
+using namespace zuvora;
+
+int main(int argc, char *argv[]) {
+    QApplication applicazione(argc, argv);
+    preparaAspetto(applicazione);
+    ValoriCondivisi valori;
+    QtDialoghi dialoghi;
+    QtPiattaforma piattaforma("zuvora-modulo-impostazione");
+    const Ambiente ambiente{valori, dialoghi, piattaforma};
+    return eseguiProgramma(ambiente, {}, QUrl(QStringLiteral(ZUVORA_SITO)));
+}

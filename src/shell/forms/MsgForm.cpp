@@ -1,0 +1,48 @@
+#include "shell/forms/MsgForm.h"
+
+namespace zuvora {
+namespace {
+
+constexpr int Chiudi = 0;
+constexpr int Conferma = 1;
+
+} // namespace
+
+MsgForm::MsgForm(const Ambiente &ambiente_, const QString &riga0, const QString &riga1, bool domanda, QWidget *padre)
+    : Form(ambiente_, "MsgForm", "", {8400, 5040}, padre),
+      Image1(this, "Image1", {120, 120, 3480, 4800}, Disegno::SalaAttesa),
+      Label1(this, "Label1", "Messaggio x te  da Zuvora", {3840, 360, 3975, 315}),
+      Label2(this, "Label2", {{0, "", {3840, 2040, 4320, 255}}, {1, "", {3840, 2400, 4320, 255}}}),
+      PB1(this, "PB1", {{Conferma, "&Conferma", {6000, 4440, 975, 330}}, {Chiudi, "C&hiudi", {6960, 4440, 975, 330}}}) {
+    QFont titolo = font();
+    titolo.setPointSizeF(11);
+    titolo.setBold(true);
+    Label1.setFontBase(titolo);
+    const QString righe[] = {riga0, riga1};
+    for (const auto &[indice, label] : Label2) {
+        label->setCaption(righe[indice]);
+        label->setVisible(!righe[indice].isEmpty());
+    }
+    PB1(Conferma).setVisible(domanda);
+    setAccessibleName(Label1.Caption());
+    setAccessibleDescription(riga0 + QLatin1Char(' ') + riga1);
+    alClic(PB1, [this](int indice) { rispondi(indice == Conferma ? RispostaConferma : RispostaResta); });
+    valori().RispostaMessaggio = RispostaResta; // what stands when the form is closed by its frame
+    PB1(Chiudi).setFocus();
+}
+
+void MsgForm::rispondi(int risposta) {
+    valori().RispostaMessaggio = risposta;
+    scarica();
+}
+
+void mostraMessaggio(const Ambiente &ambiente, QWidget *padre, const QString &riga0, const QString &riga1) {
+    MsgForm(ambiente, riga0, riga1, false, padre).mostraModale();
+}
+
+bool chiediConferma(const Ambiente &ambiente, QWidget *padre, const QString &riga0, const QString &riga1) {
+    MsgForm(ambiente, riga0, riga1, true, padre).mostraModale();
+    return ambiente.valori.RispostaMessaggio != RispostaResta;
+}
+
+} // namespace zuvora

@@ -1,0 +1,57 @@
+#include "shell/forms/PaginaClient.h"
+
+#include "shell/forms/MsgForm.h"
+#include "shell/host/Piattaforma.h"
+#include "shell/logic/Configurazione.h"
+#include "shell/logic/Numeri.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr int Altezza = 4335;
+constexpr int TopAperta = 1680;
+
+} // namespace
+
+PaginaClient::PaginaClient(Form &pannello, bool principale)
+    : Pagina(&pannello, "BoxImpostazioni(1)", Altezza, TopAperta), m_pannello(pannello) {
+    ipS1.setAccessibleName(u"Indirizzo del server"_s);
+    LaPorta.setAccessibleName(u"Porta di ascolto del server"_s);
+    NameS1.setAccessibleName(u"Nome della macchina del server"_s);
+    for (Edit *campo : {&ipS1, &LaPorta, &NameS1})
+        campo->setToolTip(campo->accessibleName());
+    LaPorta.setTastiAmmessi(soloCifre);
+    pannello.alClic(SaveIP, [this] { salva(); });
+    applicaNominativo(principale);
+}
+
+void PaginaClient::applicaNominativo(bool principale) {
+    GroupBox1.setVisible(principale);
+    SaveIP.setVisible(principale);
+}
+
+void PaginaClient::riempi() {
+    const DatiServer server = leggiDatiServer(Data99, m_pannello.cartella());
+    LaPorta.setText(server.porta);
+    (server.tipo == TipoChiamata::Automatica ? XZ_0 : XZ_1).setChecked(true);
+    const Piattaforma &piattaforma = m_pannello.ambiente().piattaforma;
+    ipS1.setText(piattaforma.indirizzoLocale());
+    NameS1.setText(piattaforma.nomeMacchina());
+}
+
+void PaginaClient::salva() {
+    if (!eNumerico(LaPorta.text())) {
+        mostraMessaggio(m_pannello.ambiente(), &m_pannello, u"Inserire porta di ascolto Server !"_s);
+        return;
+    }
+    DatiServer server{ipS1.text(), NameS1.text(), LaPorta.text(), std::nullopt};
+    if (XZ_0.isChecked())
+        server.tipo = TipoChiamata::Automatica;
+    if (XZ_1.isChecked())
+        server.tipo = TipoChiamata::Selettiva;
+    salvaDatiServer(Data99, m_pannello.cartella(), server);
+}
+
+} // namespace zuvora

@@ -1,0 +1,38 @@
+#include "shell/forms/PaginaPosizione.h"
+
+#include "shell/host/Piattaforma.h"
+
+namespace zuvora {
+namespace {
+
+constexpr int LeftPrimo = 840;
+constexpr int LeftSecondo = 3600;
+
+} // namespace
+
+PaginaPosizione::PaginaPosizione(Form &pannello) : Pagina(&pannello, "BoxImpostazioni(4)"), m_pannello(pannello) {
+    QFont cifra = font();
+    cifra.setPointSizeF(16);
+    cifra.setBold(true);
+    for (Label *numero : {&Label1_4, &Label1_3}) {
+        numero->setFontBase(cifra);
+        numero->setAlignment(Qt::AlignCenter);
+    }
+    pannello.alClic(PosSchermo, [this](int indice) { scegli(indice == 0 ? Schermo::Primo : Schermo::Secondo); });
+}
+
+void PaginaPosizione::riempi() {
+    segna(leggiSchermo(Data99, m_pannello.cartella()));
+}
+
+void PaginaPosizione::scegli(Schermo schermo) {
+    const int larghezza = twipsDa(m_pannello.ambiente().piattaforma.schermo().width());
+    salvaSchermo(Data99, m_pannello.cartella(), schermo, larghezza);
+    segna(schermo);
+}
+
+void PaginaPosizione::segna(Schermo schermo) {
+    Image4.setLeft(schermo == Schermo::Primo ? LeftPrimo : LeftSecondo);
+}
+
+} // namespace zuvora

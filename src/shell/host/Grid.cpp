@@ -1,0 +1,143 @@
+#include "shell/host/Grid.h"
+
+#include "shell/store/Data.h"
+#include "shell/store/EngineError.h"
+
+#include <QAbstractTableModel>
+#include <QHeaderView>
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+
+// The rows of a record set, read one by one as the view asks for them.
+class ModelloDati : public QAbstractTableModel {
+public:
+    ModelloDati(std::vector<Grid::Colonna> colonne, QObject *padre)
+        : QAbstractTableModel(padre), m_colonne(std::move(colonne)) {}
+
+    void ricarica(Data *dato) {
+        beginResetModel();
+        m_dato = dato;
+        m_righe = 0;
+        m_indici.clear();
+        if (dato != nullptr && dato->aperto()) {
+            Recordset &rs = dato->Recordset();
+            m_righe = rs.RecordCount();
+            const QStringList nomi = rs.Fields().Names();
+            for (const Grid::Colonna &c : m_colonne) {
+                const auto trovato = std::find_if(nomi.begin(), nomi.end(), [&](const QString &nome) {
+                    return nome.compare(QString::fromUtf8(c.campo), Qt::CaseInsensitive) == 0;
+                });
+                m_indici.push_back(trovato == nomi.end() ? -1 : static_cast<int>(trovato - nomi.begin()));
+            }
+        }
+        endResetModel();
+    }
+    void cambiata(int riga) { Q_EMIT dataChanged(index(riga, 0), index(riga, columnCount() - 1)); }
+
+    int rowCount(const QModelIndex &padre = {}) const override { return padre.isValid() ? 0 : m_righe; }
+    int columnCount(const QModelIndex &padre = {}) const override {
+        return padre.isValid() ? 0 : static_cast<int>(m_colonne.size());
+    }
+    QVariant data(const QModelIndex &indice, int ruolo) const override {
+        if (ruolo != Qt::DisplayRole && ruolo != Qt::ToolTipRole)
+            return {};
+        return testo(indice.row(), indice.column());
+    }
+    QVariant headerData(int sezione, Qt::Orientation verso, int ruolo) const override {
+        if (verso != Qt::Horizontal || ruolo != Qt::DisplayRole)
+            return {};
+        return QString::fromUtf8(m_colonne.at(static_cast<std::size_t>(sezione)).titolo);
+    }
+    QString testo(int riga, int colonna) const {
+        const int indice = m_indici.value(colonna, -1);
+        if (m_dato == nullptr || !m_dato->aperto() || indice < 0 || riga < 0 || riga >= m_righe)
+            return {};
+        try {
+            const Valore v = m_dato->Recordset().leggi(riga, indice);
+            if (v.typeId() == QMetaType::Bool)
+                return v.toBool() ? u"Sì"_s : u"No"_s;
+            return testoDi(v, {});
+        } catch (const EngineError &) {
+            return u"(non leggibile)"_s; // the list stays; the next action on the row tells why
+        }
+    }
+
+private:
+    std::vector<Grid::Colonna> m_colonne;
+    QList<int> m_indici;
+    Data *m_dato = nullptr;
+    int m_righe = 0;
+};
+
+Grid::Grid(QWidget *padre, const char *nome, const Posto &posto, std::vector<Colonna> colonne)
+    : Controllo(padre, nome, posto), m_modello(new ModelloDati(colonne, this)) {
+    setModel(m_modello);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setAlternatingRowColors(true);
+    verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 7);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    for (std::size_t i = 0; i < colonne.size(); ++i) {
+        const int sezione = static_cast<int>(i);
+        if (colonne[i].larghezza > 0)
+            horizontalHeader()->resizeSection(sezione, pixelDa(colonne[i].larghezza));
+        else
+            horizontalHeader()->setSectionResizeMode(sezione, QHeaderView::Stretch);
+    }
+    connect(this, &QTableView::clicked, this, &Grid::cliccata);
+    connect(this, &QTableView::doubleClicked, this, &Grid::doppioClic);
+}
+
+Grid::~Grid() = default;
+
+void Grid::lega(Data &dato) {
+    m_dato = &dato;
+    dato.seAggiornato([this] { riempi(); });
+    if (dato.aperto())
+        riempi();
+}
+
+void Grid::riempi() {
+    m_riempimento = true;
+    m_modello->ricarica(m_dato);
+    if (m_modello->rowCount() > 0)
+        setCurrentIndex(m_modello->index(0, 0));
+    m_riempimento = false;
+}
+
+int Grid::Rows() const {
+    return m_modello->rowCount();
+}
+
+int Grid::Row() const {
+    return currentIndex().row();
+}
+
+QString Grid::testo(int riga, int colonna) const {
+    return m_modello->testo(riga, colonna);
+}
+
+void Grid::ridisegna() {
+    if (Row() >= 0)
+        m_modello->cambiata(Row());
+}
+
+void Grid::currentChanged(const QModelIndex &attuale, const QModelIndex &precedente) {
+    QTableView::currentChanged(attuale, precedente);
+    if (m_dato == nullptr || !m_dato->aperto() || !attuale.isValid())
+        return;
+    if (m_dato->Recordset().AbsolutePosition() != attuale.row())
+        m_dato->Recordset().SetAbsolutePosition(attuale.row());
+    if (!m_riempimento)
+        Q_EMIT cliccata();
+}
+
+} // namespace zuvora

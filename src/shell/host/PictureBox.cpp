@@ -1,0 +1,62 @@
+#include "shell/host/PictureBox.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+namespace zuvora {
+
+PictureBox::PictureBox(QWidget *padre, const char *nome, const Posto &posto) : Controllo(padre, nome, posto) {}
+
+PictureBox::PictureBox(QWidget *padre, const char *nome, const Posto &posto, Disegno disegno)
+    : Controllo(padre, nome, posto), m_disegno(disegno) {}
+
+void PictureBox::setDisegno(Disegno disegno) {
+    m_disegno = disegno;
+    m_immagine = {};
+    update();
+}
+
+void PictureBox::setImmagine(const QPixmap &immagine) {
+    m_disegno.reset();
+    m_immagine = immagine;
+    update();
+}
+
+void PictureBox::rendiCliccabile(const QString &nomeAccessibile) {
+    m_cliccabile = true;
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::TabFocus);
+    setAccessibleName(nomeAccessibile);
+    setToolTip(nomeAccessibile);
+}
+
+void PictureBox::paintEvent(QPaintEvent *) {
+    QPainter pittore(this);
+    pittore.setRenderHint(QPainter::SmoothPixmapTransform);
+    if (m_disegno)
+        dipingi(pittore, *m_disegno, rect());
+    else if (!m_immagine.isNull())
+        pittore.drawPixmap(rect(), m_immagine);
+    if (!hasFocus())
+        return;
+    QStyleOptionFocusRect opzione;
+    opzione.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &opzione, &pittore, this);
+}
+
+void PictureBox::mouseReleaseEvent(QMouseEvent *e) {
+    if (m_cliccabile && e->button() == Qt::LeftButton && rect().contains(e->position().toPoint()))
+        Q_EMIT clicked();
+}
+
+void PictureBox::keyPressEvent(QKeyEvent *e) {
+    const bool premi = e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter || e->key() == Qt::Key_Space;
+    if (m_cliccabile && premi)
+        Q_EMIT clicked();
+    else
+        QWidget::keyPressEvent(e);
+}
+
+} // namespace zuvora

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "shell/disegni/Disegni.h"
+#include "shell/host/Controllo.h"
+
+#include <QPixmap>
+#include <QWidget>
+#include <optional>
+
+namespace zuvora {
+
+// A picture on a form: one of the program's drawings, or a picture file's image stretched to the control's size.
+class PictureBox : public Controllo<QWidget> {
+    Q_OBJECT
+public:
+    PictureBox(QWidget *padre, const char *nome, const Posto &posto);
+    PictureBox(QWidget *padre, const char *nome, const Posto &posto, Disegno disegno);
+
+    void setDisegno(Disegno disegno);
+    void setImmagine(const QPixmap &immagine); // a null one clears the picture
+    bool vuota() const { return !m_disegno && m_immagine.isNull(); }
+    // A picture that is clicked: it takes the hand cursor and the keyboard focus.
+    void rendiCliccabile(const QString &nomeAccessibile);
+
+Q_SIGNALS:
+    void clicked();
+
+protected:
+    void paintEvent(QPaintEvent *e) override;
+    void mouseReleaseEvent(QMouseEvent *e) override;
+    void keyPressEvent(QKeyEvent *e) override;
+
+private:
+    std::optional<Disegno> m_disegno;
+    QPixmap m_immagine;
+    bool m_cliccabile = false;
+};
+
+} // namespace zuvora

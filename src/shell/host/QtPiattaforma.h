@@ -1,0 +1,30 @@
+#pragma once
+
+#include "shell/host/Piattaforma.h"
+
+#include <memory>
+
+namespace zuvora {
+
+// The platform as Qt and POSIX give it. `chiaveIstanza` names what may run once on a machine.
+class QtPiattaforma : public Piattaforma {
+public:
+    explicit QtPiattaforma(QByteArray chiaveIstanza);
+    ~QtPiattaforma() override;
+
+    QString cartellaEseguibile() const override;
+    bool altraIstanza() override;
+    QString nomeMacchina() const override;
+    QString indirizzoLocale() const override;
+    const SistemaMonitor &monitor() const override;
+    QSize schermo() const override;
+    void svuotaAppunti() override;
+    bool apriNelBrowser(const QUrl &indirizzo) override;
+
+private:
+    QByteArray m_chiave;
+    int m_guardia = -1; // socket that holds the instance's name
+    std::unique_ptr<SistemaMonitor> m_monitor;
+};
+
+} // namespace zuvora

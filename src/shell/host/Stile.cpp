@@ -1,0 +1,75 @@
+#include "shell/host/Stile.h"
+
+#include "shell/disegni/Disegni.h"
+#include "shell/disegni/Tavolozza.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFontDatabase>
+#include <QPalette>
+#include <QStyleFactory>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+// Where Tahoma lies when the font system doesn't list it.
+constexpr std::array<const char *, 2> FileTahoma = {"/usr/share/wine/fonts/tahoma.ttf", "/usr/share/wine/fonts/tahomabd.ttf"};
+
+QFont fontCasa() {
+    for (const char *file : FileTahoma)
+        if (QFile::exists(QString::fromLatin1(file)))
+            QFontDatabase::addApplicationFont(QString::fromLatin1(file));
+    QFont font(u"Tahoma"_s);
+    font.setPointSizeF(8.25);
+    font.setStyleHint(QFont::SansSerif);
+    return font;
+}
+
+struct Ruolo {
+    QPalette::ColorRole ruolo;
+    QColor colore;
+};
+constexpr std::array<Ruolo, 18> Ruoli = {{
+    {QPalette::Window, tavolozza::sfondo},
+    {QPalette::WindowText, tavolozza::testo},
+    {QPalette::Base, tavolozza::bianco},
+    {QPalette::AlternateBase, tavolozza::sfondoChiaro},
+    {QPalette::Text, tavolozza::testo},
+    {QPalette::PlaceholderText, tavolozza::testoTenue},
+    {QPalette::Button, tavolozza::sfondoChiaro},
+    {QPalette::ButtonText, tavolozza::testo},
+    {QPalette::BrightText, tavolozza::bianco},
+    {QPalette::Light, tavolozza::bianco},
+    {QPalette::Midlight, tavolozza::velo},
+    {QPalette::Mid, tavolozza::bordo},
+    {QPalette::Dark, tavolozza::testoTenue},
+    {QPalette::Highlight, tavolozza::primario},
+    {QPalette::HighlightedText, tavolozza::bianco},
+    {QPalette::Link, tavolozza::primario},
+    {QPalette::ToolTipBase, tavolozza::bianco},
+    {QPalette::ToolTipText, tavolozza::testo},
+}};
+
+QPalette paletteCasa() {
+    QPalette palette(tavolozza::sfondoChiaro, tavolozza::sfondo);
+    for (const Ruolo &r : Ruoli)
+        palette.setColor(r.ruolo, r.colore);
+    for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, ruolo, tavolozza::bordo.darker(120));
+    palette.setColor(QPalette::Disabled, QPalette::Base, tavolozza::sfondo);
+    return palette;
+}
+
+} // namespace
+
+void preparaAspetto(QApplication &applicazione) {
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setFont(fontCasa());
+    QApplication::setPalette(paletteCasa());
+    applicazione.setWindowIcon(icona(Disegno::Zuvora));
+}
+
+} // namespace zuvora

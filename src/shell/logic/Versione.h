@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+#include <optional>
+
+namespace zuvora {
+
+class Data;
+
+// The short form ("3.1.8") of an older version label ("Versione 3.1.8") that the program can bring to the current one;
+// nothing for every other label. Case counts.
+std::optional<QString> versioneDaAggiornare(QStringView etichetta);
+// True for the five short forms.
+bool versioneConosciuta(QStringView breve);
+
+// Adds the two columns that the current version has and older ones lack. `cartella` is the application folder. A failure
+// of the opening throws EngineError; any later failure ends the operation silently: a database that has a column already
+// loses nothing.
+void AggiornaArchivio(const QString &cartella);
+
+// Writes the current version's label and date into the version row. Throws EngineError.
+void scriviVersioneCorrente(Data &dato, const QString &cartella);
+
+} // namespace zuvora

@@ -1,0 +1,166 @@
+#include "shell/store/Connessione.h"
+
+#include "shell/store/Like.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <csignal>
+#include <sqlite3.h>
+
+namespace zuvora {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// A write over a file size limit must fail, not kill the program.
+void ignoraLimiteFile() {
+#ifdef SIGXFSZ
+    static const bool fatto = [] { return std::signal(SIGXFSZ, SIG_IGN) != SIG_ERR; }();
+    (void)fatto;
+#endif
+}
+
+// The file itself, or the only one whose name differs by case; the path as given when there is neither.
+QString trovaFile(const QString &percorso) {
+    const QFileInfo file(percorso);
+    if (percorso.isEmpty() || file.exists())
+        return file.absoluteFilePath();
+    const QStringList nomi = file.absoluteDir().entryList(QDir::Files);
+    for (const QString &nome : nomi)
+        if (nome.compare(file.fileName(), Qt::CaseInsensitive) == 0)
+            return file.absoluteDir().filePath(nome);
+    return file.absoluteFilePath();
+}
+
+} // namespace
+
+Connessione::Connessione(const QString &percorso, std::chrono::milliseconds attesa)
+    : m_richiesto(percorso), m_percorso(trovaFile(percorso)), m_attesa(attesa) {
+    try {
+        apri();
+        controlla();
+        scegliGiornale();
+    } catch (...) {
+        chiudi();
+        throw;
+    }
+}
+
+Connessione::~Connessione() {
+    chiudi();
+}
+
+void Connessione::apri() {
+    const QFileInfo file(m_percorso);
+    if (m_richiesto.isEmpty())
+        throw errore(Errore::FileNonTrovato, Azione::Apertura);
+    if (!file.dir().exists())
+        throw errore(Errore::PercorsoNonValido, Azione::Apertura);
+    if (!file.exists())
+        throw errore(Errore::FileNonTrovato, Azione::Apertura);
+    // An empty file would pass for an empty database; a pipe would block for ever.
+    if (!file.isFile() || file.size() == 0)
+        throw errore(Errore::NonDatabase, Azione::Apertura);
+    ignoraLimiteFile();
+    // Without CREATE nothing is made; a write-protected file is opened for reading by the engine itself.
+    constexpr int kModo = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
+    const int rc = sqlite3_open_v2(m_percorso.toUtf8().constData(), &m_db, kModo, nullptr);
+    if (rc != SQLITE_OK)
+        throw errore(rc, Azione::Apertura);
+    attendi(m_attesa);
+    if (const int esito = installaLike(m_db); esito != SQLITE_OK)
+        throw errore(esito, Azione::Apertura);
+}
+
+void Connessione::controlla() {
+    prepara("SELECT 1 FROM sqlite_master LIMIT 1", Azione::Apertura).avanti();
+}
+
+void Connessione::scegliGiornale() {
+    // A rollback journal, since other programs read the file and it may lie on a network share, where WAL doesn't work:
+    // the same statement takes a file out of WAL. That fails while somebody else has it open; then it is tried again at
+    // the next opening. FULL: a decision that was confirmed survives a power cut.
+    sqlite3_busy_timeout(m_db, 0);
+    sqlite3_exec(m_db, "PRAGMA journal_mode=PERSIST", nullptr, nullptr, nullptr);
+    sqlite3_exec(m_db, "PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
+    attendi(m_attesa);
+}
+
+void Connessione::attendi(std::chrono::milliseconds attesa) {
+    m_attesa = attesa;
+    sqlite3_busy_timeout(db(), static_cast<int>(attesa.count()));
+}
+
+void Connessione::chiudi() {
+    for (sqlite3_stmt *s : std::as_const(m_pronte))
+        sqlite3_finalize(s);
+    m_pronte.clear();
+    sqlite3_close_v2(m_db);
+    m_db = nullptr;
+}
+
+sqlite3 *Connessione::db() const {
+    if (m_db == nullptr)
+        throw zuvora::errore(Errore::Altro, {m_percorso, Azione::Lettura, {}}, u"the database is closed"_s);
+    return m_db;
+}
+
+bool Connessione::spostato() const {
+    int spostato = 0;
+    return sqlite3_file_control(db(), "main", SQLITE_FCNTL_HAS_MOVED, &spostato) == SQLITE_OK && spostato != 0;
+}
+
+bool Connessione::vale(const QString &percorso) const {
+    return m_db != nullptr && percorso == m_richiesto && !spostato() && QFileInfo(m_percorso).size() > 0;
+}
+
+bool Connessione::soloLettura() const {
+    return sqlite3_db_readonly(db(), "main") == 1;
+}
+
+qint64 Connessione::ultimaChiave() const {
+    return sqlite3_last_insert_rowid(db());
+}
+
+sqlite3_stmt *Connessione::compila(const QByteArray &sql, unsigned opzioni, Azione azione, bool sola) {
+    sqlite3_stmt *s = nullptr;
+    const char *resto = nullptr;
+    const int rc = sqlite3_prepare_v3(db(), sql.constData(), static_cast<int>(sql.size()) + 1, opzioni, &s, &resto);
+    if (rc != SQLITE_OK)
+        throw errore(rc, azione);
+    const bool altro = resto != nullptr && QByteArray(resto).trimmed().size() > 0;
+    if (sola && (s == nullptr || altro)) {
+        sqlite3_finalize(s);
+        throw errore(Errore::Sintassi, azione);
+    }
+    return s;
+}
+
+Istruzione Connessione::prepara(const QByteArray &sql, Azione azione) {
+    sqlite3_stmt *s = m_pronte.take(sql);
+    if (s == nullptr)
+        s = compila(sql, SQLITE_PREPARE_PERSISTENT, azione, false);
+    return {*this, s, azione, sql};
+}
+
+Istruzione Connessione::preparaUnica(const QString &sql, Azione azione) {
+    return {*this, compila(sql.toUtf8(), 0, azione, true), azione, {}};
+}
+
+int Connessione::scrivi(const QByteArray &sql, const QList<Valore> &valori) {
+    // Written to a file that was removed or replaced meanwhile, the change would be lost without a word.
+    if (spostato())
+        throw errore(Errore::FileNonTrovato, Azione::Scrittura);
+    Istruzione i = prepara(sql, Azione::Scrittura);
+    for (int n = 0; n < valori.size(); ++n)
+        i.lega(n + 1, valori[n]);
+    i.avanti();
+    return sqlite3_changes(db());
+}
+
+QByteArray nomeSql(const QByteArray &nome) {
+    return '`' + QByteArray(nome).replace('`', "``") + '`';
+}
+
+} // namespace zuvora

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "shell/store/Attesa.h"
+#include "shell/store/Frasi.h"
+#include "shell/store/Tipi.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+#include <memory>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace zuvora {
+
+class Istruzione;
+
+// One open SQLite connection. Between two operations no statement is active, so no lock is held.
+class Connessione {
+public:
+    // Opens an existing file and reads its schema, so that whatever is no sound database fails here. Never creates a
+    // file. A file name that differs only by case serves when the exact one is not there.
+    Connessione(const QString &percorso, std::chrono::milliseconds attesa);
+    ~Connessione();
+    Connessione(const Connessione &) = delete;
+    Connessione &operator=(const Connessione &) = delete;
+
+    // Still the right connection for `percorso`: the same path, and the file at it the one that was opened.
+    bool vale(const QString &percorso) const;
+    void attendi(std::chrono::milliseconds attesa);
+    void chiudi();
+    bool soloLettura() const;
+
+    // A statement from the cache, for the store's own texts.
+    Istruzione prepara(const QByteArray &sql, Azione azione);
+    // A statement of the program or the user, used once. 3075 unless it is exactly one statement.
+    Istruzione preparaUnica(const QString &sql, Azione azione);
+    // Runs one of the store's own changing statements. Gives the number of rows changed.
+    int scrivi(const QByteArray &sql, const QList<Valore> &valori);
+    qint64 ultimaChiave() const;
+
+    EngineError errore(int rc, Azione azione, const QString &oggetto = {}) const;
+    EngineError errore(Errore numero, Azione azione, const QString &oggetto = {}) const;
+
+private:
+    friend class Istruzione;
+    static constexpr qsizetype kPronteMassime = 24;
+    void apri();
+    void controlla();
+    void scegliGiornale();
+    bool spostato() const;
+    sqlite3 *db() const; // throws when closed
+    sqlite3_stmt *compila(const QByteArray &sql, unsigned opzioni, Azione azione, bool sola);
+
+    QString m_richiesto; // the path as it was given
+    QString m_percorso;  // the file that was opened
+    std::chrono::milliseconds m_attesa;
+    sqlite3 *m_db = nullptr;
+    QHash<QByteArray, sqlite3_stmt *> m_pronte;
+};
+
+// A table or column name inside SQL. The back quote, unlike the double quote, never turns an unknown name into a text.
+QByteArray nomeSql(const QByteArray &nome);
+
+// The use of a prepared statement. At its end the statement is reset (and with it every lock gone).
+class Istruzione {
+public:
+    Istruzione(Connessione &c, sqlite3_stmt *s, Azione azione, QByteArray chiave);
+    Istruzione(Istruzione &&altra) noexcept;
+    Istruzione &operator=(Istruzione &&) = delete;
+    ~Istruzione();
+
+    void lega(int posto, const Valore &v); // places count from 1
+    bool avanti();                         // on the next row; false behind the last
+    qint64 intero(int colonna) const;
+    Valore valore(int colonna, TipoColonna tipo) const;
+    QString testo(int colonna) const;
+    sqlite3_stmt *grezza() const { return m_s; }
+
+private:
+    Connessione *m_c;
+    sqlite3_stmt *m_s;
+    Azione m_azione;
+    QByteArray m_chiave; // text in the cache; empty for a statement used once
+};
+
+} // namespace zuvora

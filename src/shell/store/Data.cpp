@@ -1,0 +1,71 @@
+#include "shell/store/Data.h"
+
+#include "shell/store/Stato.h"
+
+#include <QDir>
+
+namespace zuvora {
+
+// The record set lives as long as the Data object: a Refresh fills it anew, so that a reference to it stays good.
+struct Data::Interno {
+    std::unique_ptr<Connessione> connessione;
+    zuvora::Recordset recordset{nullptr};
+    std::function<void()> ascoltatore;
+};
+
+Data::Data() : m_interno(std::make_unique<Interno>()) {}
+
+Data::~Data() = default;
+
+void Data::Refresh() {
+    auto &[connessione, recordset, ascoltatore] = *m_interno;
+    recordset.m_stato.reset();
+    try {
+        if (!connessione || !connessione->vale(DatabaseName)) {
+            connessione.reset();
+            connessione = std::make_unique<Connessione>(DatabaseName, attesa);
+        }
+        connessione->attendi(attesa);
+        recordset.m_stato =
+            std::make_unique<zuvora::Recordset::Stato>(*connessione, apriSorgente(*connessione, RecordSource));
+    } catch (...) {
+        connessione.reset();
+        throw;
+    }
+    if (ascoltatore)
+        ascoltatore();
+}
+
+bool Data::aperto() const {
+    return m_interno->recordset.m_stato != nullptr;
+}
+
+zuvora::Recordset &Data::Recordset() {
+    m_interno->recordset.stato();
+    return m_interno->recordset;
+}
+
+void Data::seAggiornato(std::function<void()> ascoltatore) {
+    m_interno->ascoltatore = std::move(ascoltatore);
+}
+
+QString percorsoArchivio(const QString &cartella) {
+    const QDir dir(cartella);
+    QString nome = NomeArchivio.toString();
+    if (!dir.exists(nome)) {
+        // Filters of a folder listing don't tell upper from lower case.
+        const QStringList simili = dir.entryList({nome}, QDir::Files);
+        if (!simili.isEmpty())
+            nome = simili.constFirst();
+    }
+    return QDir::toNativeSeparators(dir.filePath(nome));
+}
+
+zuvora::Recordset &apri(Data &dato, const QString &cartella, const QString &sorgente) {
+    dato.DatabaseName = percorsoArchivio(cartella);
+    dato.RecordSource = sorgente;
+    dato.Refresh();
+    return dato.Recordset();
+}
+
+} // namespace zuvora

@@ -1,0 +1,177 @@
+#include "shell/store/Recordset.h"
+
+#include "shell/store/Stato.h"
+
+namespace zuvora {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString nomeDi(const std::vector<Colonna> &colonne, int n) {
+    return colonne[static_cast<size_t>(n)].nome;
+}
+
+} // namespace
+
+Recordset::Recordset(std::unique_ptr<Stato> stato) : m_stato(std::move(stato)) {}
+
+Recordset::~Recordset() = default;
+
+Recordset::Stato &Recordset::stato() const {
+    if (!m_stato)
+        throw EngineError(Errore::NessunRecord,
+                          u"Nessun elenco di dati è aperto. Chiudere la finestra e aprirla di nuovo."_s);
+    return *m_stato;
+}
+
+// ---- columns
+
+Valore Recordset::Field::Value() const {
+    Stato &s = m_rs->stato();
+    const auto n = static_cast<size_t>(m_colonna);
+    if (n >= s.sorgente.colonne.size())
+        throw s.connessione.errore(Errore::ColonnaNonTrovata, Azione::Lettura);
+    if (s.modo != Stato::Modo::Lettura && s.scritti[n])
+        return *s.scritti[n];
+    if (s.modo == Stato::Modo::Nuovo)
+        return {};
+    return s.rigaCorrente()[m_colonna];
+}
+
+void Recordset::Field::SetValue(const Valore &v) {
+    Stato &s = m_rs->stato();
+    const auto n = static_cast<size_t>(m_colonna);
+    if (n >= s.sorgente.colonne.size())
+        throw s.connessione.errore(Errore::ColonnaNonTrovata, Azione::Scrittura);
+    if (s.modo == Stato::Modo::Lettura)
+        throw s.connessione.errore(Errore::ModificaNonIniziata, Azione::Scrittura);
+    const Colonna &colonna = s.sorgente.colonne[n];
+    const auto convertito = perColonna(v, colonna.tipo);
+    if (!convertito)
+        throw s.connessione.errore(Errore::TipoNonValido, Azione::Scrittura, colonna.nome);
+    s.scritti[n] = *convertito;
+}
+
+QString Recordset::Field::Name() const {
+    return nomeDi(m_rs->stato().sorgente.colonne, m_colonna);
+}
+
+QString Recordset::Field::TipoDichiarato() const {
+    return QString::fromUtf8(m_rs->stato().sorgente.colonne[static_cast<size_t>(m_colonna)].dichiarato);
+}
+
+int Recordset::Campi::Count() const {
+    return static_cast<int>(m_rs->stato().sorgente.colonne.size());
+}
+
+Recordset::Field Recordset::Campi::Item(QStringView nome) const {
+    const Stato &s = m_rs->stato();
+    for (int n = 0; n < Count(); ++n)
+        if (nome.compare(nomeDi(s.sorgente.colonne, n), Qt::CaseInsensitive) == 0)
+            return {*m_rs, n};
+    throw s.connessione.errore(Errore::ColonnaNonTrovata, Azione::Lettura, nome.toString());
+}
+
+Recordset::Field Recordset::Campi::Item(int indice) const {
+    if (indice < 0 || indice >= Count())
+        throw m_rs->stato().connessione.errore(Errore::ColonnaNonTrovata, Azione::Lettura, QString::number(indice));
+    return {*m_rs, indice};
+}
+
+QStringList Recordset::Campi::Names() const {
+    QStringList nomi;
+    for (const Colonna &c : m_rs->stato().sorgente.colonne)
+        nomi.append(c.nome);
+    return nomi;
+}
+
+Recordset::Campi Recordset::Fields() {
+    return Campi(*this);
+}
+
+Recordset::Field Recordset::operator[](QStringView nome) {
+    return Fields().Item(nome);
+}
+
+// ---- the current record
+
+int Recordset::RecordCount() const {
+    return stato().sorgente.quante();
+}
+
+bool Recordset::Bof() const {
+    return RecordCount() == 0;
+}
+
+bool Recordset::Eof() const {
+    const Stato &s = stato();
+    return s.sorgente.quante() == 0 || (!s.cancellato && s.posto >= s.sorgente.quante());
+}
+
+void Recordset::MoveFirst() {
+    SetAbsolutePosition(0);
+}
+
+void Recordset::MoveLast() {
+    SetAbsolutePosition(RecordCount() - 1);
+}
+
+void Recordset::MoveNext() {
+    Stato &s = stato();
+    if (!s.cancellato && !s.suRecord())
+        throw s.senzaRecord(Azione::Lettura);
+    s.vaiA(s.cancellato ? s.posto : s.posto + 1);
+}
+
+int Recordset::AbsolutePosition() const {
+    const Stato &s = stato();
+    return s.suRecord() ? s.posto : -1;
+}
+
+void Recordset::SetAbsolutePosition(int indice) {
+    Stato &s = stato();
+    if (indice < 0 || indice >= s.sorgente.quante())
+        throw s.senzaRecord(Azione::Lettura);
+    s.vaiA(indice);
+}
+
+void Recordset::Edit() {
+    stato().apri(Stato::Modo::Modifica);
+}
+
+void Recordset::AddNew() {
+    stato().apri(Stato::Modo::Nuovo);
+}
+
+void Recordset::Update() {
+    stato().scrivi();
+}
+
+void Recordset::CancelUpdate() {
+    Stato &s = stato();
+    s.modo = Stato::Modo::Lettura;
+    s.scritti.clear();
+}
+
+void Recordset::Delete() {
+    stato().cancella();
+}
+
+void Recordset::FindFirst(const QString &criterio) {
+    Stato &s = stato();
+    const int posto = trovaPrimo(s.connessione, s.sorgente, criterio);
+    s.nessuno = posto < 0;
+    if (posto >= 0)
+        s.vaiA(posto);
+}
+
+bool Recordset::NoMatch() const {
+    return stato().nessuno;
+}
+
+Valore Recordset::leggi(int riga, int colonna) const {
+    return stato().daFinestra(riga, colonna);
+}
+
+} // namespace zuvora

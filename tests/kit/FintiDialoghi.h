@@ -1,0 +1,64 @@
+#pragma once
+
+#include "shell/host/Dialoghi.h"
+
+#include <gtest/gtest.h>
+#include <deque>
+#include <vector>
+
+namespace zuvora {
+
+// Dialogs that answer from queues. A test fails when a dialog comes without an answer, when an answer is left over, and
+// when a message box came that the test did not take.
+class FintiDialoghi : public Dialoghi {
+public:
+    struct Box {
+        Icona icona;
+        QString titolo;
+        QString testo;
+    };
+    std::deque<std::optional<QString>> file;
+    std::deque<std::optional<QString>> cartelle;
+    std::deque<std::optional<FontScelto>> font;
+    std::deque<std::optional<int>> colori;
+    std::vector<RichiestaFile> richiesteFile; // as they came
+
+    ~FintiDialoghi() override {
+        EXPECT_TRUE(file.empty() && cartelle.empty() && font.empty() && colori.empty()) << "answers left over";
+        for (const Box &box : m_box)
+            ADD_FAILURE() << "unexpected message: " << box.testo.toStdString();
+    }
+    // The message boxes shown since the last call.
+    std::vector<Box> prendiBox() { return std::exchange(m_box, {}); }
+    // Text of the only message box; a test failure when there are none or several.
+    QString unicoMessaggio() {
+        const auto box = prendiBox();
+        EXPECT_EQ(box.size(), 1U);
+        return box.empty() ? QString() : box.front().testo;
+    }
+
+    void messaggio(QWidget *, Icona icona, const QString &titolo, const QString &testo) override {
+        m_box.push_back({icona, titolo, testo});
+    }
+    std::optional<QString> apriFile(QWidget *, const RichiestaFile &richiesta) override {
+        richiesteFile.push_back(richiesta);
+        return prossima(file);
+    }
+    std::optional<QString> scegliCartella(QWidget *, const QString &) override { return prossima(cartelle); }
+    std::optional<FontScelto> scegliFont(QWidget *) override { return prossima(font); }
+    std::optional<int> scegliColore(QWidget *, int) override { return prossima(colori); }
+
+private:
+    template <class T> std::optional<T> prossima(std::deque<std::optional<T>> &coda) {
+        if (coda.empty()) {
+            ADD_FAILURE() << "a dialog came without an answer";
+            return std::nullopt;
+        }
+        auto risposta = coda.front();
+        coda.pop_front();
+        return risposta;
+    }
+    std::vector<Box> m_box;
+};
+
+} // namespace zuvora

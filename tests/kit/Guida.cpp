@@ -1,0 +1,96 @@
+#include "kit/Guida.h"
+
+#include "shell/host/Testo.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QPixmap>
+#include <gtest/gtest.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr int Passo_ms = 5;
+constexpr int MassimoBattiti = 6000; // 30 s, for slow machines
+
+} // namespace
+
+Guida::Guida() {
+    m_orologio.setInterval(Passo_ms);
+    connect(&m_orologio, &QTimer::timeout, this, &Guida::batti);
+    m_orologio.start();
+}
+
+Guida::~Guida() {
+    for (const Passo &passo : m_passi)
+        ADD_FAILURE() << "form never came: " << passo.form.toStdString();
+}
+
+Guida &Guida::quando(const char *form, std::function<void(QWidget &)> azione) {
+    m_passi.push_back({QString::fromLatin1(form), std::move(azione)});
+    m_battiti = 0;
+    return *this;
+}
+
+Guida &Guida::premi(const char *form, const char *controllo) {
+    return quando(form, [controllo = QByteArray(controllo)](QWidget &w) { clicca(w, controllo.constData()); });
+}
+
+Guida &Guida::messaggio(QString *righe, int indice) {
+    return quando("MsgForm", [righe, indice](QWidget &w) {
+        if (righe != nullptr) {
+            *righe = trova<QLabel>(w, "Label2(0)").text();
+            const QString seconda = trova<QLabel>(w, "Label2(1)").text();
+            if (!seconda.isEmpty())
+                *righe += u'\n' + seconda;
+        }
+        clicca(w, QByteArray("PB1(" + QByteArray::number(indice) + ")").constData());
+    });
+}
+
+void Guida::batti() {
+    QWidget *modale = QApplication::activeModalWidget();
+    if (m_passi.empty() || modale == nullptr || modale->objectName() != m_passi.front().form) {
+        if (modale != nullptr && ++m_battiti > MassimoBattiti) {
+            ADD_FAILURE() << "stuck on form " << modale->objectName().toStdString();
+            m_battiti = 0;
+            m_passi.clear();
+            modale->close();
+        }
+        return;
+    }
+    m_battiti = 0;
+    const Passo passo = m_passi.front();
+    m_passi.pop_front();
+    try {
+        passo.azione(*modale);
+    } catch (const std::exception &e) {
+        ADD_FAILURE() << passo.form.toStdString() << ": " << e.what();
+        modale->close();
+    }
+}
+
+void clicca(QWidget &radice, const char *nome) {
+    trova<QAbstractButton>(radice, nome).click();
+}
+
+QStringList didascalieTagliate(QWidget &form) {
+    QStringList tagliate;
+    const auto figli = form.findChildren<QWidget *>();
+    for (const QWidget *w : figli)
+        if (didascaliaTagliata(w))
+            tagliate << w->objectName();
+    return tagliate;
+}
+
+void fotografa(QWidget &form, const QString &nome) {
+    const QString cartella = qEnvironmentVariable("ZUVORA_IMMAGINI");
+    if (!cartella.isEmpty())
+        form.grab().save(QDir(cartella).filePath((nome.isEmpty() ? form.objectName() : nome) + u".png"_s));
+}
+
+} // namespace zuvora
