@@ -59,10 +59,14 @@ void percorri(const QString &archivio, const QString &sql, const std::function<b
 
 QVariant colonna(sqlite3_stmt *s, int i) {
     switch (sqlite3_column_type(s, i)) {
-    case SQLITE_NULL: return {};
-    case SQLITE_INTEGER: return QVariant::fromValue<qlonglong>(sqlite3_column_int64(s, i));
-    case SQLITE_FLOAT: return sqlite3_column_double(s, i);
-    default: return QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(s, i)));
+    case SQLITE_NULL:
+        return {};
+    case SQLITE_INTEGER:
+        return QVariant::fromValue<qlonglong>(sqlite3_column_int64(s, i));
+    case SQLITE_FLOAT:
+        return sqlite3_column_double(s, i);
+    default:
+        return QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(s, i)));
     }
 }
 
@@ -88,10 +92,12 @@ InstallazioneProva::InstallazioneProva() {
     valori.PercorsoApplicazione = cartella();
     // The rows of the installation that was copied name its own folder.
     const QString vecchia = QStringLiteral(CARTELLA_BASE);
-    esegui(u"UPDATE ConfigurazioneTotem SET PercorsoReteTotem=replace(PercorsoReteTotem,'%1','%2')"_s.arg(vecchia, cartella()));
+    esegui(u"UPDATE ConfigurazioneTotem SET PercorsoReteTotem=replace(PercorsoReteTotem,'%1','%2')"_s.arg(vecchia,
+                                                                                                          cartella()));
     for (int i = 0; i <= 10; ++i)
-        esegui(u"UPDATE %1 SET PercorsoImmagine=replace(PercorsoImmagine,'%2','%3') WHERE PercorsoImmagine IS NOT NULL"_s.arg(
-            i == 0 ? u"LayoutBase"_s : u"Layout%1"_s.arg(i), vecchia, cartella()));
+        esegui(
+            u"UPDATE %1 SET PercorsoImmagine=replace(PercorsoImmagine,'%2','%3') WHERE PercorsoImmagine IS NOT NULL"_s
+                .arg(i == 0 ? u"LayoutBase"_s : u"Layout%1"_s.arg(i), vecchia, cartella()));
 }
 
 void InstallazioneProva::esegui(const QString &sql) const {

@@ -41,7 +41,7 @@ public:
         QObject::connect(&mittente, segnale, this, [this, azione] { proteggi(azione); });
     }
     template <class C, class F>
-        requires std::derived_from<C, QWidget>
+    requires std::derived_from<C, QWidget>
     void alClic(C &controllo, F azione) { quando(controllo, &C::clicked, azione); }
     // One handler for a control array; it gets the index.
     template <class C, class F> void alClic(const Schiera<C> &schiera, F azione) {
