@@ -45,7 +45,7 @@ VistaQtWeb::~VistaQtWeb() {
 }
 
 void VistaQtWeb::vai(const QUrl &indirizzo) {
-    m_mostrata = false;
+    m_ricevuta = false;
     if (eWeb(indirizzo))
         m_pagina->load(indirizzo);
     else
@@ -53,7 +53,7 @@ void VistaQtWeb::vai(const QUrl &indirizzo) {
 }
 
 void VistaQtWeb::mostraHtml(const QString &html, const QUrl &base) {
-    m_mostrata = false;
+    m_ricevuta = false;
     if (eWeb(base))
         m_pagina->setHtml(html, base);
     else
@@ -69,9 +69,8 @@ void VistaQtWeb::cambiaCarico(const QWebEngineLoadingInfo &carico) {
         annuncia(esitoDi(carico), carico.url());
         break;
     case QWebEngineLoadingInfo::LoadStoppedStatus:
-        // Refused, or nothing to show (a download). A page that stands already stays when its link leads nowhere.
-        if (!m_mostrata)
-            annuncia(EsitoWeb::NonAmmessa, carico.url());
+        // Refused, or nothing to show (a download). A page that stands already stays when it leads there.
+        annuncia(m_ricevuta ? EsitoWeb::Mostrata : EsitoWeb::NonAmmessa, carico.url());
         break;
     case QWebEngineLoadingInfo::LoadStartedStatus:
         break;
@@ -84,7 +83,7 @@ void VistaQtWeb::interrompi(QWebEnginePage::RenderProcessTerminationStatus stato
 }
 
 void VistaQtWeb::annuncia(EsitoWeb esito, const QUrl &indirizzo) {
-    m_mostrata = m_mostrata || esito == EsitoWeb::Mostrata || esito == EsitoWeb::Ricevuta;
+    m_ricevuta = m_ricevuta || esito == EsitoWeb::Ricevuta;
     if (m_alCambio)
         m_alCambio(esito, indirizzo);
 }

@@ -31,7 +31,7 @@ private:
     QWebEngineProfile m_profilo; // must outlive the page, which goes with the view
     QPointer<QWebEngineView> m_vista;
     PaginaQtWeb *m_pagina;
-    bool m_mostrata = false;
+    bool m_ricevuta = false; // a page asked for stands here
     AlCambio m_alCambio;
 };
 

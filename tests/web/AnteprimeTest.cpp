@@ -125,7 +125,7 @@ TEST_F(Anteprime, TGAcceptsWhatIsTypedButNoNonsense) {
 
 TEST_F(Anteprime, TGBoxLargerThanTheScreenIsScrolledUnderTheFixedButtons) {
     apriTG({40000, 30000}, QString(), [&](QWidget &w) {
-        const QRect schermo = w.screen()->availableGeometry();
+        const QSize schermo = w.screen()->availableSize().expandedTo(w.minimumSize());
         EXPECT_LE(w.width(), schermo.width());
         EXPECT_LE(w.height(), schermo.height());
         auto &finestra = trova<QScrollArea>(w, "finestra");

@@ -1,20 +1,22 @@
 #include "shell/logic/IndirizzoWeb.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 
 std::optional<QUrl> indirizzoWeb(const QString &testo) {
+    static const QRegularExpression web(u"^https?://"_s, QRegularExpression::CaseInsensitiveOption);
+    // Another scheme (what stands before a colon that no port follows), a path, blanks inside.
+    static const QRegularExpression altro(uR"(^[\w+.-]+:(?!\d)|^[/\\.]|\s)"_s);
+    static const QRegularExpression comandi(uR"([\x00-\x1f\x7f])"_s);
     const QString pulito = testo.trimmed();
-    for (const QChar c : pulito)
-        if (c.isSpace() || c.category() == QChar::Other_Control)
-            return std::nullopt;
-    // What begins like a path is a file here, not a host.
-    if (pulito.startsWith(u'/') || pulito.startsWith(u'\\') || pulito.startsWith(u'.'))
+    const bool conSchema = web.match(pulito).hasMatch();
+    if (pulito.isEmpty() || comandi.match(pulito).hasMatch() || (!conSchema && altro.match(pulito).hasMatch()))
         return std::nullopt;
-    const QUrl url = QUrl::fromUserInput(pulito);
-    const bool web = url.scheme() == "http"_L1 || url.scheme() == "https"_L1;
-    if (!url.isValid() || !web || url.host().isEmpty())
+    const QUrl url(conSchema ? pulito : u"http://"_s + pulito);
+    if (!url.isValid() || url.host().isEmpty())
         return std::nullopt;
     return url;
 }
