@@ -27,8 +27,8 @@ struct Pannello : testing::Test {
         pannello->show();
         return *pannello;
     }
-    QString testo(const char *label) { return trova<QLabel>(*pannello, label).text(); }
-    QStringList pagineAperte() {
+    QString testo(const char *label) const { return trova<QLabel>(*pannello, label).text(); }
+    QStringList pagineAperte() const {
         QStringList aperte;
         for (const Pagina *p : pannello->findChildren<Pagina *>())
             if (p->aperta())

@@ -12,6 +12,7 @@ namespace zuvora {
 // A window of the program: a name, a caption and an inner area in twips. Made when opened, gone when closed; the
 // constructor is the form's load. Handlers connected through `quando` report what nobody answered in one place.
 class Form : public QDialog {
+    Q_OBJECT
 public:
     Form(const Ambiente &ambiente, const char *nome, const char *didascalia, const Misura &interno, QWidget *padre);
 
