@@ -7,7 +7,7 @@ namespace zuvora {
 
 namespace {
 
-constexpr qsizetype memoria = 128 * 1024; // KiB
+constexpr qsizetype memoria = qsizetype{128} * 1024; // KiB
 
 } // namespace
 
@@ -25,7 +25,7 @@ QImage ImmaginiQt::immagine(const QString &percorso) {
     if (const Voce *voce = m_decodificate.object(percorso);
         voce && voce->modifica == modifica && voce->byte == file.size())
         return voce->immagine;
-    const QImage nuova = decodifica(percorso);
+    QImage nuova = decodifica(percorso);
     if (!nuova.isNull())
         m_decodificate.insert(percorso, new Voce{nuova, modifica, file.size()}, nuova.sizeInBytes() / 1024 + 1);
     return nuova;
@@ -41,7 +41,7 @@ QImage ImmaginiQt::decodifica(const QString &percorso) const {
     // A large photo would not fit the decoder's memory limit at its full size.
     if (const QSize misura = lettore.size(); misura.isValid() && troppoGrande(misura))
         lettore.setScaledSize(ridotta(misura));
-    const QImage letta = lettore.read();
+    QImage letta = lettore.read();
     if (!letta.isNull() && troppoGrande(letta.size())) // a format that doesn't tell its size before decoding
         return letta.scaled(ridotta(letta.size()), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return letta;
