@@ -3,6 +3,7 @@
 #include "designer/logic/CaricatoreImmagini.h"
 
 #include <QCache>
+#include <QDateTime>
 #include <QImage>
 #include <QSize>
 
@@ -21,8 +22,15 @@ public:
     QImage immagine(const QString &percorso);
 
 private:
+    struct Voce {
+        QImage immagine;
+        QDateTime modifica;
+        qint64 byte = 0;
+    };
+    QImage decodifica(const QString &percorso) const;
+
     QSize m_massimo;
-    QCache<QString, QImage> m_decodificate; // cost in KiB
+    QCache<QString, Voce> m_decodificate; // cost in KiB
 };
 
 } // namespace zuvora

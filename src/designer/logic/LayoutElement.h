@@ -37,6 +37,10 @@ struct Area {
     friend bool operator==(const Area &, const Area &) = default;
 };
 
+// Sizes that a font can have, points.
+inline constexpr double fontMinimo = 0.25;
+inline constexpr double fontMassimo = 2160;
+
 struct Carattere {
     QString nome;
     double dimensione = 0; // points, with fractions

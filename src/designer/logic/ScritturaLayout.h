@@ -9,8 +9,9 @@ namespace zuvora {
 // How far a walk over the rows of a layout table has come. Each row is stored by itself: what was written before a
 // failure stays.
 struct EsitoScrittura {
-    int scritte = 0; // rows written
-    QString errore;  // why the walk ended early, an Italian sentence; empty when it did not
+    int scritte = 0;   // rows written
+    int raggiunta = 0; // number of the last row begun, 0 when the table could not be opened
+    QString errore;    // why the walk ended early, an Italian sentence; empty when it did not
 
     bool riuscito() const { return errore.isEmpty(); }
     bool completo() const { return riuscito() && scritte == righeLayout; }

@@ -1,0 +1,136 @@
+#include "designer/logic/DisplayLayout.h"
+
+#include "designer/logic/Righe.h"
+#include "designer/logic/ValoriIniziali.h"
+
+#include <QDir>
+#include <ranges>
+
+namespace zuvora {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QStringView avantiParola = u"avanti";
+constexpr QStringView dietroParola = u"dietro";
+
+// Kinds from the bottom of the stack to its top, as the form's definition lays them.
+constexpr std::array ordineIniziale{
+    TipoElemento::Image1, TipoElemento::Pannello1, TipoElemento::IM1, TipoElemento::MP1,   TipoElemento::WB1,
+    TipoElemento::WB2,    TipoElemento::LeNews,    TipoElemento::YT,  TipoElemento::Text2, TipoElemento::Text9};
+
+bool contiene(const Area &a, double x, double y) {
+    return x >= a.left && x < a.left + a.width && y >= a.top && y < a.top + a.height;
+}
+
+} // namespace
+
+QString tabellaLayout(int numero) {
+    if (numero < 0 || numero >= numeroLayout)
+        return {};
+    return numero == 0 ? u"LayoutBase"_s : u"Layout%1"_s.arg(numero);
+}
+
+int numeroLayoutDi(QStringView tabella) {
+    for (int numero = 0; numero < numeroLayout; ++numero) {
+        if (tabella.compare(tabellaLayout(numero), Qt::CaseInsensitive) == 0)
+            return numero;
+    }
+    return -1;
+}
+
+QString percorsoIn(const QString &cartella, QStringView relativo) {
+    return QDir::toNativeSeparators(u"%1/%2"_s.arg(cartella, relativo));
+}
+
+DisplayLayout::DisplayLayout(QString nomeTabella) : m_nomeTabella(std::move(nomeTabella)) {
+    for (int posto = 0; posto < righeLayout; ++posto) {
+        const Riga &riga = righe()[static_cast<std::size_t>(posto)];
+        (*this)[posto] = valoreIniziale(riga.tipo, riga.indice);
+    }
+    PianiDecorazione.fill(dietroParola.toString());
+    for (const TipoElemento tipo : ordineIniziale) {
+        for (int posto = 0; posto < righeLayout; ++posto) {
+            if ((*this)[posto].tipo == tipo)
+                m_ordine.append(posto);
+        }
+    }
+}
+
+bool DisplayLayout::eBase() const {
+    return numeroLayoutDi(m_nomeTabella) == 0;
+}
+
+LayoutElement &DisplayLayout::elemento(TipoElemento tipo, int indice) {
+    return (*this)[postoDi(tipo, indice)];
+}
+
+const LayoutElement &DisplayLayout::elemento(TipoElemento tipo, int indice) const {
+    return (*this)[postoDi(tipo, indice)];
+}
+
+int DisplayLayout::postoDi(TipoElemento tipo, int indice) {
+    const auto &tutte = righe();
+    const auto trovata =
+        std::ranges::find_if(tutte, [=](const Riga &r) { return r.tipo == tipo && r.indice == indice; });
+    return trovata == tutte.end() ? -1 : static_cast<int>(trovata - tutte.begin());
+}
+
+int DisplayLayout::postoDi(QStringView nome) {
+    const auto &tutte = righe();
+    const auto trovata = std::ranges::find_if(tutte, [nome](const Riga &r) {
+        return nome.startsWith(nomeTipo(r.tipo)) && nome == nomeElemento(r.tipo, r.indice);
+    });
+    return trovata == tutte.end() ? -1 : static_cast<int>(trovata - tutte.begin());
+}
+
+void DisplayLayout::portaAvanti(int posto) {
+    if (m_ordine.removeOne(posto))
+        m_ordine.append(posto);
+}
+
+void DisplayLayout::mandaDietro(int posto) {
+    if (m_ordine.removeOne(posto))
+        m_ordine.prepend(posto);
+}
+
+void DisplayLayout::impostaPiano(int i, bool avanti) {
+    PianiDecorazione[static_cast<std::size_t>(i)] = (avanti ? avantiParola : dietroParola).toString();
+    const int posto = postoDi(TipoElemento::Image1, i);
+    if (avanti)
+        portaAvanti(posto);
+    else
+        mandaDietro(posto);
+}
+
+bool DisplayLayout::inPrimoPiano(int i) const {
+    return PianiDecorazione[static_cast<std::size_t>(i)] == avantiParola;
+}
+
+Area DisplayLayout::areaSullaTela(int posto) const {
+    const LayoutElement &e = (*this)[posto];
+    if (e.tipo != TipoElemento::Text1)
+        return e.area;
+    const Area &pannello = elemento(TipoElemento::Pannello1, e.indice / 3).area;
+    return {pannello.left + e.area.left, pannello.top + e.area.top, e.area.width, e.area.height};
+}
+
+int DisplayLayout::elementoSotto(double x, double y) const {
+    for (const int posto : std::views::reverse(m_ordine)) {
+        const LayoutElement &e = (*this)[posto];
+        if (!e.visibile || !contiene(e.area, x, y))
+            continue;
+        if (e.tipo != TipoElemento::Pannello1)
+            return posto;
+        const int prima = postoDi(TipoElemento::Text1, 3 * e.indice);
+        for (int etichetta = prima + 2; etichetta >= prima; --etichetta) {
+            if ((*this)[etichetta].visibile && contiene(areaSullaTela(etichetta), x, y))
+                return etichetta;
+        }
+        return posto;
+    }
+    return -1;
+}
+
+} // namespace zuvora
