@@ -1,0 +1,123 @@
+#include "installer/ControlloArchivio.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <sqlite3.h>
+
+namespace zuvora::installa {
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+// What keeps the file from being read as a database, told from its first bytes; empty when nothing does. The engine
+// itself would take an empty file for an empty database, and would make companions of one in WAL mode.
+QString difettoDelFile(const QString &percorso) {
+    const QFileInfo info(percorso);
+    if (!info.exists())
+        return u"il file manca"_s;
+    if (!info.isFile())
+        return u"non è un file"_s;
+    if (info.size() == 0)
+        return u"il file è vuoto"_s;
+    QFile file(percorso);
+    if (!file.open(QIODevice::ReadOnly))
+        return u"il file non si può leggere: verificare i permessi"_s;
+    const QByteArray testa = file.read(20);
+    if (testa.size() < 20 || !testa.startsWith(QByteArrayView("SQLite format 3\0", 16)))
+        return u"il file non è un archivio"_s;
+    if (testa[18] == 2 || testa[19] == 2)
+        return u"l'archivio è in modo WAL, che in rete non funziona: avviare il programma per riportarlo al modo normale"_s;
+    return {};
+}
+
+const QString danneggiato = u"l'archivio è danneggiato: ripristinarlo da una copia"_s;
+
+QString frase(const ErroreSqlite &errore) {
+    if (errore.codice == SQLITE_READONLY_ROLLBACK)
+        return u"una scrittura è rimasta a metà: avviare il programma per ripristinare l'archivio"_s;
+    switch (errore.codice & 0xff) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return u"l'archivio è occupato da un altro programma: chiuderlo e riprovare"_s;
+    case SQLITE_NOTADB:
+    case SQLITE_CORRUPT:
+        return danneggiato;
+    default:
+        return u"l'archivio non si può leggere (%1)"_s.arg(errore.testo);
+    }
+}
+
+QString sqlColonne(QStringView tabella) {
+    return u"SELECT name FROM pragma_table_info('%1')"_s.arg(tabella);
+}
+
+QString attese(const Tabella &tabella) {
+    const QString quante = tabella.minimo == 1 ? u"una"_s : QString::number(tabella.minimo);
+    return tabella.minimo == tabella.massimo ? quante : u"almeno "_s + quante;
+}
+} // namespace
+
+ControlloArchivio::ControlloArchivio(const Archivio &archivio, const QString &file)
+    : m_archivio(archivio), m_file(file) {}
+
+void ControlloArchivio::segnala(const QString &difetto) {
+    m_difetti += QFileInfo(m_file).fileName() + u": "_s + difetto;
+}
+
+bool ControlloArchivio::ha(QLatin1StringView tabella, QLatin1StringView colonna) const {
+    return m_colonne.value(QString(tabella).toLower()).contains(QString(colonna).toLower());
+}
+
+void ControlloArchivio::controlla(const std::function<void(Sqlite &)> &altro) {
+    if (!m_db)
+        return;
+    try {
+        altro(*m_db);
+    } catch (const ErroreSqlite &errore) {
+        segnala(frase(errore));
+    }
+}
+
+void ControlloArchivio::controlla() {
+    const QString difetto = difettoDelFile(m_file);
+    if (!difetto.isEmpty()) {
+        segnala(difetto);
+        return;
+    }
+    try {
+        Sqlite db = Sqlite::solaLettura(m_file);
+        if (db.integro())
+            m_db.emplace(std::move(db));
+        else
+            segnala(danneggiato);
+    } catch (const ErroreSqlite &errore) {
+        segnala(frase(errore));
+    }
+    controlla([this](Sqlite &db) {
+        for (const QStringList &tabella : db.leggi(u"SELECT name FROM sqlite_master WHERE type = 'table'"_s))
+            for (const QStringList &colonna : db.leggi(sqlColonne(tabella.first())))
+                m_colonne[tabella.first().toLower()] += colonna.first().toLower();
+        Sqlite modello = Sqlite::inMemoria();
+        modello.esegui(schemaDi(m_archivio));
+        for (const Tabella &tabella : m_archivio.tabelle)
+            controllaTabella(tabella, modello);
+    });
+}
+
+void ControlloArchivio::controllaTabella(const Tabella &tabella, Sqlite &modello) {
+    if (!m_colonne.contains(QString(tabella.nome).toLower())) {
+        segnala(u"manca la tabella %1"_s.arg(tabella.nome));
+        return;
+    }
+    for (const QStringList &colonna : modello.leggi(sqlColonne(QString(tabella.nome))))
+        if (!ha(tabella.nome, QLatin1StringView(colonna.first().toLatin1())))
+            segnala(u"nella tabella %1 manca la colonna %2"_s.arg(tabella.nome, colonna.first()));
+    controllaRighe(tabella);
+}
+
+void ControlloArchivio::controllaRighe(const Tabella &tabella) {
+    const int righe = m_db->leggi(u"SELECT count(*) FROM [%1]"_s.arg(tabella.nome)).first().first().toInt();
+    if (righe < tabella.minimo || (tabella.massimo != senzaLimite && righe > tabella.massimo))
+        segnala(u"righe della tabella %1: %2 invece di %3"_s.arg(tabella.nome).arg(righe).arg(attese(tabella)));
+}
+
+} // namespace zuvora::installa

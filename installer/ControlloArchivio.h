@@ -1,0 +1,40 @@
+#pragma once
+
+#include "installer/Contenuto.h"
+#include "installer/Sqlite.h"
+
+#include <QHash>
+#include <QSet>
+#include <QStringList>
+#include <functional>
+#include <optional>
+
+namespace zuvora::installa {
+
+// One database of an installation, opened for reading and held against the schema.
+class ControlloArchivio {
+public:
+    ControlloArchivio(const Archivio &archivio, const QString &file);
+
+    // File, the engine's own check, tables, columns, numbers of rows.
+    void controlla();
+    // Runs a further check on the open database; not at all when the database can't be read. Failures of the engine
+    // become findings.
+    void controlla(const std::function<void(Sqlite &)> &altro);
+
+    bool ha(QLatin1StringView tabella, QLatin1StringView colonna) const;
+    void segnala(const QString &difetto); // adds a finding on this database
+    const QStringList &difetti() const { return m_difetti; }
+
+private:
+    void controllaTabella(const Tabella &tabella, Sqlite &modello);
+    void controllaRighe(const Tabella &tabella);
+
+    const Archivio &m_archivio;
+    QString m_file;
+    QStringList m_difetti;
+    QHash<QString, QSet<QString>> m_colonne; // by table, all in lower case
+    std::optional<Sqlite> m_db;              // set once the engine's own check has passed
+};
+
+} // namespace zuvora::installa

@@ -1,0 +1,152 @@
+#include "installer/Banco.h"
+#include "installer/Crea.h"
+#include "installer/Verifica.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <csignal>
+#include <sys/resource.h>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace zuvora::installa;
+using namespace prova;
+
+namespace {
+// No file may grow beyond `byte` while this lives: writes fail as on a full disk.
+class DiscoStretto {
+public:
+    explicit DiscoStretto(rlim_t byte) {
+        m_segnale = std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_prima);
+        const rlimit stretto{byte, m_prima.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &stretto);
+    }
+    ~DiscoStretto() {
+        setrlimit(RLIMIT_FSIZE, &m_prima);
+        std::signal(SIGXFSZ, m_segnale);
+    }
+    DiscoStretto(const DiscoStretto &) = delete;
+    DiscoStretto &operator=(const DiscoStretto &) = delete;
+
+private:
+    rlimit m_prima{};
+    void (*m_segnale)(int);
+};
+
+// A folder with a program and data beside it, as small as can be.
+void creaOrigine(const QString &cartella) {
+    for (const auto nome : {"ZuvoraDecorazioni/Cornici", "ZuvoraSfondiHD", "Suoni", "plugins"})
+        QDir().mkpath(cartella + u'/' + QLatin1StringView(nome));
+    for (const auto nome : {"vero", "zuvora-installa", "libzuvora-web.so", "libaltro.so", "plugins/libvoce.so"}) {
+        QFile file(cartella + u'/' + QLatin1StringView(nome));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(nome);
+        file.setPermissions(file.permissions() | QFile::ExeOwner);
+    }
+    ASSERT_TRUE(QFile::link(u"vero"_s, cartella + u"/zuvora"_s));
+}
+} // namespace
+
+using Crea = Banco;
+
+TEST_F(Crea, LInstallazioneEInOrdineAncheInUnaCartellaDalNomeDifficile) {
+    for (const bool esempio : {false, true}) {
+        const QString cartella = percorso(u"sala d'attesa 100% àèì/%1/impianto"_s.arg(esempio));
+        const Esito esito = creaInstallazione({cartella, esempio, false, {}});
+        ASSERT_TRUE(esito.riuscito) << qPrintable(esito.messaggio);
+        EXPECT_EQ(verificaInstallazione(cartella), QStringList());
+        EXPECT_EQ(sql(cartella + u"/Zuvora.mdb"_s, u"SELECT PercorsoReteTotem FROM ConfigurazioneTotem"_s),
+                  QDir::toNativeSeparators(cartella + u"/Totem"_s));
+    }
+}
+
+TEST_F(Crea, IlProgrammaEICopiatoConIPlugin) {
+    creaOrigine(percorso(u"origine"_s));
+    const QString cartella = percorso(u"impianto"_s);
+    const Esito esito = creaInstallazione({cartella, false, true, percorso(u"origine"_s)});
+    ASSERT_TRUE(esito.riuscito) << qPrintable(esito.messaggio);
+
+    const QFileInfo programma(cartella + u"/zuvora"_s);
+    EXPECT_TRUE(programma.isFile() && !programma.isSymLink() && programma.isExecutable());
+    EXPECT_EQ(leggi(cartella + u"/zuvora"_s), "vero");
+    EXPECT_EQ(leggi(cartella + u"/libzuvora-web.so"_s), "libzuvora-web.so");
+    EXPECT_EQ(leggi(cartella + u"/plugins/libvoce.so"_s), "plugins/libvoce.so");
+    EXPECT_TRUE(QFile::exists(cartella + u"/zuvora-installa"_s));
+    EXPECT_FALSE(QFile::exists(cartella + u"/libaltro.so"_s));
+}
+
+TEST_F(Crea, UnaCartellaConAltriFileLiConserva) {
+    scrivi(u"impianto/note.txt"_s, "mie");
+    const QString cartella = impianto();
+    EXPECT_EQ(verificaInstallazione(cartella), QStringList());
+    EXPECT_EQ(leggi(cartella + u"/note.txt"_s), "mie");
+    EXPECT_EQ(QDir(cartella).entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList({u"Suoni"_s, u"Totem"_s, u"ZuvoraDecorazioni"_s, u"ZuvoraSfondiHD"_s}));
+}
+
+struct Rifiuto {
+    const char *nome;
+    const char *presente; // file that is there before
+    const char *cartella;
+    const char *frase;
+};
+void PrintTo(const Rifiuto &caso, std::ostream *dove) {
+    *dove << caso.nome;
+}
+class Rifiuti : public Banco, public testing::WithParamInterface<Rifiuto> {};
+
+TEST_P(Rifiuti, NullaCambia) {
+    const Rifiuto &caso = GetParam();
+    scrivi(QString::fromUtf8(caso.presente), "contenuto");
+    const auto prima = istantanea(percorso());
+    const Esito esito = creaInstallazione({percorso(QString::fromUtf8(caso.cartella)), true, false, {}});
+    EXPECT_FALSE(esito.riuscito);
+    EXPECT_TRUE(esito.messaggio.contains(QString::fromUtf8(caso.frase))) << qPrintable(esito.messaggio);
+    EXPECT_EQ(istantanea(percorso()), prima);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , Rifiuti,
+    testing::Values(Rifiuto{"archivio", "i/Zuvora.mdb", "i", "c'è già un archivio (Zuvora.mdb)"},
+                    Rifiuto{"archivio_in_altre_lettere", "i/ZUVORA.MDB", "i", "c'è già un archivio"},
+                    Rifiuto{"archivio_del_totem", "i/Totem/TotemZuvora.mdb", "i", "c'è già un archivio"},
+                    Rifiuto{"altro_archivio", "i/vecchio.mdb", "i", "c'è già un archivio"},
+                    Rifiuto{"cartella_di_nome_uguale", "i/Suoni/mio.wav", "i", "c'è già Suoni"},
+                    Rifiuto{"file_di_nome_uguale", "i/th19.rtf", "i", "c'è già th19.rtf"},
+                    Rifiuto{"file_al_posto_della_cartella", "i", "i", "non è una cartella"},
+                    Rifiuto{"file_nel_percorso", "i", "i/nuova/impianto", "non è una cartella"}),
+    [](const auto &caso) { return caso.param.nome; });
+
+TEST_F(Crea, SenzaProgrammaOImmaginiAccantoSiFerma) {
+    const QString origine = percorso(u"origine"_s);
+    creaOrigine(origine);
+    for (const auto mancante : {"zuvora", "ZuvoraSfondiHD"}) {
+        const QString nome = QString::fromLatin1(mancante);
+        ASSERT_TRUE(QDir().rename(origine + u'/' + nome, percorso(u"via"_s)));
+        const Esito esito = creaInstallazione({percorso(u"a/b/impianto"_s), false, true, origine});
+        EXPECT_FALSE(esito.riuscito);
+        EXPECT_TRUE(esito.messaggio.contains(nome)) << qPrintable(esito.messaggio);
+        EXPECT_FALSE(QFile::exists(percorso(u"a"_s)));
+        ASSERT_TRUE(QDir().rename(percorso(u"via"_s), origine + u'/' + nome));
+    }
+}
+
+// From a first file that doesn't fit to a database that fits but for its last pages.
+TEST_F(Crea, UnDiscoCheSiRiempieNonLasciaTracce) {
+    const qint64 intero = QFileInfo(impianto() + u"/Zuvora.mdb"_s).size();
+    scrivi(u"nuovo/note.txt"_s, "mie");
+    const auto prima = istantanea(percorso());
+    for (const qint64 limite : {qint64(0), qint64(50000), intero / 2, intero - 4096}) {
+        for (const auto &cartella : {u"nuovo"_s, u"altro/nuovissimo"_s}) {
+            Esito esito{};
+            {
+                const DiscoStretto disco(static_cast<rlim_t>(limite));
+                esito = creaInstallazione({percorso(cartella), true, false, {}});
+            }
+            EXPECT_FALSE(esito.riuscito) << limite;
+            EXPECT_TRUE(esito.messaggio.startsWith(u"Impossibile"_s)) << qPrintable(esito.messaggio);
+            EXPECT_EQ(istantanea(percorso()), prima) << limite;
+        }
+    }
+}
