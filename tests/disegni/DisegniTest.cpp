@@ -7,6 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <memory>
+
 namespace zuvora {
 namespace {
 
