@@ -16,7 +16,8 @@ namespace zuvora {
 namespace {
 
 // Where Tahoma lies when the font system doesn't list it.
-constexpr std::array<const char *, 2> FileTahoma = {"/usr/share/wine/fonts/tahoma.ttf", "/usr/share/wine/fonts/tahomabd.ttf"};
+constexpr std::array<const char *, 2> FileTahoma = {"/usr/share/wine/fonts/tahoma.ttf",
+                                                    "/usr/share/wine/fonts/tahomabd.ttf"};
 
 QFont fontCasa() {
     for (const char *file : FileTahoma)
