@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QPixmap>
+#include <QPointer>
 #include <gtest/gtest.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -64,13 +65,23 @@ void Guida::batti() {
         return;
     }
     m_battiti = 0;
-    const Passo passo = m_passi.front();
+    // Not from the timer's own slot: it would not fire again while the action waits for a form that it opened.
+    QMetaObject::invokeMethod(
+        this,
+        [passo = m_passi.front(), modale = QPointer(modale)] {
+            if (modale != nullptr)
+                esegui(passo, *modale);
+        },
+        Qt::QueuedConnection);
     m_passi.pop_front();
+}
+
+void Guida::esegui(const Passo &passo, QWidget &form) {
     try {
-        passo.azione(*modale);
+        passo.azione(form);
     } catch (const std::exception &e) {
         ADD_FAILURE() << passo.form.toStdString() << ": " << e.what();
-        modale->close();
+        form.close();
     }
 }
 

@@ -1,6 +1,6 @@
 #include "designer/logic/AnteprimaTG.h"
 
-#include "designer/logic/Numeri.h"
+#include "designer/logic/NumeriSingoli.h"
 
 #include <algorithm>
 
