@@ -24,6 +24,12 @@ void PictureBox::setImmagine(const QPixmap &immagine) {
     update();
 }
 
+void PictureBox::setTesto(const QString &testo) {
+    m_testo = testo;
+    setAccessibleDescription(testo);
+    update();
+}
+
 void PictureBox::rendiCliccabile(const QString &nomeAccessibile) {
     m_cliccabile = true;
     setCursor(Qt::PointingHandCursor);
@@ -39,11 +45,22 @@ void PictureBox::paintEvent(QPaintEvent *) {
         dipingi(pittore, *m_disegno, rect());
     else if (!m_immagine.isNull())
         pittore.drawPixmap(rect(), m_immagine);
+    else if (!m_testo.isEmpty())
+        dipingiTesto(pittore);
     if (!hasFocus())
         return;
     QStyleOptionFocusRect opzione;
     opzione.initFrom(this);
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &opzione, &pittore, this);
+}
+
+void PictureBox::dipingiTesto(QPainter &pittore) {
+    constexpr int Margine = 8; // pixels
+    pittore.setPen(palette().color(QPalette::Mid));
+    pittore.drawRect(rect().adjusted(0, 0, -1, -1));
+    pittore.setPen(palette().color(QPalette::PlaceholderText));
+    pittore.drawText(rect().adjusted(Margine, Margine, -Margine, -Margine),
+                     Qt::AlignCenter | Qt::TextWordWrap | Qt::TextWrapAnywhere, m_testo);
 }
 
 void PictureBox::mouseReleaseEvent(QMouseEvent *e) {
