@@ -54,6 +54,7 @@ SceltaLayout::SceltaLayout(const Ambiente &ambiente_, CaricaLayout carica, QWidg
       }) {
     disponiLinee();
     Label2.setReadOnly(true);
+    Label2.setFocusPolicy(Qt::ClickFocus);
     riempi();
     alClic(PPBB1, [this](int i) { CancellaLayout(ambiente(), QString::number(i), this).mostraModale(); });
     alClic(PB1(0), [this] { scarica(); });
