@@ -17,7 +17,7 @@ protected:
     InstallazioneProva i;
 };
 
-TEST_F(ProvaCopia, copia_della_base_su_un_layout) {
+TEST_F(ProvaCopia, CopiaDellaBaseSuUnLayout) {
     const QStringList altra = tabella(u"Layout4"_s);
     CopiaLayout form(i.ambiente, nullptr);
     EXPECT_EQ(premi(form, "Btn(1)"), u"Impossibile copiare un \nLayout su se stesso ! "_s);
@@ -30,7 +30,7 @@ TEST_F(ProvaCopia, copia_della_base_su_un_layout) {
     EXPECT_EQ(tabella(u"Layout4"_s), altra);
 }
 
-TEST_F(ProvaCopia, una_tabella_corta_lo_dice) {
+TEST_F(ProvaCopia, UnaTabellaCortaLoDice) {
     i.esegui(u"DELETE FROM Layout5 WHERE rowid > 40"_s);
     CopiaLayout form(i.ambiente, nullptr);
     clicca(form, "L0(4)");
@@ -38,7 +38,7 @@ TEST_F(ProvaCopia, una_tabella_corta_lo_dice) {
     EXPECT_TRUE(messaggio.contains(u"40"_s)) << messaggio.toStdString();
 }
 
-TEST_F(ProvaCopia, la_scopa_cancella_il_suo_layout) {
+TEST_F(ProvaCopia, LaScopaCancellaIlSuoLayout) {
     const QStringList descrizioni = i.righe(u"SELECT * FROM DescrizioneLayout"_s);
     const QStringList primo = tabella(u"Layout1"_s);
     SceltaLayout form(i.ambiente, {}, nullptr);
@@ -66,7 +66,7 @@ TEST_F(ProvaCopia, la_scopa_cancella_il_suo_layout) {
     EXPECT_EQ(tabella(u"Layout1"_s), primo);
 }
 
-TEST_F(ProvaCopia, una_cancellazione_impossibile_lascia_la_form) {
+TEST_F(ProvaCopia, UnaCancellazioneImpossibileLasciaLaForm) {
     i.esegui(u"DROP TABLE Layout2"_s);
     CancellaLayout form(i.ambiente, u"2"_s, nullptr);
     form.show();
@@ -74,7 +74,7 @@ TEST_F(ProvaCopia, una_cancellazione_impossibile_lascia_la_form) {
     EXPECT_TRUE(form.isVisible());
 }
 
-TEST_F(ProvaCopia, aspetto) {
+TEST_F(ProvaCopia, Aspetto) {
     CopiaLayout form(i.ambiente, nullptr);
     form.show();
     EXPECT_EQ(didascalieTagliate(form), QStringList());

@@ -33,7 +33,7 @@ int lineaAccesa(QWidget &form) {
     return -1;
 }
 
-TEST_F(ProvaScelta, mostra_il_predefinito_e_nessuno_quando_non_vale) {
+TEST_F(ProvaScelta, MostraIlPredefinitoENessunoQuandoNonVale) {
     const struct {
         const char *valore;
         const char *testo;
@@ -48,7 +48,7 @@ TEST_F(ProvaScelta, mostra_il_predefinito_e_nessuno_quando_non_vale) {
     }
 }
 
-TEST_F(ProvaScelta, salva_tutte_le_linee_e_la_prima_con_i_suoi_testi) {
+TEST_F(ProvaScelta, SalvaTutteLeLineeELaPrimaConISuoiTesti) {
     i.esegui(u"UPDATE DescrizioneLayout SET LayoutNome='x', LayoutDescrizione='y' WHERE rowid=1;"
              "UPDATE DescrizioneLayout SET LayoutNome=NULL WHERE rowid=4"_s);
     const auto form = apri();
@@ -64,7 +64,7 @@ TEST_F(ProvaScelta, salva_tutte_le_linee_e_la_prima_con_i_suoi_testi) {
     EXPECT_TRUE(righe.last().endsWith(u"|l'ultimo è qui"_s));
 }
 
-TEST_F(ProvaScelta, la_base_non_diventa_predefinita) {
+TEST_F(ProvaScelta, LaBaseNonDiventaPredefinita) {
     i.esegui(u"UPDATE Configurazione SET qualelayout=3"_s);
     const auto form = apri();
     clicca(*form, "RB1(0)");
@@ -79,7 +79,7 @@ TEST_F(ProvaScelta, la_base_non_diventa_predefinita) {
     EXPECT_EQ(i.valore(u"SELECT qualelayout FROM Configurazione"_s).toInt(), 8);
 }
 
-TEST_F(ProvaScelta, carica_la_linea_scelta) {
+TEST_F(ProvaScelta, CaricaLaLineaScelta) {
     i.esegui(u"UPDATE Configurazione SET qualelayout=NULL"_s);
     const auto form = apri();
     EXPECT_EQ(premi(*form, "PB1(3)"), u"Selezionare un Layout !"_s);
@@ -92,7 +92,7 @@ TEST_F(ProvaScelta, carica_la_linea_scelta) {
     EXPECT_EQ(i.valori.LayoutCorrente, u"Layout10"_s);
 }
 
-TEST_F(ProvaScelta, meno_di_undici_descrizioni) {
+TEST_F(ProvaScelta, MenoDiUndiciDescrizioni) {
     i.esegui(u"DELETE FROM DescrizioneLayout WHERE rowid > 9"_s);
     const auto form = apri();
     form->show();
@@ -106,7 +106,7 @@ TEST_F(ProvaScelta, meno_di_undici_descrizioni) {
     EXPECT_EQ(i.valore(u"SELECT count(*) FROM DescrizioneLayout"_s).toInt(), 9);
 }
 
-TEST_F(ProvaScelta, una_scrittura_impossibile_si_spiega) {
+TEST_F(ProvaScelta, UnaScritturaImpossibileSiSpiega) {
     const auto form = apri();
     clicca(*form, "RB1(2)");
     i.esegui(u"DROP TABLE DescrizioneLayout; DELETE FROM Configurazione"_s);
@@ -117,7 +117,7 @@ TEST_F(ProvaScelta, una_scrittura_impossibile_si_spiega) {
     EXPECT_NE(testo(*form, "Label2"), u"Layout 2"_s);
 }
 
-TEST_F(ProvaScelta, aspetto) {
+TEST_F(ProvaScelta, Aspetto) {
     i.esegui(u"UPDATE Configurazione SET qualelayout=2"_s);
     const auto form = apri();
     form->show();
