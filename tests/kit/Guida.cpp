@@ -65,24 +65,21 @@ void Guida::batti() {
         return;
     }
     m_battiti = 0;
-    // Not from the timer's own slot: it would not fire again while the action waits for a form that it opened.
-    QMetaObject::invokeMethod(
-        this,
-        [passo = m_passi.front(), modale = QPointer(modale)] {
-            if (modale != nullptr)
-                esegui(passo, *modale);
-        },
-        Qt::QueuedConnection);
+    const Passo passo = m_passi.front();
     m_passi.pop_front();
-}
-
-void Guida::esegui(const Passo &passo, QWidget &form) {
-    try {
-        passo.azione(form);
-    } catch (const std::exception &e) {
-        ADD_FAILURE() << passo.form.toStdString() << ": " << e.what();
-        form.close();
-    }
+    // Not from the timer itself: it would not beat again until the action, and each form that it opens, is done.
+    const auto esegui = [passo, form = QPointer(modale)] {
+        if (form == nullptr)
+            return;
+        try {
+            passo.azione(*form);
+        } catch (const std::exception &e) {
+            ADD_FAILURE() << passo.form.toStdString() << ": " << e.what();
+            if (form != nullptr)
+                form->close();
+        }
+    };
+    QMetaObject::invokeMethod(this, esegui, Qt::QueuedConnection);
 }
 
 void clicca(QWidget &radice, const char *nome) {

@@ -29,7 +29,6 @@ private:
         std::function<void(QWidget &)> azione;
     };
     void batti();
-    static void esegui(const Passo &passo, QWidget &form);
 
     std::deque<Passo> m_passi;
     QTimer m_orologio;

@@ -68,6 +68,7 @@ protected:
 
 private:
     void adatta();
+    QFont m_base;
     bool m_sinistra = false;
 };
 
@@ -93,6 +94,11 @@ public:
     GroupBox(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto);
     QString didascaliaMostrata() const override { return title(); }
     QSize spazioDidascalia() const override;
+
+protected:
+    // A thin frame with the title on its upper line. The style's own frame comes from a picture file, and reading that
+    // loads every picture plugin of the platform into a program that has just started.
+    void paintEvent(QPaintEvent *e) override;
 };
 
 // One line of text. Typed keys can be dropped by a test on the character; the paste of the menu can't.

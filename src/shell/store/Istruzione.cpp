@@ -16,9 +16,13 @@ Istruzione::~Istruzione() {
     if (m_s == nullptr)
         return;
     auto &pronte = m_c->m_pronte;
-    if (m_chiave.isEmpty() || pronte.size() >= Connessione::kPronteMassime || pronte.contains(m_chiave)) {
+    if (m_chiave.isEmpty() || pronte.contains(m_chiave)) {
         sqlite3_finalize(m_s);
         return;
+    }
+    if (pronte.size() >= Connessione::kPronteMassime) {
+        sqlite3_finalize(*pronte.begin());
+        pronte.erase(pronte.begin());
     }
     sqlite3_reset(m_s);
     sqlite3_clear_bindings(m_s);
@@ -31,8 +35,7 @@ void Istruzione::lega(int posto, const Valore &v) {
         rc = sqlite3_bind_null(m_s, posto);
     } else if (v.typeId() == QMetaType::QString) {
         const QByteArray testo = v.toString().toUtf8();
-        rc = sqlite3_bind_text(m_s, posto, testo.isNull() ? "" : testo.constData(), static_cast<int>(testo.size()),
-                               SQLITE_TRANSIENT);
+        rc = sqlite3_bind_text(m_s, posto, testo.constData(), static_cast<int>(testo.size()), SQLITE_TRANSIENT);
     } else if (v.typeId() == QMetaType::Double || v.typeId() == QMetaType::Float) {
         rc = sqlite3_bind_double(m_s, posto, v.toDouble());
     } else {

@@ -1,0 +1,28 @@
+#include "web/FabbricaQtWeb.h"
+
+#include "web/VistaQtWeb.h"
+
+#include <QLoggingCategory>
+#include <QQuickWindow>
+
+#include <unistd.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+
+// What the engine reads when it makes its first view. The shared graphics context must be there already: the program
+// makes it before it loads this component.
+FabbricaQtWeb::FabbricaQtWeb() {
+    // The engine refuses to start with its sandbox for the user root, and for no other user may it be switched off.
+    if (geteuid() == 0)
+        qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+    QLoggingCategory::setFilterRules(u"qt.webenginecontext=false"_s); // a page of settings at each start
+}
+
+std::unique_ptr<VistaWeb> FabbricaQtWeb::crea(QWidget *padre) {
+    return std::make_unique<VistaQtWeb>(padre);
+}
+
+} // namespace zuvora
