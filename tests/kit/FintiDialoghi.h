@@ -50,12 +50,13 @@ public:
 
 private:
     template <class T> std::optional<T> prossima(std::deque<std::optional<T>> &coda) {
+        std::optional<T> risposta;
         if (coda.empty()) {
             ADD_FAILURE() << "a dialog came without an answer";
-            return std::nullopt;
+        } else {
+            risposta = std::move(coda.front());
+            coda.pop_front();
         }
-        auto risposta = coda.front();
-        coda.pop_front();
         return risposta;
     }
     std::vector<Box> m_box;

@@ -20,9 +20,9 @@ private:
 
     Form &m_pannello;
     Data Data99;
-    PictureBox Image5{this, "Image5", {116, 900, 4820, 2150}, Disegno::DueSchermi};
-    Label Label1_4{this, "Label1(4)", "1", {1020, 1500, 375, 420}};
-    Label Label1_3{this, "Label1(3)", "2", {3660, 1500, 375, 420}};
+    PictureBox Image5{this, "Image5", {60, 840, 5040, 2250}, Disegno::DueSchermi};
+    Label Label1_4{this, "Label1(4)", "1", {1020, 1470, 375, 420}};
+    Label Label1_3{this, "Label1(3)", "2", {3780, 1470, 375, 420}};
     PictureBox Image4{this, "Image4", {840, 240, 735, 600}, Disegno::Marcatore};
     Label Label2_4{this, "Label2(4)", "Porta la schermata impostazioni sul :", {240, 3120, 4815, 255}};
     Schiera<Button> PosSchermo{
