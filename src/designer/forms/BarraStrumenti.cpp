@@ -132,10 +132,10 @@ void BarraStrumenti::impila(QWidget *sopra) {
 void BarraStrumenti::paintEvent(QPaintEvent *) {
     QPainter p(this);
     p.fillRect(rect(), tavolozza::sfondo);
-    p.setPen(tavolozza::testoTenue);
-    p.drawRect(rect().adjusted(0, 0, -1, -1));
     const QRect striscia = rettangoloTela(strisciaStrumenti).intersected(rect());
     p.fillRect(striscia, tavolozza::primarioChiaro);
+    p.setPen(tavolozza::testoTenue);
+    p.drawRect(rect().adjusted(0, 0, -1, -1));
     dipingi(p, Disegno::Presa, striscia.adjusted(0, 4, -striscia.width() / 3, -4));
 }
 

@@ -91,13 +91,10 @@ void ElementiTela::allineaTutti() {
         allinea(posto);
 }
 
-void ElementiTela::impila(int posto) {
+void ElementiTela::impila(int posto, QWidget *tetto) {
     const auto &ordine = m_layout.ordine();
     const auto dopo = ordine.indexOf(posto) + 1;
-    if (dopo < ordine.size())
-        m_bersagli[std::size_t(posto)]->stackUnder(m_bersagli[std::size_t(ordine.at(dopo))]);
-    else if (dopo > 1)
-        m_bersagli[std::size_t(ordine.at(dopo - 2))]->stackUnder(m_bersagli[std::size_t(posto)]);
+    m_bersagli[std::size_t(posto)]->stackUnder(dopo < ordine.size() ? m_bersagli[std::size_t(ordine.at(dopo))] : tetto);
 }
 
 } // namespace zuvora

@@ -19,8 +19,8 @@ public:
     // Place and visibility as the element has them; a panel's labels too.
     void allinea(int posto);
     void allineaTutti();
-    // Place in the stack as the layout has it.
-    void impila(int posto);
+    // Place in the stack as the layout has it; `tetto` is the lowest control above all elements.
+    void impila(int posto, QWidget *tetto);
 
 private:
     void crea(QWidget *padre, int posto, const Gestore &gestore);

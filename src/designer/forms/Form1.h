@@ -51,6 +51,7 @@ private:
     void iniziaContorno(Qt::CursorShape cursore);
     void mostraContorno();
     void fineContorno();
+    void lasciaMouse();
     void rilasciaStrumenti();
     void interrompi();
     void MostraManiglie(bool mostra);

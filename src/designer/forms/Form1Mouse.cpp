@@ -116,6 +116,7 @@ void Form1::mouseManiglia(int indice, Fase fase, const QMouseEvent &evento) {
 void Form1::iniziaContorno(Qt::CursorShape cursore) {
     disponiManiglie();
     mostraContorno();
+    setMouseTracking(true);
     if (isVisible())
         grabMouse(cursore);
 }
@@ -127,9 +128,14 @@ void Form1::mostraContorno() {
     m_contorno.mostra(sulForm.normalized());
 }
 
-void Form1::fineContorno() {
+void Form1::lasciaMouse() {
     m_contorno.nascondi();
+    setMouseTracking(false);
     releaseMouse();
+}
+
+void Form1::fineContorno() {
+    lasciaMouse();
     aggiorna(m_trascinamento.ControlloCorrente());
     disponiManiglie();
 }
@@ -197,8 +203,7 @@ void Form1::hideEvent(QHideEvent *e) {
 void Form1::interrompi() {
     if (m_trascinamento.inCorso()) {
         m_trascinamento.interrompi();
-        m_contorno.nascondi();
-        releaseMouse();
+        lasciaMouse();
     }
     if (!m_vivo.TrascinamentoAttivo())
         return;

@@ -44,6 +44,8 @@ Form2::Form2(const Ambiente &ambiente_, DisplayLayout &layout, int posto, std::f
     CP2.setAccessibleName(u"Scegli il colore del testo"_s);
     Testo999.setMaxLength(MassimoTesto);
     Label4.hide();
+    for (const auto &[i, etichetta] : Label2)
+        etichetta->setAlignment(Qt::AlignLeft | Qt::AlignVCenter); // in line with the fields
     Label1.setFontBase(fontTitolo());
     disponi(paginaClasse(m_classe));
     riempi(riempiCampi(m_layout, posto));
@@ -62,6 +64,10 @@ void Form2::disponi(const PaginaClasse &pagina) {
     Testo999.setEnabled(pagina.testo);
     for (const QStringView nome : pagina.disabilitati)
         box1.findChild<QWidget *>(nome.toString())->setEnabled(false);
+    if (PB1_0.isEnabled())
+        PB1_0.setFocus();
+    else
+        CP1.setFocus();
 }
 
 void Form2::riempi(const CampiForm2 &campi) {
