@@ -56,8 +56,8 @@ QString attese(const Tabella &tabella) {
 }
 } // namespace
 
-ControlloArchivio::ControlloArchivio(const Archivio &archivio, const QString &file)
-    : m_archivio(archivio), m_file(file) {}
+ControlloArchivio::ControlloArchivio(const Archivio &archivio, QString file)
+    : m_archivio(archivio), m_file(std::move(file)) {}
 
 void ControlloArchivio::segnala(const QString &difetto) {
     m_difetti += QFileInfo(m_file).fileName() + u": "_s + difetto;

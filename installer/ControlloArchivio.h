@@ -14,7 +14,7 @@ namespace zuvora::installa {
 // One database of an installation, opened for reading and held against the schema.
 class ControlloArchivio {
 public:
-    ControlloArchivio(const Archivio &archivio, const QString &file);
+    ControlloArchivio(const Archivio &archivio, QString file);
 
     // File, the engine's own check, tables, columns, numbers of rows.
     void controlla();

@@ -38,7 +38,8 @@ bool prendi(QStringList &argomenti, const QString &opzione) {
     return argomenti.removeAll(opzione) > 0;
 }
 
-int crea(QStringList argomenti) {
+int crea(const QStringList &dati) {
+    QStringList argomenti = dati;
     OpzioniCrea opzioni;
     opzioni.esempio = prendi(argomenti, u"--esempio"_s);
     opzioni.cartella = argomenti.value(0);
@@ -47,7 +48,7 @@ int crea(QStringList argomenti) {
     return esito.riuscito ? InOrdine : NonRiuscito;
 }
 
-int verifica(QStringList argomenti) {
+int verifica(const QStringList &argomenti) {
     const QStringList difetti = verificaInstallazione(argomenti.value(0));
     for (const QString &difetto : difetti)
         scrivi(stdout, difetto + u'\n');
@@ -59,7 +60,7 @@ int verifica(QStringList argomenti) {
 struct Comando {
     QLatin1StringView nome;
     QStringList opzioni;
-    int (*esegui)(QStringList argomenti); // its options and one folder
+    int (*esegui)(const QStringList &argomenti); // its options and one folder
 };
 
 int esegui(const Comando &comando, const QStringList &argomenti) {
@@ -77,7 +78,9 @@ int esegui(const Comando &comando, const QStringList &argomenti) {
 
 int main(int argc, char **argv) {
     // A limit on file sizes must fail the write, with a message, not end the process half-way.
+#ifdef SIGXFSZ
     std::signal(SIGXFSZ, SIG_IGN);
+#endif
     const QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationVersion(QStringLiteral(ZUVORA_VERSIONE));
 

@@ -1,4 +1,5 @@
-// The composition root: the only place that knows every form.
+// The program: look, platform and dialogs, then the forms of the composition.
+#include "Composizione.h"
 #include "shell/forms/Avvio.h"
 #include "shell/host/QtDialoghi.h"
 #include "shell/host/QtPiattaforma.h"
@@ -15,5 +16,5 @@ int main(int argc, char *argv[]) {
     QtDialoghi dialoghi;
     QtPiattaforma piattaforma("zuvora-modulo-impostazione");
     const Ambiente ambiente{valori, dialoghi, piattaforma};
-    return eseguiProgramma(ambiente, {}, QUrl(QStringLiteral(ZUVORA_SITO)));
+    return eseguiProgramma(ambiente, apritoriDelPannello(), QUrl(QStringLiteral(ZUVORA_SITO)));
 }

@@ -29,9 +29,9 @@ constexpr std::array<Etichetta, 12> etichette{{
     {u"ritiro_referti", u"Ritiro Referti", u"documento", Tinta::Verde},
     {u"prelievi", u"Prelievi", u"goccia", Tinta::Rosso},
     {u"ambulatorio", u"Ambulatorio", u"stetoscopio", Tinta::Blu},
-    {u"radiologia", u"Radiologia", u"costole", Tinta::Antracite},
+    {u"radiologia", u"Radiologia", u"lastra", Tinta::Antracite},
     {u"vaccinazioni", u"Vaccinazioni", u"siringa", Tinta::Petrolio},
-    {u"farmacia", u"Farmacia", u"croce", Tinta::Verde},
+    {u"farmacia", u"Farmacia", u"croce_farmacia", Tinta::Verde},
     {u"pronto_soccorso", u"Pronto Soccorso", u"battito", Tinta::Rosso},
 }};
 

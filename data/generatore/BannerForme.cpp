@@ -17,7 +17,7 @@ QBrush piatto(const Tono &t, const QRectF &r = foglio) {
 }
 
 void conOmbra(QPainter &p, const QPainterPath &forma, const QBrush &tinta) {
-    ombra(p, misuraBanner, forma, {0, 5}, 10, velato(nero, 0.35));
+    ombra(p, forma, {0, 5}, 10, velato(nero, 0.35));
     p.fillPath(forma, tinta);
 }
 
@@ -39,8 +39,9 @@ void onda(QPainter &p, const Tono &t) {
 }
 
 void linguetta(QPainter &p, const Tono &t) {
-    const QPainterPath forma = tracciato(u"M 20 196 C 70 196 70 12 140 12 L 1060 12 C 1130 12 1130 196 1180 196 Z");
-    conOmbra(p, forma, piatto(t));
+    const QPainterPath forma = tracciato(u"M 20 200 C 70 200 70 12 140 12 L 1060 12 C 1130 12 1130 200 1180 200 Z");
+    ombra(p, forma, {0, 0}, 8, velato(nero, 0.30));
+    p.fillPath(forma, piatto(t));
     p.strokePath(tracciato(u"M 140 20 L 1060 20"), QPen{velato(bianco, 0.5), 3, Qt::SolidLine, Qt::RoundCap});
 }
 
@@ -90,7 +91,7 @@ void nastro(QPainter &p, const Tono &t) {
     p.fillPath(tracciato(u"M 120 152 L 190 152 L 190 184 Z M 1080 152 L 1010 152 L 1010 184 Z"),
                misto(t.scuro, nero, 0.35));
     const QRectF banda{120, 18, 960, 134};
-    ombra(p, misuraBanner, arrotondato(banda.adjusted(0, 0, 0, -4), 0), {0, 4}, 8, velato(nero, 0.25));
+    ombra(p, arrotondato(banda.adjusted(0, 0, 0, -4), 0), {0, 4}, 8, velato(nero, 0.25));
     p.fillRect(banda, piatto(t, banda));
     for (const double y : {28.0, 139.0})
         p.fillRect(QRectF{120, y, 960, 3}, velato(bianco, 0.5));
@@ -111,8 +112,8 @@ void barraLaterale(QPainter &p, const Tono &t) {
     p.fillRect(QRectF{192, 0, 3, 900}, velato(t.base, 0.5));
     p.save();
     p.setClipRect(QRectF{0, 0, 170, 900});
-    p.fillPath(tracciato(u"M 0 620 C 60 560 130 640 170 560 L 170 900 L 0 900 Z"), velato(bianco, 0.10));
-    p.fillPath(tracciato(u"M 0 720 C 70 640 110 740 170 660 L 170 900 L 0 900 Z"), velato(bianco, 0.10));
+    p.fillPath(tracciato(u"M 0 620 C 60 560 130 640 170 560 L 170 900 L 0 900 Z"), velato(t.scuro, 0.35));
+    p.fillPath(tracciato(u"M 0 720 C 70 640 110 740 170 660 L 170 900 L 0 900 Z"), velato(t.scuro, 0.35));
     p.restore();
 }
 

@@ -47,7 +47,7 @@ void arrotondata(QPainter &p, const Tono &t) {
 
 void ombreggiata(QPainter &p, const Tono &t) {
     const QPainterPath banda = anello(rientrato(foglioCornice, 18), 20, 16);
-    ombra(p, misuraCornice, banda, {0, 5}, 12, velato(0xff000000, 0.45));
+    ombra(p, banda, {0, 5}, 12, velato(0xff000000, 0.45));
     p.fillPath(banda, sfumato(foglioCornice, misto(t.base, bianco, 0.12), t.base));
     p.strokePath(arrotondato(rientrato(foglioCornice, 34), 4), QPen{QColor{t.scuro}, 1.5});
 }

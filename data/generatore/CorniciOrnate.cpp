@@ -49,10 +49,9 @@ void vetro(QPainter &p, const Tono &t) {
     const QRectF fuori = rientrato(foglioCornice, 4);
     const QPainterPath banda = anello(fuori, 22, 36);
     QLinearGradient luce{fuori.topLeft(), fuori.bottomRight()};
-    luce.setColorAt(0.0, velato(misto(t.base, bianco, 0.5).rgb(), 0.62));
-    luce.setColorAt(0.45, velato(t.base, 0.38));
-    luce.setColorAt(0.55, velato(t.base, 0.46));
-    luce.setColorAt(1.0, velato(t.scuro, 0.58));
+    luce.setColorAt(0.0, velato(misto(t.base, bianco, 0.55).rgb(), 0.66));
+    luce.setColorAt(0.5, velato(t.base, 0.42));
+    luce.setColorAt(1.0, velato(t.scuro, 0.60));
     p.fillPath(banda, luce);
     p.fillPath(anello(fuori, 22, 2), velato(bianco, 0.85));
     p.fillPath(anello(rientrato(fuori, 34), 6, 2), velato(bianco, 0.75));
@@ -63,7 +62,7 @@ void foto(QPainter &p, const Tono &t) {
     const QRectF dentro{44, 40, 512, 322};
     QPainterPath banda = arrotondato(fuori, 4);
     banda.addPath(arrotondato(dentro, 2));
-    ombra(p, misuraCornice, banda, {0, 4}, 12, velato(nero, 0.5));
+    ombra(p, banda, {0, 4}, 12, velato(nero, 0.5));
     p.fillPath(banda, sfumato(fuori, misto(t.chiaro, bianco, 0.5), misto(t.chiaro, t.scuro, 0.06)));
     p.strokePath(arrotondato(dentro, 2), QPen{velato(nero, 0.22), 2});
 }
@@ -79,23 +78,22 @@ void ornamentale(QPainter &p, const Tono &t) {
     const QRectF mezzi = rientrato(fuori, 6);
     const QPointF c = mezzi.center();
     for (const QPointF &mezzo : {QPointF{c.x(), mezzi.top()}, QPointF{c.x(), mezzi.bottom()}}) {
-        rombo(p, mezzo, 17, t.scuro);
-        rombo(p, mezzo + QPointF{-30, 0}, 9, t.base);
-        rombo(p, mezzo + QPointF{30, 0}, 9, t.base);
+        rombo(p, mezzo, 13, t.scuro);
+        rombo(p, mezzo + QPointF{-26, 0}, 8, t.base);
+        rombo(p, mezzo + QPointF{26, 0}, 8, t.base);
     }
 }
 
 void conTitolo(QPainter &p, const Tono &t) {
-    const QRectF linguetta{28, 4, 300, 66};
-    const QRectF corpo{6, 58, 588, 386};
-    QPainterPath forma = anello(corpo, 16, 8);
-    p.fillPath(forma, QColor{t.base});
-    QPainterPath testa = arrotondato(linguetta, 16);
+    constexpr double bordo = 62; // the tab ends within the body's upper line
+    const QRectF linguetta{6, 4, 300, 90};
+    p.fillPath(anello(QRectF{6, 56, 588, 390}, 16, 8), QColor{t.base});
     p.save();
-    p.setClipRect(QRectF{0, 0, foglioCornice.width(), 62});
-    p.fillPath(testa, piatto(t, linguetta));
+    p.setClipRect(QRectF{0, 0, foglioCornice.width(), bordo});
+    p.fillPath(arrotondato(linguetta, 16),
+               sfumato(QRectF{6, 4, 300, bordo - 4}, misto(t.base, bianco, 0.16), QColor{t.base}));
     p.restore();
-    p.fillRect(QRectF{44, 58, 268, 3}, velato(bianco, 0.55));
+    p.fillRect(QRectF{6, bordo - 1, 8, 20}, QColor{t.base}); // squares the corner under the tab
 }
 
 void intestata(QPainter &p, const Tono &t) {
@@ -115,7 +113,7 @@ void quadro(QPainter &p, const Tono &t) {
     QPainterPath banda;
     banda.addRect(fuori);
     banda.addRect(rientrato(fuori, spessore));
-    ombra(p, misuraCornice, banda, {0, 3}, 8, velato(nero, 0.4));
+    ombra(p, banda, {0, 3}, 8, velato(nero, 0.4));
     constexpr std::array<double, 4> luci{0.26, 0.02, -0.30, 0.12}; // light falls from above left
     const auto tinta = [&t](double luce) {
         return luce >= 0 ? misto(t.base, bianco, luce) : misto(t.base, t.scuro, -luce * 2);
@@ -138,7 +136,7 @@ void quadro(QPainter &p, const Tono &t) {
 void luminosa(QPainter &p, const Tono &t) {
     const QPainterPath linea = anello(rientrato(foglioCornice, 24), 26, 7);
     for (int giro = 0; giro < 2; ++giro)
-        ombra(p, misuraCornice, anello(rientrato(foglioCornice, 18), 30, 19), {0, 0}, 14, velato(t.base, 0.85));
+        ombra(p, anello(rientrato(foglioCornice, 18), 30, 19), {0, 0}, 14, velato(t.base, 0.85));
     p.fillPath(linea, misto(t.chiaro, bianco, 0.7));
 }
 
@@ -157,7 +155,7 @@ void schermo(QPainter &p, const Tono &t) {
 void stondata(QPainter &p, const Tono &t) {
     // No half-transparent edge in this one: a GIF pixel is there or not.
     const QRectF fuori = foglioCornice;
-    p.fillPath(anello(fuori, 54, 30), QColor{t.scuro});
+    p.fillPath(anello(fuori, 54, 8), QColor{t.scuro});
     p.fillPath(anello(rientrato(fuori, 3), 51, 24), sfumato(fuori, misto(t.base, bianco, 0.35), t.base));
     p.fillPath(anello(rientrato(fuori, 7), 47, 4), misto(t.base, bianco, 0.55));
     p.fillPath(anello(rientrato(fuori, 24), 30, 6), QColor{bianco});

@@ -57,8 +57,8 @@ constexpr std::array<Segno, 33> segni{{
     {u"silenzio_blu", u"silenzio", Fondo::Tessera, Tinta::Blu},
     {u"vietato_fumare", u"sigaretta", Fondo::Divieto, Tinta::Rosso},
     {u"vietato_telefonare", u"cellulare", Fondo::Divieto, Tinta::Rosso},
-    {u"croce_medica_rossa", u"croce", Fondo::Libero, Tinta::Rosso},
-    {u"croce_farmacia_verde", u"croce", Fondo::Libero, Tinta::Verde},
+    {u"croce_medica_blu", u"croce", Fondo::Libero, Tinta::Blu},
+    {u"croce_farmacia_verde", u"croce_farmacia", Fondo::Libero, Tinta::Verde},
     {u"cuore_rosso", u"battito", Fondo::Libero, Tinta::Rosso},
     {u"goccia_prelievi_rossa", u"goccia", Fondo::Libero, Tinta::Rosso},
     {u"provette_petrolio", u"provetta", Fondo::Tessera, Tinta::Petrolio},
@@ -76,7 +76,7 @@ QBrush fondoTono(const Tono &t) {
 
 // A plate of the colour with a white edge and a soft shadow, so that it stands out on any background.
 void piastra(QPainter &p, const QPainterPath &forma, const Tono &t) {
-    ombra(p, misura, forma, {0, 4}, 8, velato(0xff000000, 0.30));
+    ombra(p, forma, {0, 4}, 8, velato(0xff000000, 0.30));
     p.strokePath(forma, QPen{QColor{bianco}, 2 * bordo, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin});
     p.fillPath(forma, fondoTono(t));
 }
@@ -89,7 +89,7 @@ QPainterPath disco(double raggio) {
 
 void tessera(QPainter &p, const Segno &s) {
     piastra(p, arrotondato(foglio.adjusted(bordo, bordo, -bordo, -bordo), 40), tono(s.tinta));
-    disegnaSimbolo(p, s.simbolo, interno(146), bianco);
+    disegnaSimbolo(p, s.simbolo, interno(154), bianco);
 }
 
 void suDisco(QPainter &p, const Segno &s) {
@@ -105,13 +105,14 @@ void coccarda(QPainter &p, const Segno &s) {
 
 void divieto(QPainter &p, const Segno &s) {
     const Tono &t = tono(s.tinta);
-    ombra(p, misura, disco(116), {0, 4}, 8, velato(0xff000000, 0.30));
+    ombra(p, disco(116), {0, 4}, 8, velato(0xff000000, 0.30));
     p.fillPath(disco(116), QColor{bianco});
     disegnaSimbolo(p, s.simbolo, interno(126), QColor{tono(Tinta::Antracite).scuro});
     const QPen rosso{QColor{t.base}, 18};
+    const QPainterPath sbarra = tracciato(u"M 58 58 L 198 198");
+    p.strokePath(sbarra, QPen{QColor{bianco}, 28, Qt::SolidLine, Qt::FlatCap});
+    p.strokePath(sbarra, rosso);
     p.strokePath(disco(100), rosso);
-    p.strokePath(tracciato(u"M 58 58 L 198 198"), QPen{QColor{bianco}, 26, Qt::SolidLine, Qt::FlatCap});
-    p.strokePath(tracciato(u"M 58 58 L 198 198"), rosso);
 }
 
 void libero(QPainter &p, const Segno &s) {
@@ -126,7 +127,7 @@ void libero(QPainter &p, const Segno &s) {
     posa.translate(posto.left(), posto.top());
     posa.scale(posto.width() / 100, posto.height() / 100);
     const QPainterPath grande = posa.map(sagoma);
-    ombra(p, misura, grande, {0, 4}, 10, velato(0xff000000, 0.35));
+    ombra(p, grande, {0, 4}, 10, velato(0xff000000, 0.35));
     p.strokePath(grande, QPen{QColor{bianco}, 2 * bordo, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin});
     p.fillPath(grande, QColor{bianco});
     disegnaSimbolo(p, s.simbolo, posto, QColor{tono(s.tinta).base});

@@ -17,10 +17,10 @@ namespace {
 const QString carattere = u"Liberation Sans"_s;
 
 // One pass of a running mean over a row or column of premultiplied pixels.
-void media(const QRgb *da, QRgb *verso, int quanti, int passo, int raggio) {
+void media(const QRgb *da, QRgb *verso, qsizetype quanti, qsizetype passo, int raggio) {
     const int finestra = 2 * raggio + 1;
     std::array<int, 4> somma{};
-    const auto aggiungi = [&](int indice, int segno) {
+    const auto aggiungi = [&](qsizetype indice, int segno) {
         if (indice < 0 || indice >= quanti)
             return;
         const QRgb punto = da[indice * passo];
@@ -29,9 +29,9 @@ void media(const QRgb *da, QRgb *verso, int quanti, int passo, int raggio) {
         somma[2] += segno * qGreen(punto);
         somma[3] += segno * qBlue(punto);
     };
-    for (int i = -raggio; i < raggio; ++i)
+    for (qsizetype i = -raggio; i < raggio; ++i)
         aggiungi(i, 1);
-    for (int i = 0; i < quanti; ++i) {
+    for (qsizetype i = 0; i < quanti; ++i) {
         aggiungi(i + raggio, 1);
         verso[i * passo] = qRgba(somma[1] / finestra, somma[2] / finestra, somma[3] / finestra, somma[0] / finestra);
         aggiungi(i - raggio, -1);
@@ -41,14 +41,14 @@ void media(const QRgb *da, QRgb *verso, int quanti, int passo, int raggio) {
 // Three running means are close to a Gaussian.
 void sfoca(QImage &immagine, int raggio) {
     QImage altra = immagine.copy();
-    const int larghezza = immagine.width();
-    const int altezza = immagine.height();
+    const qsizetype larghezza = immagine.width();
+    const qsizetype altezza = immagine.height();
     for (int giro = 0; giro < 3; ++giro) {
         auto *prima = reinterpret_cast<QRgb *>(immagine.bits());
         auto *dopo = reinterpret_cast<QRgb *>(altra.bits());
-        for (int y = 0; y < altezza; ++y)
+        for (qsizetype y = 0; y < altezza; ++y)
             media(prima + y * larghezza, dopo + y * larghezza, larghezza, 1, raggio);
-        for (int x = 0; x < larghezza; ++x)
+        for (qsizetype x = 0; x < larghezza; ++x)
             media(dopo + x, prima + x, altezza, larghezza, raggio);
     }
 }
@@ -118,10 +118,16 @@ QBrush sfumato(const QRectF &r, const QColor &alto, const QColor &basso) {
     return g;
 }
 
-void ombra(QPainter &p, QSize misura, const QPainterPath &forma, QPointF scarto, int raggio, const QColor &colore) {
-    QImage macchia = dipinto(misura, [&](QPainter &q) { q.fillPath(forma.translated(scarto), colore); });
+void ombra(QPainter &p, const QPainterPath &forma, QPointF scarto, int raggio, const QColor &colore) {
+    const QPainterPath sagoma = forma.translated(scarto);
+    const int orlo = 2 * raggio;
+    const QRect area = sagoma.boundingRect().toAlignedRect().adjusted(-orlo, -orlo, orlo, orlo);
+    QImage macchia = dipinto(area.size(), [&](QPainter &q) {
+        q.translate(-area.topLeft());
+        q.fillPath(sagoma, colore);
+    });
     sfoca(macchia, std::max(1, raggio / 2));
-    p.drawImage(0, 0, macchia);
+    p.drawImage(area.topLeft(), macchia);
 }
 
 bool carattereDisponibile() {

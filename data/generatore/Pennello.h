@@ -36,8 +36,8 @@ QPainterPath scritta(const QString &testo, const QRectF &r, double altezza, Qt::
 // Top to bottom in the rectangle.
 QBrush sfumato(const QRectF &r, const QColor &alto, const QColor &basso);
 
-// The shape's blurred shadow, `raggio` pixels wide, on a picture of size `misura`.
-void ombra(QPainter &p, QSize misura, const QPainterPath &forma, QPointF scarto, int raggio, const QColor &colore);
+// The shape's blurred shadow; it fades over about `raggio` pixels.
+void ombra(QPainter &p, const QPainterPath &forma, QPointF scarto, int raggio, const QColor &colore);
 
 // False when the font all captions are set in is missing on this machine.
 bool carattereDisponibile();

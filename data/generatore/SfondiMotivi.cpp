@@ -53,7 +53,7 @@ void foglie(QPainter &p, const QRectF &r, const Atmosfera &a) {
 
 void dune(QPainter &p, const QRectF &r, const Atmosfera &a) {
     macchie(p, r, a,
-            {{u"O 82 24 15", 0.25, true},
+            {{u"M 0 0 L 100 0 L 100 30 C 84 42 66 36 50 26 C 32 16 14 16 0 26 Z", 0.24, true},
              {u"M 0 58 C 22 48 40 60 58 66 C 76 72 88 60 100 52 L 100 100 L 0 100 Z", 0.12, false},
              {u"M 0 72 C 18 82 38 66 60 76 C 78 84 90 78 100 70 L 100 100 L 0 100 Z", 0.13, false},
              {u"M 0 92 C 24 78 50 96 100 86 L 100 100 L 0 100 Z", 0.14, false}});

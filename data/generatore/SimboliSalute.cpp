@@ -9,6 +9,10 @@ namespace {
 using enum Mano;
 
 constexpr Strato croce[]{{Pieno, 0, u"R 34 6 32 88 6 R 6 34 88 32 6"}};
+constexpr Strato croceFarmacia[]{
+    {Pieno, 0, u"R 31 2 38 96 3 R 2 31 96 38 3"},
+    {TaglioTratto, 5,
+     u"M 41 12 L 59 12 L 59 41 L 88 41 L 88 59 L 59 59 L 59 88 L 41 88 L 41 59 L 12 59 L 12 41 L 41 41 Z"}};
 constexpr Strato carrozzina[]{{Pieno, 0, u"O 38 12 9"},
                               {Tratto, 10, u"M 39 29 L 42 54 L 65 54 L 77 82 L 87 78"},
                               {Tratto, 7, u"M 42 39 L 63 39"},
@@ -56,15 +60,17 @@ constexpr Strato siringa[]{{Tratto, 6, u"M 74 10 L 90 26 M 82 18 L 70 30"},
 constexpr Strato stetoscopio[]{{Tratto, 7, u"M 22 10 L 14 10 L 14 34 C 14 62 56 62 56 34 L 56 10 L 48 10"},
                                {Tratto, 7, u"M 35 56 L 35 66 C 35 96 78 96 78 66 L 78 56"},
                                {Tratto, 7, u"O 78 44 10"}};
-constexpr Strato costole[]{{Tratto, 9, u"M 50 8 L 50 92"},
-                           {Tratto, 7,
-                            u"M 50 22 C 30 16 16 26 18 42 M 50 22 C 70 16 84 26 82 42 M 50 42 C 32 36 20 44 20 58 M 50 "
-                            u"42 C 68 36 80 44 80 58 M 50 61 C "
-                            u"36 56 26 62 26 74 M 50 61 C 64 56 74 62 74 74"}};
+constexpr Strato lastra[]{{Pieno, 0, u"R 12 2 76 96 8"},
+                          {TaglioTratto, 7, u"M 50 14 L 50 86"},
+                          {TaglioTratto, 5,
+                           u"M 50 26 C 36 20 26 28 26 40 M 50 26 C 64 20 74 28 74 40 M 50 44 C 36 38 26 46 26 58 M 50 "
+                           u"44 C 64 38 74 46 74 58 M 50 62 C "
+                           u"38 57 30 63 30 74 M 50 62 C 62 57 70 63 70 74"}};
 constexpr Strato pillola[]{
     {Tratto, 30, u"M 32 68 L 68 32"}, {TaglioTratto, 4, u"M 36 36 L 64 64"}, {TaglioTratto, 5, u"M 60 28 L 66 24"}};
 
-constexpr std::array<Simbolo, 15> tabella{{
+constexpr std::array<Simbolo, 16> tabella{{
+    {u"croce_farmacia", croceFarmacia},
     {u"croce", croce},
     {u"carrozzina", carrozzina},
     {u"incinta", incinta},
@@ -78,7 +84,7 @@ constexpr std::array<Simbolo, 15> tabella{{
     {u"provetta", provetta},
     {u"siringa", siringa},
     {u"stetoscopio", stetoscopio},
-    {u"costole", costole},
+    {u"lastra", lastra},
     {u"pillola", pillola},
 }};
 

@@ -69,12 +69,12 @@ constexpr Strato stellaPriorita[]{
 constexpr Strato sigaretta[]{{Pieno, 0, u"R 8 56 58 14 2 R 70 56 6 14 1 R 80 56 6 14 1"},
                              {Tratto, 5, u"M 73 47 C 73 36 60 40 60 27 M 83 47 C 84 30 71 33 71 18"}};
 constexpr Strato cellulare[]{{Pieno, 0, u"R 29 5 42 90 8"}, {Taglio, 0, u"R 35 17 30 60 2"}, {Taglio, 0, u"O 50 86 4"}};
-constexpr Strato silenzio[]{{Pieno, 0, u"O 50 46 42"},
-                            {Taglio, 0, u"O 35 36 5.5 O 65 36 5.5"},
-                            {TaglioTratto, 5, u"M 32 62 L 68 62"},
-                            {TaglioTratto, 9, u"M 50 57 L 50 96"},
-                            {Taglio, 0, u"R 42 50 16 52 8"},
-                            {Pieno, 0, u"R 46 53 8 26 4 R 40 74 26 24 8"}};
+constexpr Strato silenzio[]{{Pieno, 0, u"O 50 42 40"},
+                            {Taglio, 0, u"O 35 32 5.5 O 65 32 5.5"},
+                            {TaglioTratto, 5.5, u"M 30 56 L 70 56"},
+                            {Taglio, 0, u"R 38 42 24 50 12 R 22 66 56 40 14"},
+                            {Pieno, 0, u"R 43 47 14 44 7 R 27 71 46 27 11"},
+                            {TaglioTratto, 3.5, u"M 59 80 L 70 80 M 59 89 L 70 89"}};
 
 constexpr std::array<Simbolo, 23> tabella{{
     {u"persona", persona},

@@ -9,12 +9,12 @@ namespace {
 // In the order of Tinta.
 constexpr std::array<Tono, 16> toni{{
     {u"blu", u"blu", 0xff1e5f9e, 0xff154472, 0xffd6e6f4},
-    {u"azzurro", u"azzurra", 0xff3e97cf, 0xff2a6e9c, 0xffddf0fa},
+    {u"azzurro", u"azzurra", 0xff3189c3, 0xff23648f, 0xffddf0fa},
     {u"petrolio", u"petrolio", 0xff1a7f86, 0xff115a60, 0xffd5ecec},
     {u"verde", u"verde", 0xff3c8f56, 0xff29663d, 0xffdbeedf},
     {u"salvia", u"salvia", 0xff7fa68a, 0xff587a62, 0xffe6f0e8},
     {u"sabbia", u"sabbia", 0xffc6ae82, 0xff8f7a52, 0xfff5eedf},
-    {u"arancio", u"arancio", 0xffdb8434, 0xffa55e1e, 0xfffbe9d6},
+    {u"arancio", u"arancio", 0xffcd7526, 0xff98541a, 0xfffbe9d6},
     {u"rosso", u"rossa", 0xffc2413b, 0xff8c2b27, 0xfff8dedc},
     {u"bordeaux", u"bordeaux", 0xff843448, 0xff5d2231, 0xfff0dde2},
     {u"viola", u"viola", 0xff705a9e, 0xff4f3f73, 0xffe6e0f1},

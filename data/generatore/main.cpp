@@ -28,7 +28,7 @@ QByteArray codificata(const QString &file, const QImage &immagine) {
     QByteArray dati;
     QBuffer buffer{&dati};
     QImageWriter scrittore{&buffer, foto ? "jpg" : "png"};
-    scrittore.setQuality(foto ? 86 : 0); // 0 is the smallest PNG
+    scrittore.setQuality(foto ? 96 : 0); // 0 is the smallest PNG
     scrittore.setOptimizedWrite(true);
     if (!scrittore.write(foto ? immagine.convertToFormat(QImage::Format_RGB32) : immagine))
         fallisci(u"%1: %2"_s.arg(file, scrittore.errorString()));

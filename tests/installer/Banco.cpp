@@ -1,7 +1,5 @@
 #include "installer/Banco.h"
 
-#include "installer/Crea.h"
-
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -14,9 +12,14 @@ QString Banco::percorso(const QString &nome) const {
     return m_cartella.filePath(nome);
 }
 
+QString Banco::modello() {
+    const QFileInfo memoria(u"/dev/shm"_s);
+    return (memoria.isWritable() ? memoria.filePath() : QDir::tempPath()) + u"/prova-XXXXXX"_s;
+}
+
 QString Banco::impianto(bool esempio) {
     const QString cartella = percorso(u"impianto"_s);
-    const auto esito = zuvora::installa::creaInstallazione({cartella, esempio, false, {}});
+    const auto esito = zuvora::installa::creaInstallazione(opzioni(cartella, esempio));
     EXPECT_TRUE(esito.riuscito) << qPrintable(esito.messaggio);
     return cartella;
 }
@@ -25,6 +28,10 @@ void Banco::scrivi(const QString &nome, const QByteArray &contenuto) const {
     QDir().mkpath(QFileInfo(percorso(nome)).path());
     QFile file(percorso(nome));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(contenuto) == contenuto.size());
+}
+
+zuvora::installa::OpzioniCrea opzioni(const QString &cartella, bool esempio) {
+    return {cartella, esempio, false, QFileInfo(QStringLiteral(ZUVORA_INSTALLA)).path()};
 }
 
 QString sql(const QString &archivio, const QString &istruzione) {

@@ -1,9 +1,17 @@
 #pragma once
 
+#include "installer/Crea.h"
+
 #include <QMap>
 #include <QString>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <ostream>
+
+// Readable texts in failures.
+inline void PrintTo(const QString &testo, std::ostream *dove) {
+    *dove << '"' << testo.toStdString() << '"';
+}
 
 // What the tests of the installer share.
 namespace prova {
@@ -17,9 +25,12 @@ protected:
     void scrivi(const QString &nome, const QByteArray &contenuto) const; // with the folders it needs
 
 private:
-    QTemporaryDir m_cartella;
+    QTemporaryDir m_cartella{modello()};
+    static QString modello(); // in memory where the system offers that: each installation waits for the disk
 };
 
+// An installation without the program, its pictures from beside the tool.
+zuvora::installa::OpzioniCrea opzioni(const QString &cartella, bool esempio);
 // Runs one statement on a database file, writing; gives the first value of the first row, or a null text.
 QString sql(const QString &archivio, const QString &istruzione);
 QByteArray leggi(const QString &file);

@@ -76,14 +76,18 @@ TEST_F(Contenuto, OgniLayoutHaLeSueRigheInOrdine) {
 
 TEST_F(Contenuto, ILayoutStannoNelloSchermoSenzaSovrapporsi) {
     impianto(false);
-    const QMap<QString, QSizeF> schermi{{u"LayoutBase"_s, {28800, 16200}}, {u"Layout2"_s, {15360, 11520}}};
+    const QMap<QString, QSizeF> schermi{{u"LayoutBase"_s, {28800, 16200}},
+                                        {u"Layout1"_s, {28800, 16200}},
+                                        {u"Layout2"_s, {28800, 16200}},
+                                        {u"Layout3"_s, {16200, 28800}},
+                                        {u"Layout4"_s, {15360, 11520}}};
     for (auto it = schermi.begin(); it != schermi.end(); ++it) {
         const QList<QRectF> presenti = riquadri(it.key());
         EXPECT_GE(presenti.size(), 6);
         for (qsizetype i = 0; i < presenti.size(); ++i) {
-            EXPECT_TRUE(QRectF(QPointF(0, 0), it.value()).contains(presenti[i])) << qPrintable(it.key()) << i;
+            EXPECT_TRUE(QRectF(QPointF(0, 0), it.value()).contains(presenti[i])) << qPrintable(it.key()) << ": " << i;
             for (qsizetype k = 0; k < i; ++k)
-                EXPECT_FALSE(presenti[i].intersects(presenti[k])) << qPrintable(it.key()) << i << k;
+                EXPECT_FALSE(presenti[i].intersects(presenti[k])) << qPrintable(it.key()) << ": " << i << ", " << k;
         }
     }
 }

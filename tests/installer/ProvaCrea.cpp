@@ -1,8 +1,6 @@
 #include "installer/Banco.h"
-#include "installer/Crea.h"
 #include "installer/Verifica.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <csignal>
@@ -53,7 +51,7 @@ using Crea = Banco;
 TEST_F(Crea, LInstallazioneEInOrdineAncheInUnaCartellaDalNomeDifficile) {
     for (const bool esempio : {false, true}) {
         const QString cartella = percorso(u"sala d'attesa 100% àèì/%1/impianto"_s.arg(esempio));
-        const Esito esito = creaInstallazione({cartella, esempio, false, {}});
+        const Esito esito = creaInstallazione(opzioni(cartella, esempio));
         ASSERT_TRUE(esito.riuscito) << qPrintable(esito.messaggio);
         EXPECT_EQ(verificaInstallazione(cartella), QStringList());
         EXPECT_EQ(sql(cartella + u"/Zuvora.mdb"_s, u"SELECT PercorsoReteTotem FROM ConfigurazioneTotem"_s),
@@ -100,7 +98,7 @@ TEST_P(Rifiuti, NullaCambia) {
     const Rifiuto &caso = GetParam();
     scrivi(QString::fromUtf8(caso.presente), "contenuto");
     const auto prima = istantanea(percorso());
-    const Esito esito = creaInstallazione({percorso(QString::fromUtf8(caso.cartella)), true, false, {}});
+    const Esito esito = creaInstallazione(opzioni(percorso(QString::fromUtf8(caso.cartella)), true));
     EXPECT_FALSE(esito.riuscito);
     EXPECT_TRUE(esito.messaggio.contains(QString::fromUtf8(caso.frase))) << qPrintable(esito.messaggio);
     EXPECT_EQ(istantanea(percorso()), prima);
@@ -142,7 +140,7 @@ TEST_F(Crea, UnDiscoCheSiRiempieNonLasciaTracce) {
             Esito esito{};
             {
                 const DiscoStretto disco(static_cast<rlim_t>(limite));
-                esito = creaInstallazione({percorso(cartella), true, false, {}});
+                esito = creaInstallazione(opzioni(percorso(cartella), true));
             }
             EXPECT_FALSE(esito.riuscito) << limite;
             EXPECT_TRUE(esito.messaggio.startsWith(u"Impossibile"_s)) << qPrintable(esito.messaggio);

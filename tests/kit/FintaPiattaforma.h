@@ -17,11 +17,16 @@ public:
         for (const QRect &r : monitor)
             desktop |= r;
         switch (indice) {
-        case Metrica::SinistraDesktop: return desktop.left();
-        case Metrica::AltoDesktop: return desktop.top();
-        case Metrica::LarghezzaDesktop: return desktop.width();
-        case Metrica::AltezzaDesktop: return desktop.height();
-        case Metrica::NumeroMonitor: return supporto ? static_cast<int>(monitor.size()) : 0;
+        case Metrica::SinistraDesktop:
+            return desktop.left();
+        case Metrica::AltoDesktop:
+            return desktop.top();
+        case Metrica::LarghezzaDesktop:
+            return desktop.width();
+        case Metrica::AltezzaDesktop:
+            return desktop.height();
+        case Metrica::NumeroMonitor:
+            return supporto ? static_cast<int>(monitor.size()) : 0;
         }
         return 0;
     }

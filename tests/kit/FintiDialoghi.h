@@ -2,8 +2,8 @@
 
 #include "shell/host/Dialoghi.h"
 
-#include <gtest/gtest.h>
 #include <deque>
+#include <gtest/gtest.h>
 #include <vector>
 
 namespace zuvora {

@@ -60,10 +60,14 @@ void percorri(const QString &archivio, const QString &sql, const std::function<b
 
 QVariant colonna(sqlite3_stmt *s, int i) {
     switch (sqlite3_column_type(s, i)) {
-    case SQLITE_NULL: return {};
-    case SQLITE_INTEGER: return QVariant::fromValue<qlonglong>(sqlite3_column_int64(s, i));
-    case SQLITE_FLOAT: return sqlite3_column_double(s, i);
-    default: return QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(s, i)));
+    case SQLITE_NULL:
+        return {};
+    case SQLITE_INTEGER:
+        return QVariant::fromValue<qlonglong>(sqlite3_column_int64(s, i));
+    case SQLITE_FLOAT:
+        return sqlite3_column_double(s, i);
+    default:
+        return QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(s, i)));
     }
 }
 
@@ -88,11 +92,12 @@ InstallazioneProva::InstallazioneProva() {
     piattaforma.cartella = cartella();
     valori.PercorsoApplicazione = cartella();
     // The rows of the installation that was copied name its own folder.
-    const QString vecchia = QStringLiteral(CARTELLA_BASE);
-    esegui(u"UPDATE ConfigurazioneTotem SET PercorsoReteTotem=replace(PercorsoReteTotem,'%1','%2')"_s.arg(vecchia, cartella()));
-    for (int i = 0; i <= 10; ++i)
-        esegui(u"UPDATE %1 SET PercorsoImmagine=replace(PercorsoImmagine,'%2','%3') WHERE PercorsoImmagine IS NOT NULL"_s.arg(
-            i == 0 ? u"LayoutBase"_s : u"Layout%1"_s.arg(i), vecchia, cartella()));
+    QStringList sql{u"PRAGMA synchronous=OFF; BEGIN"_s};
+    const QString sostituisci = u"UPDATE %1 SET %2=replace(%2,'%3','%4') WHERE %2 LIKE '%3%'"_s;
+    sql << sostituisci.arg(u"ConfigurazioneTotem"_s, u"PercorsoReteTotem"_s, QStringLiteral(CARTELLA_BASE), cartella());
+    for (const QString &tabella : righe(u"SELECT name FROM sqlite_schema WHERE name LIKE 'Layout%'"_s))
+        sql << sostituisci.arg(tabella, u"PercorsoImmagine"_s, QStringLiteral(CARTELLA_BASE), cartella());
+    esegui(sql.join(u';') + u";COMMIT"_s);
 }
 
 void InstallazioneProva::esegui(const QString &sql) const {

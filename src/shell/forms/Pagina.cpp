@@ -13,6 +13,7 @@ constexpr int TopNascosta = 12000;
 
 Pagina::Pagina(QWidget *padre, const char *nome, int altezza, int topAperta)
     : GroupBox(padre, nome, "", {LeftAperta, TopNascosta, LarghezzaPagina, altezza}), m_topAperta(topAperta) {
+    setAutoFillBackground(true);
     hide();
 }
 

@@ -7,6 +7,7 @@ namespace zuvora {
 // A page of the main panel: a group box that is moved into the page area when opened and parked below the form's client
 // area otherwise.
 class Pagina : public GroupBox {
+    Q_OBJECT
 public:
     Pagina(QWidget *padre, const char *nome, int altezza = 4815, int topAperta = 1200);
 

@@ -26,7 +26,9 @@ private:
     PictureBox Image4{this, "Image4", {840, 240, 735, 600}, Disegno::Marcatore};
     Label Label2_4{this, "Label2(4)", "Porta la schermata impostazioni sul :", {240, 3120, 4815, 255}};
     Schiera<Button> PosSchermo{
-        this, "PosSchermo", {{0, "Primo Schermo", {480, 3720, 1455, 345}}, {1, "Secondo Schermo", {3120, 3720, 1455, 345}}}};
+        this,
+        "PosSchermo",
+        {{0, "Primo Schermo", {480, 3720, 1455, 345}}, {1, "Secondo Schermo", {3120, 3720, 1455, 345}}}};
 };
 
 } // namespace zuvora

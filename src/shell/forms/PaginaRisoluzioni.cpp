@@ -3,7 +3,6 @@
 #include "shell/host/Piattaforma.h"
 #include "shell/logic/Configurazione.h"
 
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {

@@ -5,9 +5,7 @@
 #include "shell/host/PictureBox.h"
 #include "shell/store/Data.h"
 
-
 namespace zuvora {
-
 
 // The resolution of the call display, and what monitors this machine has.
 class PaginaRisoluzioni : public Pagina {
@@ -22,7 +20,9 @@ private:
     std::function<void(int)> m_scelta; // gets 1 to 4 once stored
     Data Data1;
     int m_risoluzione;
-    Label Label2_0{this, "Label2(0)", "Scegliere quali Risoluzione Video adoperare per lo schermo di FrontEnd della sala d'attesa",
+    Label Label2_0{this,
+                   "Label2(0)",
+                   "Scegliere quali Risoluzione Video adoperare per lo schermo di FrontEnd della sala d'attesa",
                    {360, 240, 4815, 495}};
     Schiera<RadioButton> RB1;
     PictureBox Image2{this, "Image2", {600, 1920, 1800, 1500}, Disegno::Schermo1};

@@ -68,7 +68,7 @@ void SplasModule::disponi() {
     }
     Comando.setFontBase(ingrandito(font(), 14));
     Label9_1.setFontBase(ingrandito(font(), font().pointSizeF()));
-    Label1_0.setCaption(m_sito.toDisplayString(QUrl::RemoveScheme | QUrl::StripTrailingSlash).remove(u"//"_s));
+    Label1_0.setCaption(m_sito.host());
     for (const auto &[indice, immagine] : Image1) {
         immagine->rendiCliccabile(u"Impostazione Nome del Server"_s);
         alClic(*immagine, [this] { apriNomeServer(); });
@@ -89,14 +89,16 @@ void SplasModule::premi(const char *nome, const std::optional<QStringView> &tito
     if (const auto form = m_apritori.form.find(nome); form != m_apritori.form.end())
         form->second(*this);
     else
-        mostraMessaggio(ambiente(), this, u"Questa funzione non è ancora disponibile"_s, u"in questa versione del modulo."_s);
+        mostraMessaggio(ambiente(), this, u"Questa funzione non è ancora disponibile"_s,
+                        u"in questa versione del modulo."_s);
     if (titolo)
         setComando({});
 }
 
 std::unique_ptr<Pagina> SplasModule::creaPagina(const QByteArray &nome) {
     if (nome == "PB1(9)")
-        return std::make_unique<PaginaRisoluzioni>(*this, m_risoluzione, [this](int misura) { m_risoluzione = misura; });
+        return std::make_unique<PaginaRisoluzioni>(*this, m_risoluzione,
+                                                   [this](int misura) { m_risoluzione = misura; });
     if (nome == "PB1(10)") {
         auto pagina = std::make_unique<PaginaClient>(*this, ePrincipale(Label9_1.Caption()));
         m_client = pagina.get();

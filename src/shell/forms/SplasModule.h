@@ -16,9 +16,10 @@ class Pagina;
 class PaginaClient;
 class SplasModule;
 
-// What the menu's buttons open, by the button's name. Given by the composition root: the panel knows no form but its own.
+// What the menu's buttons open, by the button's name. Given by the composition root: the panel knows no form but its
+// own.
 struct Apritori {
-    std::map<QByteArray, std::function<void(SplasModule &)>> form;                       // shown modally
+    std::map<QByteArray, std::function<void(SplasModule &)>> form;                      // shown modally
     std::map<QByteArray, std::function<std::unique_ptr<Pagina>(SplasModule &)>> pagine; // pages of other rooms
 };
 
@@ -61,12 +62,13 @@ private:
     Button IlMenu{&GroupBox3, "IlMenu", "Menù", {120, 180, 2295, 300}};
     std::vector<std::unique_ptr<Button>> m_menu;
     GroupBox GroupBox4{this, "GroupBox4", "", {2760, 120, 5775, 6080}};
+    PictureBox Image9{&GroupBox4, "Image9", {1687, 1680, 2400, 3130}, Disegno::SalaAttesa};
     Label Comando{&GroupBox4, "Comando", "", {1080, 360, 4575, 495}};
     Schiera<PictureBox> Image1;
     Label Label5{this, "Label5", "", {2880, 7200, 1230, 255}};
     Label Label6{this, "Label6", "", {4110, 7200, 1800, 255}};
-    Label Label9_0{this, "Label9(0)", "Server di riferimento ", {4110, 6330, 1695, 255}};
-    Label Label9_1{this, "Label9(1)", "", {5820, 6330, 2715, 255}};
+    Label Label9_0{this, "Label9(0)", "Server di riferimento ", {5280, 6330, 1560, 255}};
+    Label Label9_1{this, "Label9(1)", "", {6840, 6330, 1695, 255}};
     LabelLink Label1_0{this, "Label1(0)", "", {5280, 6600, 3255, 255}};
     CheckBox cbAutoaccensioneFE{this, "cbAutoaccensioneFE", " Auto-Start Front-End", {5400, 6840, 2205, 255}};
     Button PB1_0{this, "PB1(0)", "C&hudi", {7920, 6840, 615, 330}};

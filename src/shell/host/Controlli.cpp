@@ -5,12 +5,12 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionButton>
-#include <QStyleOptionGroupBox>
 #include <QStylePainter>
 
 namespace zuvora {
 namespace {
 
+constexpr int RientroTitolo = 8;  // pixels before a frame's title
 constexpr int MargineBottone = 3; // pixels on each side of a button's caption
 
 // Room beside the mark of a radio button or a check box.
@@ -162,7 +162,24 @@ GroupBox::GroupBox(QWidget *padre, const char *nome, const char *didascalia, con
     : Controllo(padre, nome, posto, QString::fromUtf8(didascalia)) {}
 
 QSize GroupBox::spazioDidascalia() const {
-    return size();
+    return {width() - 2 * RientroTitolo, height()};
+}
+
+void GroupBox::paintEvent(QPaintEvent *) {
+    QPainter pittore(this);
+    const bool conTitolo = !title().isEmpty();
+    const QFontMetrics metrica(font());
+    const int sopra = conTitolo ? metrica.height() / 2 : 0;
+    pittore.setRenderHint(QPainter::Antialiasing);
+    pittore.setPen(palette().color(QPalette::Mid));
+    pittore.setBrush(Qt::NoBrush);
+    pittore.drawRoundedRect(QRectF(rect()).adjusted(0.5, sopra + 0.5, -0.5, -0.5), 3, 3);
+    if (!conTitolo)
+        return;
+    const QRect testo(RientroTitolo, 0, misuraDidascalia(title(), font()).width() + 1, metrica.height());
+    pittore.fillRect(testo.adjusted(-3, 0, 3, 0), palette().color(QPalette::Window));
+    style()->drawItemText(&pittore, testo, Qt::AlignLeft | Qt::TextShowMnemonic, palette(), isEnabled(), title(),
+                          QPalette::WindowText);
 }
 
 Edit::Edit(QWidget *padre, const char *nome, const Posto &posto, const char *testo) : Controllo(padre, nome, posto) {

@@ -14,6 +14,7 @@ namespace zuvora {
 
 // A text on a form. Long texts wrap inside their place.
 class Label : public Controllo<QLabel>, public ConDidascalia {
+    Q_OBJECT
 public:
     Label(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto);
     void setCaption(const QString &testo);
@@ -51,6 +52,7 @@ protected:
 };
 
 class Button : public Controllo<QPushButton>, public ConDidascalia {
+    Q_OBJECT
 public:
     Button(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto);
     void setCaption(const QString &testo);
@@ -70,6 +72,7 @@ private:
 };
 
 class RadioButton : public Controllo<QRadioButton>, public ConDidascalia {
+    Q_OBJECT
 public:
     RadioButton(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto);
     QString didascaliaMostrata() const override { return text(); }
@@ -77,6 +80,7 @@ public:
 };
 
 class CheckBox : public Controllo<QCheckBox>, public ConDidascalia {
+    Q_OBJECT
 public:
     CheckBox(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto);
     QString didascaliaMostrata() const override { return text(); }
@@ -84,14 +88,21 @@ public:
 };
 
 class GroupBox : public Controllo<QGroupBox>, public ConDidascalia {
+    Q_OBJECT
 public:
     GroupBox(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto);
     QString didascaliaMostrata() const override { return title(); }
     QSize spazioDidascalia() const override;
+
+protected:
+    // A thin frame with the title on its upper line. The style's own frame comes from a picture file, and reading that
+    // loads every picture plugin of the platform into a program that has just started.
+    void paintEvent(QPaintEvent *e) override;
 };
 
 // One line of text. Typed keys can be dropped by a test on the character; the paste of the menu can't.
 class Edit : public Controllo<QLineEdit> {
+    Q_OBJECT
 public:
     Edit(QWidget *padre, const char *nome, const Posto &posto, const char *testo = "");
     void setTastiAmmessi(std::function<bool(QChar)> ammesso);

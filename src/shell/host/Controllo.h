@@ -20,7 +20,8 @@ public:
 // What all controls share: a name (objectName, with the index of a control array) and a place in twips, kept as given.
 template <class W> class Controllo : public W {
 public:
-    template <class... A> Controllo(QWidget *padre, const char *nome, const Posto &posto, A &&...resto)
+    template <class... A>
+    Controllo(QWidget *padre, const char *nome, const Posto &posto, A &&...resto)
         : W(std::forward<A>(resto)..., padre) {
         this->setObjectName(QString::fromUtf8(nome));
         setPosto(posto);

@@ -12,6 +12,7 @@ namespace zuvora {
 // A window of the program: a name, a caption and an inner area in twips. Made when opened, gone when closed; the
 // constructor is the form's load. Handlers connected through `quando` report what nobody answered in one place.
 class Form : public QDialog {
+    Q_OBJECT
 public:
     Form(const Ambiente &ambiente, const char *nome, const char *didascalia, const Misura &interno, QWidget *padre);
 
@@ -41,7 +42,7 @@ public:
         QObject::connect(&mittente, segnale, this, [this, azione] { proteggi(azione); });
     }
     template <class C, class F>
-        requires std::derived_from<C, QWidget>
+    requires std::derived_from<C, QWidget>
     void alClic(C &controllo, F azione) { quando(controllo, &C::clicked, azione); }
     // One handler for a control array; it gets the index.
     template <class C, class F> void alClic(const Schiera<C> &schiera, F azione) {

@@ -32,7 +32,7 @@ public:
     void ridisegna(); // after a change of the current record
 
 Q_SIGNALS:
-    void cliccata();       // a click on a row, or the current row moved
+    void cliccata(); // a click on a row, or the current row moved
     void doppioClic();
 
 protected:

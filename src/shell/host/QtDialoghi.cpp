@@ -70,7 +70,8 @@ std::optional<QString> QtDialoghi::scegliCartella(QWidget *padre, const QString 
 std::optional<FontScelto> QtDialoghi::scegliFont(QWidget *padre) {
     parlaItaliano();
     bool confermato = false;
-    const QFont font = QFontDialog::getFont(&confermato, QApplication::font(), padre, {}, QFontDialog::DontUseNativeDialog);
+    const QFont font =
+        QFontDialog::getFont(&confermato, QApplication::font(), padre, {}, QFontDialog::DontUseNativeDialog);
     if (!confermato)
         return std::nullopt;
     return FontScelto{font.family(), font.pointSizeF(), font.bold(), font.italic()};

@@ -29,11 +29,16 @@ public:
     int GetSystemMetrics(Metrica indice) const override {
         const QRect desktop = QGuiApplication::primaryScreen()->virtualGeometry();
         switch (indice) {
-        case Metrica::SinistraDesktop: return desktop.left();
-        case Metrica::AltoDesktop: return desktop.top();
-        case Metrica::LarghezzaDesktop: return desktop.width();
-        case Metrica::AltezzaDesktop: return desktop.height();
-        case Metrica::NumeroMonitor: return static_cast<int>(QGuiApplication::screens().size());
+        case Metrica::SinistraDesktop:
+            return desktop.left();
+        case Metrica::AltoDesktop:
+            return desktop.top();
+        case Metrica::LarghezzaDesktop:
+            return desktop.width();
+        case Metrica::AltezzaDesktop:
+            return desktop.height();
+        case Metrica::NumeroMonitor:
+            return static_cast<int>(QGuiApplication::screens().size());
         }
         return 0;
     }

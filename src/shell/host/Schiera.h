@@ -26,7 +26,8 @@ public:
 
     Schiera(QWidget *padre, const char *nome, std::initializer_list<Riga> righe) {
         for (const Riga &riga : righe)
-            aggiungi(riga.indice, std::make_unique<C>(padre, nomeCon(nome, riga.indice).constData(), riga.didascalia, riga.posto));
+            aggiungi(riga.indice,
+                     std::make_unique<C>(padre, nomeCon(nome, riga.indice).constData(), riga.didascalia, riga.posto));
     }
     // An array made by a rule: `crea(index, name)` gives each member.
     template <class F> Schiera(const char *nome, int primo, int ultimo, F crea) {

@@ -15,13 +15,13 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-// Where Tahoma lies when the font system doesn't list it.
-constexpr std::array<const char *, 2> FileTahoma = {"/usr/share/wine/fonts/tahoma.ttf", "/usr/share/wine/fonts/tahomabd.ttf"};
+// Where Tahoma lies when the font system doesn't list it. Only the regular face: the bold file beside it draws regular
+// shapes at bold distances, while Qt's own emboldening of this one looks right.
+constexpr const char *FileTahoma = "/usr/share/wine/fonts/tahoma.ttf";
 
 QFont fontCasa() {
-    for (const char *file : FileTahoma)
-        if (QFile::exists(QString::fromLatin1(file)))
-            QFontDatabase::addApplicationFont(QString::fromLatin1(file));
+    if (QFile::exists(QString::fromLatin1(FileTahoma)))
+        QFontDatabase::addApplicationFont(QString::fromLatin1(FileTahoma));
     QFont font(u"Tahoma"_s);
     font.setPointSizeF(8.25);
     font.setStyleHint(QFont::SansSerif);

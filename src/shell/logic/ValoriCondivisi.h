@@ -5,9 +5,9 @@
 namespace zuvora {
 
 // The answers of the two small dialogs.
-inline constexpr int RispostaResta = 7;     // FormUscita "&No", MsgForm "C&hiudi"
-inline constexpr int RispostaConferma = 8;  // MsgForm "&Conferma"
-inline constexpr int RispostaEsci = 36;     // FormUscita "&Si"
+inline constexpr int RispostaResta = 7;    // FormUscita "&No", MsgForm "C&hiudi"
+inline constexpr int RispostaConferma = 8; // MsgForm "&Conferma"
+inline constexpr int RispostaEsci = 36;    // FormUscita "&Si"
 
 // The few values that forms share in memory. Everything else passes through the database.
 struct ValoriCondivisi {

@@ -14,9 +14,9 @@ std::optional<QString> versioneDaAggiornare(QStringView etichetta);
 // True for the five short forms.
 bool versioneConosciuta(QStringView breve);
 
-// Adds the two columns that the current version has and older ones lack. `cartella` is the application folder. A failure
-// of the opening throws EngineError; any later failure ends the operation silently: a database that has a column already
-// loses nothing.
+// Adds the two columns that the current version has and older ones lack. `cartella` is the application folder. A
+// failure of the opening throws EngineError; any later failure ends the operation silently: a database that has a
+// column already loses nothing.
 void AggiornaArchivio(const QString &cartella);
 
 // Writes the current version's label and date into the version row. Throws EngineError.

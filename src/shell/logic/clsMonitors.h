@@ -11,7 +11,13 @@
 namespace zuvora {
 
 // Indices of GetSystemMetrics that the monitor list asks for.
-enum class Metrica : int { SinistraDesktop = 76, AltoDesktop = 77, LarghezzaDesktop = 78, AltezzaDesktop = 79, NumeroMonitor = 80 };
+enum class Metrica : int {
+    SinistraDesktop = 76,
+    AltoDesktop = 77,
+    LarghezzaDesktop = 78,
+    AltezzaDesktop = 79,
+    NumeroMonitor = 80
+};
 
 // What the monitor list asks of the platform, pixels throughout. Handles are above 0; 0 means no monitor there.
 class SistemaMonitor {
@@ -22,8 +28,9 @@ public:
     };
     virtual ~SistemaMonitor() = default;
     virtual int GetSystemMetrics(Metrica indice) const = 0;
-    virtual QSize schermo() const = 0;                                               // the primary screen
-    virtual std::optional<std::int32_t> MonitorFromRect(const QRect &r, int flags) const = 0; // nothing when the call fails
+    virtual QSize schermo() const = 0; // the primary screen
+    virtual std::optional<std::int32_t> MonitorFromRect(const QRect &r,
+                                                        int flags) const = 0; // nothing when the call fails
     virtual std::int32_t MonitorFromWindow(quintptr finestra, int flags) const = 0;
     virtual std::optional<Info> GetMonitorInfo(std::int32_t handle) const = 0;
 };

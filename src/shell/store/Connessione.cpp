@@ -23,8 +23,10 @@ void ignoraLimiteFile() {
 
 // The file itself, or the only one whose name differs by case; the path as given when there is neither.
 QString trovaFile(const QString &percorso) {
+    if (percorso.isEmpty())
+        return percorso;
     const QFileInfo file(percorso);
-    if (percorso.isEmpty() || file.exists())
+    if (file.exists())
         return file.absoluteFilePath();
     const QStringList nomi = file.absoluteDir().entryList(QDir::Files);
     for (const QString &nome : nomi)
@@ -51,14 +53,18 @@ Connessione::~Connessione() {
     chiudi();
 }
 
+EngineError Connessione::mancante(Azione azione) const {
+    const QFileInfo cartella(QFileInfo(m_percorso).path());
+    if (!m_percorso.isEmpty() && !cartella.isDir())
+        return errore(Errore::PercorsoNonValido, azione);
+    const bool chiusa = !m_percorso.isEmpty() && !cartella.isExecutable(); // nothing in it can be seen
+    return errore(chiusa ? Errore::Accesso : Errore::FileNonTrovato, azione);
+}
+
 void Connessione::apri() {
     const QFileInfo file(m_percorso);
-    if (m_richiesto.isEmpty())
-        throw errore(Errore::FileNonTrovato, Azione::Apertura);
-    if (!file.dir().exists())
-        throw errore(Errore::PercorsoNonValido, Azione::Apertura);
-    if (!file.exists())
-        throw errore(Errore::FileNonTrovato, Azione::Apertura);
+    if (m_percorso.isEmpty() || !file.exists())
+        throw mancante(Azione::Apertura);
     // An empty file would pass for an empty database; a pipe would block for ever.
     if (!file.isFile() || file.size() == 0)
         throw errore(Errore::NonDatabase, Azione::Apertura);
@@ -78,11 +84,16 @@ void Connessione::controlla() {
 }
 
 void Connessione::scegliGiornale() {
-    // A rollback journal, since other programs read the file and it may lie on a network share, where WAL doesn't work:
-    // the same statement takes a file out of WAL. That fails while somebody else has it open; then it is tried again at
-    // the next opening. FULL: a decision that was confirmed survives a power cut.
+    // A rollback journal: other programs read the file and it may lie on a network share, where WAL doesn't work. The
+    // same statement takes a file out of WAL; that fails while somebody else has it open, and is tried again at the
+    // next opening. Of the three journals, measured with 70 single updates and 700 single reads:
+    //   DELETE   145 ms, 13 us a read; a power cut can take back the last update (EXTRA mends that: 168 ms)
+    //   TRUNCATE 142 ms, 13 us a read; the end of an update is synced, no file is made and removed each time
+    //   PERSIST  118 ms, 28 us a read: every reader, sibling or not, opens and reads the journal each time
+    // Siblings read far more than this program writes, over the network, so TRUNCATE. FULL: a decision that was
+    // confirmed survives a power cut.
     sqlite3_busy_timeout(m_db, 0);
-    sqlite3_exec(m_db, "PRAGMA journal_mode=PERSIST", nullptr, nullptr, nullptr);
+    sqlite3_exec(m_db, "PRAGMA journal_mode=TRUNCATE", nullptr, nullptr, nullptr);
     sqlite3_exec(m_db, "PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
     attendi(m_attesa);
 }
@@ -151,7 +162,7 @@ Istruzione Connessione::preparaUnica(const QString &sql, Azione azione) {
 int Connessione::scrivi(const QByteArray &sql, const QList<Valore> &valori) {
     // Written to a file that was removed or replaced meanwhile, the change would be lost without a word.
     if (spostato())
-        throw errore(Errore::FileNonTrovato, Azione::Scrittura);
+        throw mancante(Azione::Scrittura);
     Istruzione i = prepara(sql, Azione::Scrittura);
     for (int n = 0; n < valori.size(); ++n)
         i.lega(n + 1, valori[n]);

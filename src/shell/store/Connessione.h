@@ -50,7 +50,8 @@ private:
     void controlla();
     void scegliGiornale();
     bool spostato() const;
-    sqlite3 *db() const; // throws when closed
+    EngineError mancante(Azione azione) const; // why the file can't be found: 3024, 3044 or 3051
+    sqlite3 *db() const;                       // throws when closed
     sqlite3_stmt *compila(const QByteArray &sql, unsigned opzioni, Azione azione, bool sola);
 
     QString m_richiesto; // the path as it was given

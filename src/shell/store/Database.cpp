@@ -63,7 +63,16 @@ void Database::Execute(const QString &sql) {
 }
 
 QStringList Database::verifica() {
-    const QStringList esito = primaColonna(m_connessione->prepara("PRAGMA integrity_check", Azione::Lettura));
+    QStringList esito;
+    try {
+        Istruzione i = m_connessione->prepara("PRAGMA integrity_check", Azione::Lettura);
+        while (i.avanti())
+            esito.append(i.testo(0));
+    } catch (const EngineError &e) {
+        if (e.numero() != Errore::FileDanneggiato)
+            throw;
+        esito.append(e.dettaglio()); // damage that the check itself stumbles over
+    }
     return esito == QStringList{u"ok"_s} ? QStringList() : esito;
 }
 

@@ -42,8 +42,8 @@ constexpr std::array kFrasi{
           u"Nel database «%1» manca la colonna «%4». %3 Controllare l'installazione o aggiornare il database."},
     Frase{Errore::ColonnaGiaPresente, u"Nel database «%1» la colonna «%4» esiste già. %3"},
     Frase{Errore::NessunRecord,
-          u"Nel database «%1» non c'è il record richiesto («%4»). %3 Aprire di nuovo la finestra; "
-          u"se si ripete, controllare l'installazione."},
+          u"Nel database «%1» il record richiesto («%4») non c'è, o è stato eliminato da un altro "
+          u"programma. %3 Aprire di nuovo la finestra; se si ripete, controllare l'installazione."},
     Frase{Errore::ModificaNonIniziata, u"Nessuna modifica è in corso sul database «%1». %3"},
     Frase{Errore::Sintassi, u"La richiesta al database «%1» non è scritta correttamente. %3 Controllare il testo "
                             u"inserito."},
@@ -85,10 +85,12 @@ EngineError errore(Errore numero, const Contesto &contesto, const QString &detta
     const auto *frase = std::ranges::find(kFrasi, numero, &Frase::numero);
     if (frase == kFrasi.end())
         frase = kFrasi.end() - 1;
-    const QFileInfo file(contesto.percorso);
+    const bool senzaNome = contesto.percorso.isEmpty();
+    const QFileInfo file(senzaNome ? QStringLiteral(".") : contesto.percorso);
+    const QString nome = senzaNome ? QStringLiteral("senza nome") : file.fileName();
     return {numero,
-            riempi(frase->testo, {file.fileName(), QDir::toNativeSeparators(file.absolutePath()),
-                                  nonFatto(contesto.azione), contesto.oggetto}),
+            riempi(frase->testo,
+                   {nome, QDir::toNativeSeparators(file.absolutePath()), nonFatto(contesto.azione), contesto.oggetto}),
             dettaglio};
 }
 

@@ -16,9 +16,13 @@ Istruzione::~Istruzione() {
     if (m_s == nullptr)
         return;
     auto &pronte = m_c->m_pronte;
-    if (m_chiave.isEmpty() || pronte.size() >= Connessione::kPronteMassime || pronte.contains(m_chiave)) {
+    if (m_chiave.isEmpty() || pronte.contains(m_chiave)) {
         sqlite3_finalize(m_s);
         return;
+    }
+    if (pronte.size() >= Connessione::kPronteMassime) {
+        sqlite3_finalize(*pronte.begin());
+        pronte.erase(pronte.begin());
     }
     sqlite3_reset(m_s);
     sqlite3_clear_bindings(m_s);

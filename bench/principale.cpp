@@ -1,0 +1,69 @@
+// Runs the benchmarks and prints the comparisons: of two that are called "X/nostro" and "X/metro" the ratio of their
+// statistics "min" (the run that the machine disturbed least), and the limit that "nostro" states in its counter
+// "limite".
+#include <benchmark/benchmark.h>
+#include <cstdio>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace {
+
+struct Misura {
+    double tempo = 0; // milliseconds
+    double limite = 0;
+};
+
+class Confronti : public benchmark::ConsoleReporter {
+public:
+    Confronti() : ConsoleReporter(OO_Defaults) {}
+
+    void ReportRuns(const std::vector<Run> &giri) override {
+        std::vector<Run> minimi;
+        for (const Run &giro : giri) {
+            if (giro.aggregate_name != "min" && !giro.error_occurred)
+                continue;
+            minimi.push_back(giro);
+            const auto limite = giro.counters.find("limite");
+            m_misure[giro.run_name.function_name] = {giro.GetAdjustedRealTime(),
+                                                     limite == giro.counters.end() ? 0.0 : limite->second.value};
+        }
+        ConsoleReporter::ReportRuns(minimi);
+    }
+
+    void Finalize() override {
+        std::printf("\n%-28s %12s %12s %8s %8s\n", "confronto", "nostro ms", "metro ms", "rapporto", "limite");
+        for (const auto &[nome, nostra] : m_misure) {
+            const auto taglio = nome.rfind("/nostro");
+            if (taglio == std::string::npos)
+                continue;
+            const auto metro = m_misure.find(nome.substr(0, taglio) + "/metro");
+            if (metro == m_misure.end())
+                continue;
+            const double a = nostra.tempo;
+            const double b = metro->second.tempo;
+            std::printf("%-28s %12.3f %12.3f %8.2f %8.2f%s\n", nome.substr(0, taglio).c_str(), a, b, a / b,
+                        nostra.limite, nostra.limite > 0 && a / b > nostra.limite ? "  OLTRE" : "");
+        }
+    }
+
+private:
+    std::map<std::string, Misura> m_misure;
+};
+
+} // namespace
+
+int main(int argc, char **argv) {
+    // Both sides of a comparison in turns: a disk that slows down slows both.
+    std::string turni = "--benchmark_enable_random_interleaving=true";
+    std::vector<char *> argomenti(argv, argv + argc);
+    argomenti.insert(argomenti.begin() + 1, turni.data());
+    int quanti = static_cast<int>(argomenti.size());
+    benchmark::Initialize(&quanti, argomenti.data());
+    if (benchmark::ReportUnrecognizedArguments(quanti, argomenti.data()))
+        return 1;
+    Confronti confronti;
+    benchmark::RunSpecifiedBenchmarks(&confronti);
+    benchmark::Shutdown();
+    return 0;
+}

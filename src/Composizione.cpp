@@ -1,0 +1,10 @@
+#include "Composizione.h"
+
+namespace zuvora {
+
+Apritori apritoriDelPannello() {
+    Apritori apritori;
+    return apritori;
+}
+
+} // namespace zuvora

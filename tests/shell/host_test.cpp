@@ -1,0 +1,140 @@
+#include "kit/Guida.h"
+#include "kit/InstallazioneProva.h"
+#include "shell/host/ColorPicker.h"
+#include "shell/host/Form.h"
+#include "shell/host/Grid.h"
+#include "shell/host/QtDialoghi.h"
+#include "shell/host/QtPiattaforma.h"
+#include "shell/store/Data.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+TEST(Twips, ControlliCheSiToccanoSiToccanoSulloSchermo) {
+    for (int left = -40; left < 40; ++left) {
+        const QRect primo = pixelDa(Posto{left, 0, 1095, 330});
+        const QRect secondo = pixelDa(Posto{left + 1095, 0, 1095, 330});
+        EXPECT_EQ(primo.x() + primo.width(), secondo.x()) << left;
+    }
+}
+
+TEST(Filtri, DescrizioniEModelli) {
+    EXPECT_EQ(filtriQt(u"File Suono (*.wav) )|*.wav"_s), QStringList{u"File Suono (*.wav *.WAV)"_s});
+    EXPECT_EQ(filtriQt(u"(*.bmp;*.jpg;*.gif)|*.bmp;*.jpg;*.gif"_s),
+              QStringList{u"File (*.bmp *.jpg *.gif *.BMP *.JPG *.GIF)"_s});
+    EXPECT_TRUE(filtriQt(QString()).isEmpty());
+}
+
+class FormProva : public Form {
+public:
+    explicit FormProva(const Ambiente &a) : Form(a, "FormProva", "Prova", {6000, 4500}, nullptr) {}
+    int attivazioni = 0;
+    bool rifiuta = false;
+
+    Label Etichetta{this, "Label1", "Nome della Radio", {120, 120, 2000, 255}};
+    Edit Campo{this, "text1(0)", {120, 400, 2000, 285}};
+    Button Lungo{this, "Btn(1)", "Una didascalia piuttosto lunga", {120, 1000, 1900, 330}};
+
+protected:
+    void attivata() override { ++attivazioni; }
+    bool puoScaricarsi() override { return !rifiuta; }
+};
+
+struct ConForm : testing::Test {
+    InstallazioneProva prova;
+    FormProva form{prova.ambiente};
+};
+
+TEST_F(ConForm, IlCampoPrendeIlNomeDallEtichetta) {
+    form.show();
+    EXPECT_EQ(form.Campo.accessibleName(), u"Nome della Radio"_s);
+}
+
+TEST_F(ConForm, TastiNonAmmessiCadono) {
+    form.Campo.setTastiAmmessi(soloCifre);
+    QTest::keyClicks(&form.Campo, u"a1 b2-3x"_s);
+    QTest::keyClick(&form.Campo, Qt::Key_Backspace);
+    EXPECT_EQ(form.Campo.text(), u"12"_s);
+}
+
+TEST_F(ConForm, DidascaliaLungaSiStringeENonSiTaglia) {
+    EXPECT_TRUE(didascalieTagliate(form).isEmpty());
+    form.Lungo.setCaption(u"Una didascalia che in nessun modo può stare in così poco spazio"_s);
+    form.Lungo.show();
+    EXPECT_EQ(didascalieTagliate(form), QStringList{u"Btn(1)"_s});
+}
+
+TEST_F(ConForm, UnErroreNonGestitoDiventaUnMessaggio) {
+    form.alClic(form.Lungo, [&] {
+        Data dato;
+        apri(dato, prova.cartella() + u"/manca"_s, u"Configurazione"_s);
+    });
+    form.Lungo.click();
+    EXPECT_FALSE(prova.dialoghi.unicoMessaggio().isEmpty());
+}
+
+TEST_F(ConForm, ChiusuraRifiutataLasciaLaFormAperta) {
+    form.rifiuta = true;
+    form.show();
+    form.close();
+    EXPECT_TRUE(form.isVisible());
+    QTest::keyClick(&form, Qt::Key_Escape);
+    EXPECT_TRUE(form.isVisible());
+    form.rifiuta = false;
+    form.scarica();
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(form.attivazioni, 1);
+}
+
+TEST(ColorPicker, ColoriConIlRossoNelByteBasso) {
+    InstallazioneProva prova;
+    ColorPicker scelta(nullptr, "CP1", {0, 0, 1695, 375}, prova.dialoghi);
+    EXPECT_EQ(bgrDa(coloreDa(0x00C08040)), 0x00C08040);
+    EXPECT_EQ(coloreDa(0x000000FF), QColor(Qt::red));
+    QSignalSpy scelto(&scelta, &ColorPicker::scelto);
+    prova.dialoghi.colori = {std::nullopt, 255};
+    scelta.click(); // cancelled
+    EXPECT_EQ(scelto.size(), 0);
+    scelta.click();
+    EXPECT_EQ(scelta.Colore(), 255);
+    EXPECT_EQ(scelto.size(), 1);
+}
+
+TEST(Griglia, LaRigaSceltaEIlRecordCorrente) {
+    InstallazioneProva prova;
+    Data dato;
+    apri(dato, prova.cartella(), u"Select * from Servizi order by [ID]asc"_s);
+    Grid griglia(nullptr, "grid", {0, 0, 6840, 5280},
+                 {{"ID", "id", 900}, {"Attivo", "ServizioAttivo", 900}, {"Servizio", "servizio", 0}});
+    griglia.lega(dato);
+    ASSERT_EQ(griglia.Rows(), 20);
+    EXPECT_EQ(griglia.testo(0, 1), u"No"_s);
+    griglia.setCurrentIndex(griglia.model()->index(4, 0));
+    dato.Recordset().Edit();
+    dato.Recordset()[u"Servizio"].SetValue(u"Cassa"_s);
+    dato.Recordset().Update();
+    EXPECT_EQ(griglia.testo(4, 2), u"Cassa"_s);
+    EXPECT_EQ(prova.valore(u"SELECT Servizio FROM Servizi WHERE ID=5"_s).toString(), u"Cassa"_s);
+    dato.Refresh();
+    EXPECT_EQ(griglia.Row(), 0);
+    EXPECT_EQ(dato.Recordset().AbsolutePosition(), 0);
+}
+
+TEST(Istanza, UnaSolaPerMacchinaELiberaDopoLaFine) {
+    const QByteArray chiave = "zuvora-prova-" + QByteArray::number(QCoreApplication::applicationPid());
+    auto prima = std::make_unique<QtPiattaforma>(chiave);
+    QtPiattaforma seconda(chiave);
+    EXPECT_FALSE(prima->altraIstanza());
+    EXPECT_FALSE(prima->altraIstanza());
+    EXPECT_TRUE(seconda.altraIstanza());
+    prima.reset();
+    EXPECT_FALSE(seconda.altraIstanza());
+}
+
+} // namespace
+} // namespace zuvora
