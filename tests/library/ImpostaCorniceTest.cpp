@@ -18,7 +18,11 @@ protected:
     InstallazioneProva i;
 };
 
-TEST_F(ProvaCornice, LePrimaRigaEGiaScelta) {
+QString testo(const std::optional<SceltaDecorazione> &scelta) {
+    return scelta ? scelta->percorso + (scelta->secondoPiano ? u" (dietro)"_s : QString()) : u"(nessuna)"_s;
+}
+
+TEST_F(ProvaCornice, LaPrimaRigaEGiaScelta) {
     i.esegui(u"UPDATE Decorazioni SET File='0.gif' WHERE ID=1"_s);
     QFile::copy(decorazione(u"Cornici/stondata.gif"_s), decorazione(u"Cornici/0.gif"_s));
     Guida guida;
@@ -27,7 +31,7 @@ TEST_F(ProvaCornice, LePrimaRigaEGiaScelta) {
         clicca(w, "Btn(0)");
     });
     const auto scelta = apriImpostaCornice(i.ambiente, 25, nullptr);
-    EXPECT_EQ(scelta, (DecorazioneScelta{decorazione(u"Cornici/0.gif"_s), false}));
+    EXPECT_EQ(testo(scelta), decorazione(u"Cornici/0.gif"_s));
 }
 
 TEST_F(ProvaCornice, UnaRigaDiUnAltraCategoriaInSecondoPiano) {
@@ -38,21 +42,21 @@ TEST_F(ProvaCornice, UnaRigaDiUnAltraCategoriaInSecondoPiano) {
     QTest::keyClick(&trova<Grid>(form, "grid"), Qt::Key_Down);
     clicca(form, "SecondoPiano");
     clicca(form, "Btn(0)");
-    EXPECT_EQ(form.applicata(), (DecorazioneScelta{decorazione(u"Banner/"_s + banner.at(1)), true}));
+    EXPECT_EQ(testo(form.applicata()), decorazione(u"Banner/"_s + banner.at(1)) + u" (dietro)"_s);
     EXPECT_FALSE(form.isVisible());
 }
 
 TEST_F(ProvaCornice, SenzaSceltaNonCambiaNulla) {
     Guida guida;
     guida.premi("ImpostaCornice", "Btn(1)");
-    EXPECT_EQ(apriImpostaCornice(i.ambiente, 1, nullptr), std::nullopt);
+    EXPECT_FALSE(apriImpostaCornice(i.ambiente, 1, nullptr));
 }
 
 TEST_F(ProvaCornice, UnaCategoriaVuotaApplicaIlVuoto) {
     i.esegui(u"DELETE FROM Decorazioni"_s);
     ImpostaCornice form(i.ambiente, 1, nullptr);
     clicca(form, "Btn(0)");
-    EXPECT_EQ(form.applicata(), DecorazioneScelta());
+    EXPECT_EQ(testo(form.applicata()), QString());
 }
 
 TEST_F(ProvaCornice, IlFileMancanteOIllegibileNonSiApplica) {
@@ -75,7 +79,7 @@ TEST_F(ProvaCornice, IlFileMancanteOIllegibileNonSiApplica) {
         EXPECT_EQ(trova<AnteprimaImmagine>(form, "Image1").testo(), QString::fromUtf8(caso.anteprima));
         EXPECT_EQ(premi(form, "Btn(0)"),
                   u"Impossibile caricare l'immagine scelta !\n"_s + QString::fromUtf8(caso.messaggio));
-        EXPECT_EQ(form.applicata(), std::nullopt);
+        EXPECT_FALSE(form.applicata());
     }
 }
 

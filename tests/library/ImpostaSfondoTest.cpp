@@ -24,15 +24,14 @@ protected:
     }
     ~ProvaSfondo() override { QDir::setCurrent(prima); }
     std::unique_ptr<ImpostaSfondo> apri(ModoSfondo modo) {
-        RichiestaSfondo richiesta{modo,
-                                  [this](const QString &p) {
-                                      impostati << p;
-                                      return riesce;
-                                  },
-                                  {}};
+        UsoSfondo uso{[this](const QString &p) {
+                          impostati << p;
+                          return riesce;
+                      },
+                      {}};
         if (modo == ModoSfondo::Layout)
-            richiesta.elimina = [this] { impostati << u"(eliminato)"_s; };
-        auto form = std::make_unique<ImpostaSfondo>(i.ambiente, richiesta, nullptr);
+            uso.elimina = [this] { impostati << u"(eliminato)"_s; };
+        auto form = std::make_unique<ImpostaSfondo>(i.ambiente, modo, uso, nullptr);
         form->show();
         return form;
     }

@@ -1,6 +1,7 @@
 #include "library/forms/ImpostaCornice.h"
 
 #include "library/forms/ImmagineIllegibile.h"
+#include "library/logic/Decorazioni.h"
 #include "shell/forms/MsgForm.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -45,11 +46,11 @@ void ImpostaCornice::applica() {
     if (!m_percorso.isEmpty() && avvisaSeIllegibile(ambiente(), m_percorso, this))
         return;
     if (indiceDecorazione(Label1.Caption()) > 0)
-        m_applicata = DecorazioneScelta{m_percorso, SecondoPiano.isChecked()};
+        m_applicata = SceltaDecorazione{m_percorso, SecondoPiano.isChecked()};
     scarica();
 }
 
-std::optional<DecorazioneScelta> apriImpostaCornice(const Ambiente &ambiente, int i, QWidget *padre) {
+std::optional<SceltaDecorazione> apriImpostaCornice(const Ambiente &ambiente, int i, QWidget *padre) {
     ImpostaCornice form(ambiente, i, padre);
     form.mostraModale();
     return form.applicata();

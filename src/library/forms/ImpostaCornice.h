@@ -1,6 +1,6 @@
 #pragma once
 
-#include "library/logic/Decorazioni.h"
+#include "designer/forms/ApritoriTela.h"
 #include "shell/host/AnteprimaImmagine.h"
 #include "shell/host/Form.h"
 #include "shell/host/Grid.h"
@@ -16,7 +16,7 @@ public:
     // `i` is the decoration's number, 1 to 25.
     ImpostaCornice(const Ambiente &ambiente, int i, QWidget *padre);
     // What was applied; nothing when the form was closed without a choice.
-    const std::optional<DecorazioneScelta> &applicata() const { return m_applicata; }
+    const std::optional<SceltaDecorazione> &applicata() const { return m_applicata; }
 
 private:
     void scegliCategoria(int indice);
@@ -26,7 +26,7 @@ private:
     Data Data1;
     int m_categoria = 0;
     QString m_percorso; // full path of the last row clicked
-    std::optional<DecorazioneScelta> m_applicata;
+    std::optional<SceltaDecorazione> m_applicata;
 
     Label Label1{this, "Label1", "", {120, 0, 5655, 615}};
     GroupBox Gruppo{this, "GroupBox1", "Categoria Decorazioni", {120, 960, 3855, 735}};
@@ -45,6 +45,6 @@ private:
 };
 
 // Shows the form over its opener and gives what was applied to decoration `i`.
-std::optional<DecorazioneScelta> apriImpostaCornice(const Ambiente &ambiente, int i, QWidget *padre);
+std::optional<SceltaDecorazione> apriImpostaCornice(const Ambiente &ambiente, int i, QWidget *padre);
 
 } // namespace zuvora

@@ -20,10 +20,10 @@ QString parolaModo(ModoSfondo modo) {
 
 } // namespace
 
-ImpostaSfondo::ImpostaSfondo(const Ambiente &ambiente_, RichiestaSfondo richiesta, QWidget *padre)
-    : Form(ambiente_, "ImpostaSfondo", "Imposta Sfondo schermata FrontEnd", {8130, 8955}, padre),
-      m_richiesta(std::move(richiesta)) {
-    Label5.setCaption(parolaModo(m_richiesta.modo));
+ImpostaSfondo::ImpostaSfondo(const Ambiente &ambiente_, ModoSfondo modo, UsoSfondo uso, QWidget *padre)
+    : Form(ambiente_, "ImpostaSfondo", "Imposta Sfondo schermata FrontEnd", {8130, 8955}, padre), m_modo(modo),
+      m_uso(std::move(uso)) {
+    Label5.setCaption(parolaModo(m_modo));
     Drive1.setAccessibleName(u"Disco"_s);
     Dir1.setAccessibleName(u"Cartelle"_s);
     File1.setAccessibleName(u"File"_s);
@@ -63,24 +63,36 @@ void ImpostaSfondo::clicFile() {
 }
 
 void ImpostaSfondo::imposta() {
-    const bool totem = m_richiesta.modo == ModoSfondo::SfondoTotem;
+    const bool totem = m_modo == ModoSfondo::SfondoTotem;
     if (SfondoScelto.isEmpty() && totem)
         return;
     if (!SfondoScelto.isEmpty() && avvisaSeIllegibile(ambiente(), SfondoScelto, this))
         return;
     const QString risultato =
         totem ? percorsoDiRete(SfondoScelto, ambiente().piattaforma.nomeMacchina()) : SfondoScelto;
-    if (!m_richiesta.imposta(risultato))
+    if (!m_uso.imposta(risultato))
         mostraMessaggio(ambiente(), this, u"Impossibile caricare l'immagine scelta !"_s,
                         u"Lo sfondo resta quello di prima."_s);
 }
 
 void ImpostaSfondo::elimina() {
-    if (m_richiesta.elimina)
-        m_richiesta.elimina();
+    if (m_uso.elimina)
+        m_uso.elimina();
     else
         mostraMessaggio(ambiente(), this, u"Nessun Layout aperto: lo sfondo del Totem"_s,
                         u"si elimina dalla sua schermata."_s);
+}
+
+void apriSfondoLayout(const Ambiente &ambiente, const UsoSfondo &uso, QWidget *padre) {
+    ImpostaSfondo(ambiente, ModoSfondo::Layout, uso, padre).mostraModale();
+}
+
+void apriSfondoTotem(const Ambiente &ambiente, const std::function<void(const QString &)> &FF1, QWidget *padre) {
+    const auto imposta = [&FF1](const QString &percorso) {
+        FF1(percorso);
+        return true;
+    };
+    ImpostaSfondo(ambiente, ModoSfondo::SfondoTotem, {imposta, {}}, padre).mostraModale();
 }
 
 } // namespace zuvora

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "designer/forms/ApritoriTela.h"
 #include "shell/host/AnteprimaImmagine.h"
 #include "shell/host/ElenchiFile.h"
 #include "shell/host/Form.h"
@@ -10,19 +11,12 @@ namespace zuvora {
 
 enum class ModoSfondo { Layout, SfondoTotem };
 
-// Who asks for a background, and how it takes it.
-struct RichiestaSfondo {
-    ModoSfondo modo = ModoSfondo::Layout;
-    // Layout: gets the picked path, empty when none was picked, and makes it the background; false when the picture
-    // can't be loaded. SfondoTotem: gets the network path of the picked file; the answer counts the same.
-    std::function<bool(const QString &)> imposta;
-    std::function<void()> elimina; // takes the layout's background away; empty when no layout is open
-};
-
 // Picks a picture file from the disks of the machine. It stores nothing: the caller stores what it got.
 class ImpostaSfondo : public Form {
 public:
-    ImpostaSfondo(const Ambiente &ambiente, RichiestaSfondo richiesta, QWidget *padre);
+    // Layout: `uso` acts on the canvas. SfondoTotem: `uso.imposta` gets the network path of the picked file; there is
+    // no layout to take a background from, and `uso.elimina` is empty.
+    ImpostaSfondo(const Ambiente &ambiente, ModoSfondo modo, UsoSfondo uso, QWidget *padre);
 
 private:
     void cambiaDisco();
@@ -31,7 +25,8 @@ private:
     void imposta();
     void elimina();
 
-    RichiestaSfondo m_richiesta;
+    ModoSfondo m_modo;
+    UsoSfondo m_uso;
     QString SfondoScelto; // full path of the file last clicked
 
     Label Label4{this, "Label4", "Selezione File", {120, 165, 1095, 255}};
@@ -51,5 +46,10 @@ private:
     Label Label1{this, "Label1", "Anteprima Foto", {3840, 5880, 3015, 495}};
     AnteprimaImmagine Image1{this, "Image1", {120, 2940, 7935, 5895}};
 };
+
+// The form for the background of the open layout.
+void apriSfondoLayout(const Ambiente &ambiente, const UsoSfondo &uso, QWidget *padre);
+// The form for the kiosk's background: each "Imposta" gives the network path of the picked file to `FF1`.
+void apriSfondoTotem(const Ambiente &ambiente, const std::function<void(const QString &)> &FF1, QWidget *padre);
 
 } // namespace zuvora

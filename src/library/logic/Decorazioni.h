@@ -34,13 +34,6 @@ inline constexpr qlonglong ultimaPreimpostata = 171;
 // A row without an ID can't be told from the product's.
 bool ePreimpostata(const Valore &ID);
 
-// What a decoration is given by the form that chooses it. An empty path clears its picture.
-struct DecorazioneScelta {
-    QString percorso;
-    bool secondoPiano = false; // behind the other elements
-
-    friend bool operator==(const DecorazioneScelta &, const DecorazioneScelta &) = default;
-};
 // The caption that names the target, "Decorazione 7", and the way back: 1 to 25, or 0 for any other text.
 QString nomeDecorazione(int i);
 int indiceDecorazione(const QString &Label1);

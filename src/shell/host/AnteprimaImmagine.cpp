@@ -23,6 +23,7 @@ bool eGrande(const QString &percorso) {
 
 AnteprimaImmagine::AnteprimaImmagine(QWidget *padre, const char *nome, const Posto &posto)
     : PictureBox(padre, nome, posto) {
+    setCornice(true);
     connect(&m_attesa, &QFutureWatcherBase::finished, this, [this] {
         if (m_stato == Stato::InCorso)
             concludi(m_attesa.future().resultCount() > 0 ? m_attesa.result() : QImage());

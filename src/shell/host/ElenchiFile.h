@@ -45,6 +45,7 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent *e) override;
+    void drawBranches(QPainter *, const QRect &, const QModelIndex &) const override {} // nothing folds here
 
 private:
     void entra(const QTreeWidgetItem *voce);

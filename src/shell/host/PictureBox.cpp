@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
+#include <QTextOption>
 
 namespace zuvora {
 
@@ -45,8 +46,12 @@ void PictureBox::paintEvent(QPaintEvent *) {
         dipingi(pittore, *m_disegno, rect());
     else if (!m_immagine.isNull())
         pittore.drawPixmap(rect(), m_immagine);
-    else if (!m_testo.isEmpty())
+    else
         dipingiTesto(pittore);
+    if (m_cornice && vuota()) {
+        pittore.setPen(palette().color(QPalette::Mid));
+        pittore.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
     if (!hasFocus())
         return;
     QStyleOptionFocusRect opzione;
@@ -54,13 +59,12 @@ void PictureBox::paintEvent(QPaintEvent *) {
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &opzione, &pittore, this);
 }
 
-void PictureBox::dipingiTesto(QPainter &pittore) {
+void PictureBox::dipingiTesto(QPainter &pittore) const {
     constexpr int Margine = 8; // pixels
-    pittore.setPen(palette().color(QPalette::Mid));
-    pittore.drawRect(rect().adjusted(0, 0, -1, -1));
+    QTextOption opzioni(Qt::AlignCenter);
+    opzioni.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere); // names of files have no blanks
     pittore.setPen(palette().color(QPalette::PlaceholderText));
-    pittore.drawText(rect().adjusted(Margine, Margine, -Margine, -Margine),
-                     Qt::AlignCenter | Qt::TextWordWrap | Qt::TextWrapAnywhere, m_testo);
+    pittore.drawText(QRectF(rect()).adjusted(Margine, Margine, -Margine, -Margine), m_testo, opzioni);
 }
 
 void PictureBox::mouseReleaseEvent(QMouseEvent *e) {
