@@ -8,8 +8,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString nomeDi(const std::vector<Colonna> &colonne, int n) {
-    return colonne[static_cast<size_t>(n)].nome;
+// The column of a field; a field outlives a Refresh, its column perhaps not.
+const Colonna &colonnaDi(const Connessione &c, const Sorgente &sorgente, int n, Azione azione = Azione::Lettura) {
+    if (n < 0 || n >= static_cast<int>(sorgente.colonne.size()))
+        throw c.errore(Errore::ColonnaNonTrovata, azione, QString::number(n));
+    return sorgente.colonne[static_cast<size_t>(n)];
 }
 
 } // namespace
