@@ -71,8 +71,9 @@ TEST_F(Elenchi, FileDelModelloInOrdine) {
     EXPECT_EQ(elenco.ListCount(), 0);
     elenco.setPath(u"/"_s);
     elenco.setPattern(u"*"_s);
-    if (elenco.ListCount() > 0)
+    if (elenco.ListCount() > 0) {
         EXPECT_EQ(elenco.percorso(0), u'/' + elenco.List(0)) << "one separator in a root";
+    }
 }
 
 TEST_F(Elenchi, UnClicUnSegnale) {
