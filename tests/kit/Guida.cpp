@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QPixmap>
+#include <QPointer>
 #include <gtest/gtest.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -66,12 +67,19 @@ void Guida::batti() {
     m_battiti = 0;
     const Passo passo = m_passi.front();
     m_passi.pop_front();
-    try {
-        passo.azione(*modale);
-    } catch (const std::exception &e) {
-        ADD_FAILURE() << passo.form.toStdString() << ": " << e.what();
-        modale->close();
-    }
+    // Not from the timer itself: it would not beat again until the action, and each form that it opens, is done.
+    const auto esegui = [passo, form = QPointer(modale)] {
+        if (form == nullptr)
+            return;
+        try {
+            passo.azione(*form);
+        } catch (const std::exception &e) {
+            ADD_FAILURE() << passo.form.toStdString() << ": " << e.what();
+            if (form != nullptr)
+                form->close();
+        }
+    };
+    QMetaObject::invokeMethod(this, esegui, Qt::QueuedConnection);
 }
 
 void clicca(QWidget &radice, const char *nome) {

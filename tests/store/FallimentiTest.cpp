@@ -74,7 +74,7 @@ TEST_F(Fallimenti, FileCheNonSonoDatabase) {
 
 TEST_F(Fallimenti, UnaPaginaAzzerata) {
     const QString pagina = Fratello(percorso()).leggi("SELECT rootpage FROM sqlite_master WHERE name='Configurazione'");
-    scrivi(conByte((pagina.toInt() - 1) * 4096, '\0', 4096));
+    scrivi(conByte((pagina.toLongLong() - 1) * 4096, '\0', 4096));
     Data d;
     fallisce(3049, [&] { apri(d, u"Configurazione"_s); });
     EXPECT_EQ(apri(d, u"Versione"_s).RecordCount(), 1);

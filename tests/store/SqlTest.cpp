@@ -37,6 +37,7 @@ TEST_F(Sql, OgniTestoGiraComeSta) {
         {u"attivi", u"Servizio", u"Cassa|Esami", false},
         {u"select ID, Servizio as Nome from Servizi order by Servizio desc", u"Nome", u"Ritiro|Esami|Cassa|-", true},
         {u"select a.ID, b.ID from radio a, radio b where a.ID = b.ID + 2 order by 1", u"ID", u"5|7|9", false},
+        {u"select a.ID, b.Url from radio a, VideoYT b where a.ID = b.ID + 2", u"ID", u"3", false},
         {u"select ID, count(*) as Quanti from Servizi group by ServizioAttivo order by 1", u"Quanti", u"1|1|1|1",
          false},
     };

@@ -1,6 +1,6 @@
 #include "designer/forms/Form2.h"
 
-#include "designer/logic/Numeri.h"
+#include "designer/logic/NumeriSingoli.h"
 #include "shell/host/Dialoghi.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,6 +1,6 @@
 #include "designer/logic/AnteprimaTG.h"
 
-#include "designer/logic/Numeri.h"
+#include "designer/logic/NumeriSingoli.h"
 
 #include <algorithm>
 
@@ -21,15 +21,27 @@ QString AnteprimaTG::A2() const {
     return testoNumero(m_dimensione.height);
 }
 
-QString AnteprimaTG::Accetta(DisplayLayout &layout, const QString &A1, const QString &A2) {
+std::optional<Dimensione> AnteprimaTG::leggi(const QString &A1, const QString &A2) {
     const auto larghezza = numeroDa(A1);
     const auto altezza = numeroDa(A2);
-    const auto valida = [](const std::optional<double> &misura) { return misura && *misura > 0 && *misura <= massimo; };
+    const auto valida = [](const std::optional<double> &m) { return m && *m >= minimo && *m <= massimo; };
     if (!valida(larghezza) || !valida(altezza))
-        return u"Larghezza e altezza devono essere numeri maggiori di 0 e non oltre %1."_s.arg(testoNumero(massimo));
+        return std::nullopt;
+    return Dimensione{*larghezza, *altezza};
+}
+
+Messaggio AnteprimaTG::rifiuto() {
+    return {u"Larghezza e altezza devono essere numeri"_s,
+            u"compresi fra %1 e %2."_s.arg(testoNumero(minimo), testoNumero(massimo))};
+}
+
+QString AnteprimaTG::Accetta(DisplayLayout &layout, const QString &A1, const QString &A2) {
+    const auto misura = leggi(A1, A2);
+    if (!misura)
+        return rifiuto().riga0 + u' ' + rifiuto().riga1;
     Area &area = layout.elemento(TipoElemento::WB2).area;
-    area.height = *altezza;
-    area.width = *larghezza;
+    area.height = misura->height;
+    area.width = misura->width;
     return {};
 }
 

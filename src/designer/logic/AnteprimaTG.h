@@ -1,9 +1,11 @@
 #pragma once
 
 #include "designer/logic/DisplayLayout.h"
+#include "designer/logic/Messaggio.h"
 #include "designer/logic/TrascinamentoVivo.h"
 
 #include <QString>
+#include <optional>
 
 namespace zuvora {
 
@@ -12,8 +14,10 @@ namespace zuvora {
 class AnteprimaTG {
 public:
     static constexpr double passo = 100;
-    static constexpr double massimo = 491505; // twips: the largest place a form can give
+    static constexpr double minimo = passo;
+    static constexpr double massimo = 60000; // twips: 4000 pixels, beyond the largest display
 
+    explicit AnteprimaTG(const Dimensione &wb2) : m_dimensione(wb2) {}
     explicit AnteprimaTG(const DisplayLayout &layout);
 
     Dimensione WB22() const { return m_dimensione; }
@@ -26,8 +30,11 @@ public:
     void Alza() { cambia(m_dimensione.height, passo); }
     void Abbassa() { cambia(m_dimensione.height, -passo); }
 
+    // The size in the two boxes; nothing unless both texts are numbers from `minimo` to `massimo`.
+    static std::optional<Dimensione> leggi(const QString &A1, const QString &A2);
+    static Messaggio rifiuto(); // says so to the user
     // Gives the size in the two boxes to WB2, which keeps its place. Empty when done; else an Italian sentence, and WB2
-    // keeps its size: the texts must be numbers above 0.
+    // keeps its size.
     static QString Accetta(DisplayLayout &layout, const QString &A1, const QString &A2);
 
 private:

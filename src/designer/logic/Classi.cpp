@@ -1,6 +1,6 @@
 #include "designer/logic/Classi.h"
 
-#include "designer/logic/Numeri.h"
+#include "designer/logic/NumeriSingoli.h"
 
 #include <algorithm>
 #include <cmath>

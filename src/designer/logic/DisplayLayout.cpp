@@ -46,7 +46,7 @@ QString percorsoIn(const QString &cartella, QStringView relativo) {
 
 DisplayLayout::DisplayLayout(QString nomeTabella) : m_nomeTabella(std::move(nomeTabella)) {
     for (int posto = 0; posto < righeLayout; ++posto) {
-        const Riga &riga = righe()[static_cast<std::size_t>(posto)];
+        const RigaLayout &riga = righe()[static_cast<std::size_t>(posto)];
         (*this)[posto] = valoreIniziale(riga.tipo, riga.indice);
     }
     PianiDecorazione.fill(dietroParola.toString());
@@ -73,13 +73,13 @@ const LayoutElement &DisplayLayout::elemento(TipoElemento tipo, int indice) cons
 int DisplayLayout::postoDi(TipoElemento tipo, int indice) {
     const auto &tutte = righe();
     const auto trovata =
-        std::ranges::find_if(tutte, [=](const Riga &r) { return r.tipo == tipo && r.indice == indice; });
+        std::ranges::find_if(tutte, [=](const RigaLayout &r) { return r.tipo == tipo && r.indice == indice; });
     return trovata == tutte.end() ? -1 : static_cast<int>(trovata - tutte.begin());
 }
 
 int DisplayLayout::postoDi(QStringView nome) {
     const auto &tutte = righe();
-    const auto trovata = std::ranges::find_if(tutte, [nome](const Riga &r) {
+    const auto trovata = std::ranges::find_if(tutte, [nome](const RigaLayout &r) {
         return nome.startsWith(nomeTipo(r.tipo)) && nome == nomeElemento(r.tipo, r.indice);
     });
     return trovata == tutte.end() ? -1 : static_cast<int>(trovata - tutte.begin());

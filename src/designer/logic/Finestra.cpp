@@ -1,9 +1,8 @@
 #include "designer/logic/Finestra.h"
 
-#include "designer/logic/Numeri.h"
+#include "designer/logic/NumeriSingoli.h"
+#include "shell/logic/Configurazione.h"
 #include "shell/store/Data.h"
-
-#include <array>
 
 namespace zuvora {
 
@@ -11,16 +10,16 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr std::array<Dimensione, 4> tele{{{15360, 11520}, {20490, 11520}, {28800, 16200}, {16200, 28800}}};
 constexpr Dimensione telaDefinita{24525, 14115};
 constexpr double scostamentoSecondoSchermo = 20; // twips
 
 } // namespace
 
 Dimensione dimensioneTela(int risoluzione) {
-    if (risoluzione < 0 || risoluzione >= static_cast<int>(tele.size()))
+    if (risoluzione < 0 || risoluzione >= static_cast<int>(Risoluzioni.size()))
         return telaDefinita;
-    return tele[static_cast<std::size_t>(risoluzione)];
+    const Risoluzione &r = Risoluzioni[static_cast<std::size_t>(risoluzione)];
+    return {static_cast<double>(r.larghezza), static_cast<double>(r.altezza)};
 }
 
 PrimaAttivazione leggiPrimaAttivazione(const QString &cartella) {

@@ -60,11 +60,11 @@ private:
         const LayoutElement &e = m_layout[posto];
         if (e.tipo == TipoElemento::Label2)
             return leggiSfondo();
-        for (const Colonna c : righe()[static_cast<std::size_t>(posto)].lette) {
+        for (const ColonnaLayout c : righe()[static_cast<std::size_t>(posto)].lette) {
             const auto v = valore(posto, c);
             if (!v)
                 continue;
-            if (c == Colonna::PercorsoImmagine)
+            if (c == ColonnaLayout::PercorsoImmagine)
                 leggiImmagine(e.indice, testoDi(*v, {}));
             else if (impostaValore(m_layout, posto, c, *v) == EsitoValore::NonValido)
                 avvisa(
@@ -78,7 +78,7 @@ private:
 
     // A column of the current row; nothing when the table has no such column. Any other failure of the engine ends the
     // reading, for the rows behind it would be lost at the next save.
-    std::optional<Valore> valore(int posto, Colonna c) {
+    std::optional<Valore> valore(int posto, ColonnaLayout c) {
         try {
             return m_rs[nomeColonna(c)].Value();
         } catch (const EngineError &errore) {
@@ -99,7 +99,7 @@ private:
     }
 
     void leggiSfondo() {
-        const auto v = valore(DisplayLayout::postoDi(TipoElemento::Label2), Colonna::PercorsoImmagine);
+        const auto v = valore(DisplayLayout::postoDi(TipoElemento::Label2), ColonnaLayout::PercorsoImmagine);
         if (!v)
             return;
         const QString percorso = testoDi(*v, {});
@@ -141,7 +141,7 @@ private:
     CaricatoreImmagini &m_immagini;
     const QString &m_cartella;
     EsitoLettura m_esito;
-    QSet<Colonna> m_colonneMancanti;
+    QSet<ColonnaLayout> m_colonneMancanti;
     bool m_corniceSegnalata = false;
 };
 

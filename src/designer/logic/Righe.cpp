@@ -4,16 +4,16 @@ namespace zuvora {
 
 namespace {
 
-using enum Colonna;
+using enum ColonnaLayout;
 
 // What each kind of row reads and writes, in this order.
 constexpr std::array letteText1{
-    SfondoTestoTrasparente, Testo,   NomeFont, DimFont, FontBold, FontItalic, ColoreSfondo, ColoreTesto,
-    Colonna::Allineamento,  Visibile};
+    SfondoTestoTrasparente,      Testo,   NomeFont, DimFont, FontBold, FontItalic, ColoreSfondo, ColoreTesto,
+    ColonnaLayout::Allineamento, Visibile};
 constexpr std::array scritteText1{Testo,       NomeFont,
                                   DimFont,     FontBold,
                                   FontItalic,  ColoreSfondo,
-                                  ColoreTesto, Colonna::Allineamento,
+                                  ColoreTesto, ColonnaLayout::Allineamento,
                                   Visibile,    SfondoTestoTrasparente};
 constexpr std::array letteText9{SfondoTestoTrasparente,
                                 Top,
@@ -25,7 +25,7 @@ constexpr std::array letteText9{SfondoTestoTrasparente,
                                 FontItalic,
                                 ColoreSfondo,
                                 ColoreTesto,
-                                Colonna::Allineamento,
+                                ColonnaLayout::Allineamento,
                                 Altezza,
                                 Larghezza,
                                 Visibile};
@@ -33,11 +33,11 @@ constexpr std::array scritteText9{Top,         Left,
                                   Testo,       NomeFont,
                                   DimFont,     FontBold,
                                   FontItalic,  ColoreSfondo,
-                                  ColoreTesto, Colonna::Allineamento,
+                                  ColoreTesto, ColonnaLayout::Allineamento,
                                   Visibile,    SfondoTestoTrasparente,
                                   Altezza,     Larghezza};
 constexpr std::array letteText2{Top,      Left,       Testo,        NomeFont,    DimFont,
-                                FontBold, FontItalic, ColoreSfondo, ColoreTesto, Colonna::Allineamento,
+                                FontBold, FontItalic, ColoreSfondo, ColoreTesto, ColonnaLayout::Allineamento,
                                 Altezza,  Larghezza,  Visibile};
 constexpr std::array scritteText2{Top,          Left,        NomeFont, DimFont,   FontBold, FontItalic,
                                   ColoreSfondo, ColoreTesto, Altezza,  Larghezza, Visibile, SfondoTestoTrasparente};
@@ -54,8 +54,8 @@ struct Gruppo {
     TipoElemento tipo;
     int primo; // index of the first row's element
     int quante;
-    std::span<const Colonna> lette;
-    std::span<const Colonna> scritte;
+    std::span<const ColonnaLayout> lette;
+    std::span<const ColonnaLayout> scritte;
 };
 
 constexpr std::array gruppi{
@@ -75,7 +75,7 @@ constexpr std::array gruppi{
 };
 
 constexpr auto stese = [] {
-    std::array<Riga, righeLayout> tutte{};
+    std::array<RigaLayout, righeLayout> tutte{};
     std::size_t n = 0;
     for (const Gruppo &g : gruppi) {
         for (int i = 0; i < g.quante; ++i)
@@ -103,11 +103,11 @@ constexpr std::array<QStringView, colonneLayout> nomi{u"DescCampo",
 
 } // namespace
 
-QStringView nomeColonna(Colonna c) {
+QStringView nomeColonna(ColonnaLayout c) {
     return nomi[static_cast<std::size_t>(c)];
 }
 
-const std::array<Riga, righeLayout> &righe() {
+const std::array<RigaLayout, righeLayout> &righe() {
     return stese;
 }
 

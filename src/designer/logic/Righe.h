@@ -8,7 +8,7 @@
 namespace zuvora {
 
 // The columns of a layout table, in the order in which a copy carries them.
-enum class Colonna {
+enum class ColonnaLayout {
     DescCampo,
     Top,
     Left,
@@ -28,18 +28,18 @@ enum class Colonna {
 };
 inline constexpr int colonneLayout = 16;
 
-QStringView nomeColonna(Colonna c);
+QStringView nomeColonna(ColonnaLayout c);
 
 // One row of a layout table: the element it stands for, and the columns that the designer reads and writes, each in the
 // order in which it does.
-struct Riga {
+struct RigaLayout {
     TipoElemento tipo;
     int indice;
-    std::span<const Colonna> lette;
-    std::span<const Colonna> scritte;
+    std::span<const ColonnaLayout> lette;
+    std::span<const ColonnaLayout> scritte;
 };
 
 // The definition of the 70 rows: reading, writing, copying and clearing all walk it.
-const std::array<Riga, righeLayout> &righe();
+const std::array<RigaLayout, righeLayout> &righe();
 
 } // namespace zuvora

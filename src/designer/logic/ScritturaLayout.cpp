@@ -57,8 +57,8 @@ EsitoScrittura trasferisci(Recordset &sorgente, Recordset &destinazione, bool na
     }
     const auto riempi = [&](int) {
         for (int c = 0; c < colonneLayout; ++c) {
-            const auto colonna = static_cast<Colonna>(c);
-            const bool spegni = nascondi && colonna == Colonna::Visibile;
+            const auto colonna = static_cast<ColonnaLayout>(c);
+            const bool spegni = nascondi && colonna == ColonnaLayout::Visibile;
             const QStringView nome = nomeColonna(colonna);
             destinazione[nome].SetValue(spegni ? Valore(false) : sorgente[nome].Value());
         }
@@ -74,7 +74,7 @@ EsitoScrittura scriviLayout(Recordset &rs, DisplayLayout &layout) {
     meteo.area.height = altezzaMeteo;
     meteo.area.width = larghezzaMeteo;
     const auto riempi = [&](int posto) {
-        for (const Colonna c : righe()[static_cast<std::size_t>(posto)].scritte)
+        for (const ColonnaLayout c : righe()[static_cast<std::size_t>(posto)].scritte)
             rs[nomeColonna(c)].SetValue(valoreDi(layout, posto, c));
     };
     return percorri(

@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-using enum Azione;
+using enum AzionePressione;
 
 constexpr std::array trascinaPannello{RipristinaDidascalia, Seleziona, TrascinaPannello};
 constexpr std::array trascina{RipristinaDidascalia, Seleziona, Trascina};
@@ -34,7 +34,7 @@ struct Voce {
     TipoElemento tipo;
     Layout layout;
     Qt::MouseButtons bottoni;
-    std::span<const Azione> azioni;
+    std::span<const AzionePressione> azioni;
 };
 
 // Presses that are not listed do nothing.
@@ -80,11 +80,11 @@ constexpr PuntoTwips parcheggio(TipoElemento tipo) {
 
 } // namespace
 
-std::span<const Azione> azioniPressione(TipoElemento tipo, Qt::MouseButton bottone, bool layoutBase) {
+std::span<const AzionePressione> azioniPressione(TipoElemento tipo, Qt::MouseButton bottone, bool layoutBase) {
     const Layout escluso = layoutBase ? Layout::Altro : Layout::Base;
     const auto voce = std::ranges::find_if(
         voci, [=](const Voce &v) { return v.tipo == tipo && v.layout != escluso && v.bottoni.testFlag(bottone); });
-    return voce == voci.end() ? std::span<const Azione>{} : voce->azioni;
+    return voce == voci.end() ? std::span<const AzionePressione>{} : voce->azioni;
 }
 
 QString didascaliaForm(QStringView tabella) {

@@ -9,7 +9,7 @@
 namespace zuvora {
 
 // What the designer does at a press of the mouse.
-enum class Azione {
+enum class AzionePressione {
     RipristinaDidascalia, // the form caption goes back to DidascaliaBase
     TestoDecorazione,     // the form caption names the decoration
     Seleziona,            // ElementoSelezionato becomes the element's name
@@ -24,7 +24,7 @@ enum class Azione {
 };
 
 // The actions of a press, in order; none for a press that does nothing. TipoElemento::Tela stands for the bare canvas.
-std::span<const Azione> azioniPressione(TipoElemento tipo, Qt::MouseButton bottone, bool layoutBase);
+std::span<const AzionePressione> azioniPressione(TipoElemento tipo, Qt::MouseButton bottone, bool layoutBase);
 
 // The form caption: "Impostazione Modulo : " and the table, and the same naming decoration i.
 QString didascaliaForm(QStringView tabella);

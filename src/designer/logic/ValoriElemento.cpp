@@ -1,6 +1,6 @@
 #include "designer/logic/ValoriElemento.h"
 
-#include "designer/logic/Numeri.h"
+#include "designer/logic/NumeriSingoli.h"
 
 #include <cmath>
 
@@ -8,7 +8,7 @@ namespace zuvora {
 
 namespace {
 
-using enum Colonna;
+using enum ColonnaLayout;
 
 EsitoValore impostaNumero(double &dove, const Valore &v, double minimo, double massimo) {
     if (eNull(v))
@@ -85,7 +85,7 @@ EsitoValore impostaSfondo(LayoutElement &e, const Valore &v) {
 
 } // namespace
 
-Valore valoreDi(const DisplayLayout &layout, int posto, Colonna c) {
+Valore valoreDi(const DisplayLayout &layout, int posto, ColonnaLayout c) {
     const LayoutElement &e = layout[posto];
     const bool decorazione = e.tipo == TipoElemento::Image1;
     switch (c) {
@@ -113,7 +113,7 @@ Valore valoreDi(const DisplayLayout &layout, int posto, Colonna c) {
         return qlonglong{e.coloreSfondo};
     case ColoreTesto:
         return qlonglong{e.coloreTesto};
-    case Colonna::Allineamento:
+    case ColonnaLayout::Allineamento:
         return static_cast<qlonglong>(e.allineamento);
     case Visibile:
         return e.visibile;
@@ -125,7 +125,7 @@ Valore valoreDi(const DisplayLayout &layout, int posto, Colonna c) {
     return {};
 }
 
-EsitoValore impostaValore(DisplayLayout &layout, int posto, Colonna c, const Valore &v) {
+EsitoValore impostaValore(DisplayLayout &layout, int posto, ColonnaLayout c, const Valore &v) {
     LayoutElement &e = layout[posto];
     switch (c) {
     case DescCampo:
@@ -154,7 +154,7 @@ EsitoValore impostaValore(DisplayLayout &layout, int posto, Colonna c, const Val
         return impostaSfondo(e, v);
     case ColoreTesto:
         return impostaIntero(e.coloreTesto, v, coloreMassimo);
-    case Colonna::Allineamento:
+    case ColonnaLayout::Allineamento:
         return impostaAllineamento(e.allineamento, v);
     case Visibile:
         return impostaBooleano(e.visibile, v);

@@ -11,7 +11,8 @@ constexpr int PassoRiga = 240; // twips
 constexpr int UltimaSorgente = 10;
 constexpr int UltimaDestinazione = 9;
 
-template <class Numero> std::unique_ptr<RadioButton> bottone(QWidget *padre, const char *nome, int n, Numero numero, Posto p) {
+template <class Numero>
+std::unique_ptr<RadioButton> bottone(QWidget *padre, const char *nome, int n, Numero numero, Posto p) {
     p.top += PassoRiga * n;
     return std::make_unique<RadioButton>(padre, nome, nomeLinea(numero(n)).toUtf8().constData(), p);
 }
@@ -32,9 +33,10 @@ int sceltoIn(const Schiera<RadioButton> &gruppo) {
 
 CopiaLayout::CopiaLayout(const Ambiente &ambiente_, QWidget *padre)
     : Form(ambiente_, "CopiaLayout", "Funzione di Copia Layout", {5925, 5550}, padre),
-      L0("L0", 0, UltimaSorgente, [this](int n, const char *nome) {
-          return bottone(&GroupBox1, nome, n, layoutSorgente, {480, 720, n == UltimaSorgente ? 1575 : 1215, 255});
-      }),
+      L0("L0", 0, UltimaSorgente,
+         [this](int n, const char *nome) {
+             return bottone(&GroupBox1, nome, n, layoutSorgente, {480, 720, n == UltimaSorgente ? 1575 : 1215, 255});
+         }),
       L1("L1", 0, UltimaDestinazione, [this](int n, const char *nome) {
           return bottone(&GroupBox2, nome, n, layoutDestinazione, {240, 600, 1140, 255});
       }) {

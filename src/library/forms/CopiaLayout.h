@@ -26,9 +26,8 @@ private:
     Schiera<Label> Label2{&GroupBox3,
                           "Label2",
                           {{0, "Copia del Layout", {120, 240, 1455, 255}}, {1, "sul Layout", {120, 840, 1455, 255}}}};
-    Schiera<Label> Label3{&GroupBox3,
-                          "Label3",
-                          {{0, "Layout 1", {120, 480, 2415, 255}}, {1, "Layout 1", {120, 1080, 2415, 255}}}};
+    Schiera<Label> Label3{
+        &GroupBox3, "Label3", {{0, "Layout 1", {120, 480, 2415, 255}}, {1, "Layout 1", {120, 1080, 2415, 255}}}};
     Schiera<Button> Btn{
         this, "Btn", {{1, "Copia &Layout", {3120, 4920, 1455, 330}}, {0, "C&hiudi", {4560, 4920, 1095, 330}}}};
 };

@@ -4,6 +4,7 @@
 #include "library/forms/CopiaLayout.h"
 #include "shell/disegni/Disegni.h"
 #include "shell/forms/MsgForm.h"
+#include "shell/host/Dialoghi.h"
 
 #include <QTimer>
 #include <utility>
@@ -41,17 +42,19 @@ void mostraTesto(Edit &campo, const QString &testo) {
 
 SceltaLayout::SceltaLayout(const Ambiente &ambiente_, CaricaLayout carica, QWidget *padre)
     : Form(ambiente_, "SceltaLayout", "Selezione del Layout", {5175, 5595}, padre), m_carica(std::move(carica)),
-      m_lette(lineeIniziali()), RB1("RB1", 0, numeroLayout - 1, [this](int i, const char *nome) {
-          return std::make_unique<RadioButton>(&GroupBox1, nome, "", Posto{240, topLinea(i), 330, 255});
-      }),
-      text1("text1", 0, 2 * numeroLayout - 1, [this](int i, const char *nome) {
-          return std::make_unique<Edit>(&GroupBox1, nome, postoTesto(i));
-      }),
+      m_lette(lineeIniziali()),
+      RB1("RB1", 0, numeroLayout - 1,
+          [this](int i, const char *nome) {
+              return std::make_unique<RadioButton>(&GroupBox1, nome, "", Posto{240, topLinea(i), 330, 255});
+          }),
+      text1("text1", 0, 2 * numeroLayout - 1,
+            [this](int i, const char *nome) { return std::make_unique<Edit>(&GroupBox1, nome, postoTesto(i)); }),
       PPBB1("PPBB1", 1, numeroLayout - 1, [this](int i, const char *nome) {
           return std::make_unique<Button>(&GroupBox1, nome, "", Posto{4440, topLinea(i), 375, 285});
       }) {
     disponiLinee();
     Label2.setReadOnly(true);
+    Label2.setFocusPolicy(Qt::ClickFocus);
     riempi();
     alClic(PPBB1, [this](int i) { CancellaLayout(ambiente(), QString::number(i), this).mostraModale(); });
     alClic(PB1(0), [this] { scarica(); });
@@ -103,7 +106,9 @@ void SceltaLayout::riempi() {
 
 void SceltaLayout::attivata() {
     if (const QString avviso = std::exchange(m_avviso, {}); !avviso.isEmpty())
-        QTimer::singleShot(0, this, [this, avviso] { mostra({avviso, {}}); });
+        QTimer::singleShot(0, this, [this, avviso] {
+            ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, u"Zuvora-Messaggio"_s, avviso);
+        });
 }
 
 LineeLayout SceltaLayout::linee() const {

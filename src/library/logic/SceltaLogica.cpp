@@ -1,6 +1,6 @@
 #include "library/logic/SceltaLogica.h"
 
-#include "designer/logic/Numeri.h"
+#include "designer/logic/NumeriSingoli.h"
 #include "shell/store/Data.h"
 #include "shell/store/EngineError.h"
 

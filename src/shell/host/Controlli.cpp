@@ -90,7 +90,7 @@ void LabelLink::focusOutEvent(QFocusEvent *e) {
 }
 
 Button::Button(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto)
-    : Controllo(padre, nome, posto) {
+    : Controllo(padre, nome, posto), m_base(font()) {
     // A form's Enter key belongs to the focused control, not to a default button.
     setAutoDefault(false);
     setCaption(QString::fromUtf8(didascalia));
@@ -112,9 +112,7 @@ QSize Button::spazioDidascalia() const {
 }
 
 void Button::adatta() {
-    QFont base = font();
-    base.setStretch(100);
-    setFont(fontAdatto(text(), base, spazioDidascalia(), false));
+    setFont(fontAdatto(text(), m_base, spazioDidascalia(), false));
 }
 
 void Button::resizeEvent(QResizeEvent *e) {

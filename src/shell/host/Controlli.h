@@ -68,6 +68,7 @@ protected:
 
 private:
     void adatta();
+    QFont m_base;
     bool m_sinistra = false;
 };
 

@@ -18,12 +18,21 @@ QSize misuraDidascalia(const QString &testo, const QFont &font, int larghezza) {
     return metrica.boundingRect(QRect(0, 0, larghezza > 0 ? larghezza : 100000, 100000), opzioni, testo).size();
 }
 
+// Asks the font system as little as it can: each further width of a font costs as much as another font.
 QFont fontAdatto(const QString &testo, const QFont &base, const QSize &spazio, bool aCapo) {
+    if (testo.isEmpty())
+        return base;
+    const QSize serve = misuraDidascalia(testo, base, aCapo ? spazio.width() : 0);
+    if (serve.width() <= spazio.width() && (!aCapo || serve.height() <= spazio.height()))
+        return base;
     QFont font = base;
-    for (int stretto = 100; stretto >= StrettoMinimo; stretto -= 5) {
+    int stretto = 95;
+    if (!aCapo && serve.width() > 0)
+        stretto = std::clamp(100 * spazio.width() / serve.width() / 5 * 5, StrettoMinimo, 95);
+    for (; stretto >= StrettoMinimo; stretto -= 5) {
         font.setStretch(stretto);
-        const QSize serve = misuraDidascalia(testo, font, aCapo ? spazio.width() : 0);
-        if (serve.width() <= spazio.width() && (!aCapo || serve.height() <= spazio.height()))
+        const QSize ora = misuraDidascalia(testo, font, aCapo ? spazio.width() : 0);
+        if (ora.width() <= spazio.width() && (!aCapo || ora.height() <= spazio.height()))
             break;
     }
     return font;

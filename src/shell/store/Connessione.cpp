@@ -160,9 +160,6 @@ Istruzione Connessione::preparaUnica(const QString &sql, Azione azione) {
 }
 
 int Connessione::scrivi(const QByteArray &sql, const QList<Valore> &valori) {
-    // Written to a file that was removed or replaced meanwhile, the change would be lost without a word.
-    if (spostato())
-        throw mancante(Azione::Scrittura);
     Istruzione i = prepara(sql, Azione::Scrittura);
     for (int n = 0; n < valori.size(); ++n)
         i.lega(n + 1, valori[n]);

@@ -28,7 +28,7 @@ Errore daCodice(int rc, Azione azione, int errnoSistema) {
     case SQLITE_PROTOCOL:
         return azione == Azione::Apertura ? Errore::GiaAperto : Errore::Bloccato;
     case SQLITE_READONLY:
-        return rc == SQLITE_READONLY_DBMOVED ? Errore::FileNonTrovato : Errore::SolaLettura;
+        return Errore::SolaLettura;
     case SQLITE_CANTOPEN: // in a write: the journal can't be made, the folder is protected
         return scrittura ? Errore::SolaLettura : Errore::Accesso;
     case SQLITE_PERM:
@@ -58,6 +58,9 @@ Errore daCodice(int rc, Azione azione, int errnoSistema) {
 } // namespace
 
 EngineError Connessione::errore(int rc, Azione azione, const QString &oggetto) const {
+    // The file was removed or replaced while open: the engine refuses to write where nobody would find it.
+    if (rc == SQLITE_READONLY_DBMOVED)
+        return mancante(azione);
     const QString dettaglio =
         m_db == nullptr ? QString::fromUtf8(sqlite3_errstr(rc)) : QString::fromUtf8(sqlite3_errmsg(m_db));
     Contesto contesto{m_percorso, azione, oggetto};

@@ -35,8 +35,7 @@ void Istruzione::lega(int posto, const Valore &v) {
         rc = sqlite3_bind_null(m_s, posto);
     } else if (v.typeId() == QMetaType::QString) {
         const QByteArray testo = v.toString().toUtf8();
-        rc = sqlite3_bind_text(m_s, posto, testo.isNull() ? "" : testo.constData(), static_cast<int>(testo.size()),
-                               SQLITE_TRANSIENT);
+        rc = sqlite3_bind_text(m_s, posto, testo.constData(), static_cast<int>(testo.size()), SQLITE_TRANSIENT);
     } else if (v.typeId() == QMetaType::Double || v.typeId() == QMetaType::Float) {
         rc = sqlite3_bind_double(m_s, posto, v.toDouble());
     } else {

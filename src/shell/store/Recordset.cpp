@@ -8,8 +8,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString nomeDi(const std::vector<Colonna> &colonne, int n) {
-    return colonne[static_cast<size_t>(n)].nome;
+// The column of a field; a field outlives a Refresh, its column perhaps not.
+const Colonna &colonnaDi(const Connessione &c, const Sorgente &sorgente, int n, Azione azione = Azione::Lettura) {
+    if (n < 0 || n >= static_cast<int>(sorgente.colonne.size()))
+        throw c.errore(Errore::ColonnaNonTrovata, azione, QString::number(n));
+    return sorgente.colonne[static_cast<size_t>(n)];
 }
 
 } // namespace
@@ -29,9 +32,8 @@ Recordset::Stato &Recordset::stato() const {
 
 Valore Recordset::Field::Value() const {
     Stato &s = m_rs->stato();
+    colonnaDi(s.connessione, s.sorgente, m_colonna);
     const auto n = static_cast<size_t>(m_colonna);
-    if (n >= s.sorgente.colonne.size())
-        throw s.connessione.errore(Errore::ColonnaNonTrovata, Azione::Lettura);
     if (s.modo != Stato::Modo::Lettura && s.scritti[n])
         return *s.scritti[n];
     if (s.modo == Stato::Modo::Nuovo)
@@ -41,24 +43,23 @@ Valore Recordset::Field::Value() const {
 
 void Recordset::Field::SetValue(const Valore &v) {
     Stato &s = m_rs->stato();
-    const auto n = static_cast<size_t>(m_colonna);
-    if (n >= s.sorgente.colonne.size())
-        throw s.connessione.errore(Errore::ColonnaNonTrovata, Azione::Scrittura);
+    const Colonna &colonna = colonnaDi(s.connessione, s.sorgente, m_colonna, Azione::Scrittura);
     if (s.modo == Stato::Modo::Lettura)
         throw s.connessione.errore(Errore::ModificaNonIniziata, Azione::Scrittura);
-    const Colonna &colonna = s.sorgente.colonne[n];
     const auto convertito = perColonna(v, colonna.tipo);
     if (!convertito)
         throw s.connessione.errore(Errore::TipoNonValido, Azione::Scrittura, colonna.nome);
-    s.scritti[n] = *convertito;
+    s.scritti[static_cast<size_t>(m_colonna)] = *convertito;
 }
 
 QString Recordset::Field::Name() const {
-    return nomeDi(m_rs->stato().sorgente.colonne, m_colonna);
+    const Stato &s = m_rs->stato();
+    return colonnaDi(s.connessione, s.sorgente, m_colonna).nome;
 }
 
 QString Recordset::Field::TipoDichiarato() const {
-    return QString::fromUtf8(m_rs->stato().sorgente.colonne[static_cast<size_t>(m_colonna)].dichiarato);
+    const Stato &s = m_rs->stato();
+    return QString::fromUtf8(colonnaDi(s.connessione, s.sorgente, m_colonna).dichiarato);
 }
 
 int Recordset::Campi::Count() const {
@@ -68,14 +69,14 @@ int Recordset::Campi::Count() const {
 Recordset::Field Recordset::Campi::Item(QStringView nome) const {
     const Stato &s = m_rs->stato();
     for (int n = 0; n < Count(); ++n)
-        if (nome.compare(nomeDi(s.sorgente.colonne, n), Qt::CaseInsensitive) == 0)
+        if (nome.compare(s.sorgente.colonne[static_cast<size_t>(n)].nome, Qt::CaseInsensitive) == 0)
             return {*m_rs, n};
     throw s.connessione.errore(Errore::ColonnaNonTrovata, Azione::Lettura, nome.toString());
 }
 
 Recordset::Field Recordset::Campi::Item(int indice) const {
-    if (indice < 0 || indice >= Count())
-        throw m_rs->stato().connessione.errore(Errore::ColonnaNonTrovata, Azione::Lettura, QString::number(indice));
+    const Stato &s = m_rs->stato();
+    colonnaDi(s.connessione, s.sorgente, indice);
     return {*m_rs, indice};
 }
 

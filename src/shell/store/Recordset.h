@@ -68,7 +68,8 @@ public:
     void FindFirst(const QString &criterio);
     bool NoMatch() const;
 
-    // Reads a record's columns without moving, for lists: Null where the row is gone. `riga` is 0-based.
+    // Reads a record's columns without moving, for lists: Null where the row is gone. `riga` is 0-based. A screenful of
+    // rows is read at once and kept until the record set moves or writes.
     Valore leggi(int riga, int colonna) const;
 
 private:

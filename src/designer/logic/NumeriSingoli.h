@@ -13,7 +13,7 @@ std::optional<double> numeroDa(const Valore &v);
 std::optional<double> numeroDa(const QString &testo);
 // A number as shown in a box: plain decimal, as few digits as single precision needs.
 QString testoNumero(double valore);
-// The number as a table holds it: of single precision, in its shortest decimal form (14.3 and not 14.300000190734863).
-double singolo(double valore);
+// The number as a save hands it to the store.
+Valore singolo(double valore);
 
 } // namespace zuvora

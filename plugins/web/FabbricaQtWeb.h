@@ -1,0 +1,19 @@
+#pragma once
+
+#include "shell/host/VistaWeb.h"
+
+#include <QObject>
+
+namespace zuvora {
+
+// The component's root object.
+class FabbricaQtWeb : public QObject, public FabbricaVistaWeb {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "zuvora.FabbricaVistaWeb/1")
+    Q_INTERFACES(zuvora::FabbricaVistaWeb)
+public:
+    FabbricaQtWeb();
+    std::unique_ptr<VistaWeb> crea(QWidget *padre) override;
+};
+
+} // namespace zuvora

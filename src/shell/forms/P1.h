@@ -1,0 +1,18 @@
+#pragma once
+
+#include "shell/host/Browser.h"
+#include "shell/host/Form.h"
+
+namespace zuvora {
+
+// Shows one page of the web.
+class P1 : public Form {
+public:
+    P1(const Ambiente &ambiente, const QString &indirizzo, QWidget *padre);
+
+private:
+    Browser wb1{this, "wb1", {240, 120, 9915, 6360}, ambiente().piattaforma};
+    Button ok{this, "ok", "Ok", {9180, 6600, 975, 330}};
+};
+
+} // namespace zuvora

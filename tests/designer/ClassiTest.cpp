@@ -1,0 +1,136 @@
+#include "designer/logic/Classi.h"
+
+#include "designer/ArchivioLayout.h"
+
+namespace zuvora::prova {
+
+namespace {
+
+class Proprieta : public ::testing::Test {
+protected:
+    // Names of the elements that differ from a fresh layout.
+    QStringList cambiati() const {
+        const DisplayLayout fresco(u"Layout1"_s);
+        QStringList nomi;
+        for (int posto = 0; posto < righeLayout; ++posto) {
+            if (layout[posto] != fresco[posto])
+                nomi.append(layout[posto].nome());
+        }
+        return nomi;
+    }
+    static QStringList ogniTre(int primo) {
+        QStringList nomi;
+        for (int i = primo; i < 24; i += 3)
+            nomi.append(nomeElemento(TipoElemento::Text1, i));
+        return nomi;
+    }
+
+    DisplayLayout layout{u"Layout1"_s};
+    CampiForm2 campi{{u"Courier"_s, u"14.5"_s, u"255"_s, u"65280"_s}, true, true, 2, true, u"Benvenuti"_s, 77};
+};
+
+TEST_F(Proprieta, ClassGetsTheStyleAndNoOtherElementDoes) {
+    const std::vector<std::pair<QString, QStringList>> casi{
+        {u"Numeri"_s, ogniTre(0)},      {u"Postazione"_s, ogniTre(1)},         {u"Servizio"_s, ogniTre(2)},
+        {u"Titolo"_s, {u"Text9(0)"_s}}, {u"SottoTitolo"_s, {u"Text9(1)"_s}},   {u"Data"_s, {u"Text9(2)"_s}},
+        {u"Orario"_s, {u"Text9(3)"_s}}, {u"Testo Scorrevole"_s, {u"Text2"_s}},
+    };
+    for (const auto &[titolo, elementi] : casi) {
+        SCOPED_TRACE(titolo.toStdString());
+        layout = DisplayLayout(u"Layout1"_s);
+        ASSERT_TRUE(applicaClasse(layout, *classeDaTitolo(titolo), campi));
+        EXPECT_EQ(cambiati(), elementi);
+        const LayoutElement &e = layout[DisplayLayout::postoDi(elementi.last())];
+        EXPECT_EQ(e.font, (Carattere{u"Courier"_s, 14.5, true, true}));
+        EXPECT_EQ(e.coloreSfondo, 255);
+        EXPECT_EQ(e.coloreTesto, 65280);
+        EXPECT_EQ(e.allineamento, Allineamento::Destra);
+        EXPECT_TRUE(e.trasparente);
+        const DisplayLayout una = layout;
+        applicaClasse(layout, *classeDaTitolo(titolo), campi); // twice changes nothing further
+        EXPECT_TRUE(std::equal(layout.begin(), layout.end(), una.begin()));
+    }
+}
+
+TEST_F(Proprieta, OnlyServicesLineUpAndOnlyTitlesTakeTheText) {
+    for (const Classe classe : {Classe::Numeri, Classe::Postazione, Classe::Servizio, Classe::Titolo, Classe::Data})
+        applicaClasse(layout, classe, campi);
+    EXPECT_EQ(layout.elemento(TipoElemento::Text1, 17).area, (Area{77, 1200, 6615, 720}));
+    EXPECT_EQ(layout.elemento(TipoElemento::Text1, 22).area.left, 120);
+    EXPECT_EQ(layout.elemento(TipoElemento::Text1, 0).area.left, 960);
+    EXPECT_EQ(layout.elemento(TipoElemento::Text9, 0).didascalia, u"Benvenuti"_s);
+    EXPECT_EQ(layout.elemento(TipoElemento::Text9, 2).didascalia, u"Giovedi 29 Settembre 2011"_s);
+    EXPECT_EQ(layout.elemento(TipoElemento::Text1, 5).didascalia, u"Servizio (2)"_s);
+}
+
+TEST_F(Proprieta, PanelsAndCanvasTakeTheColourOnly) {
+    campi.FE1 = {QString(), QString(), u"255"_s, QString()};
+    ASSERT_TRUE(applicaClasse(layout, Classe::ColoreSfondoSchermata, campi));
+    EXPECT_EQ(cambiati(), QStringList{u"Form1"_s});
+    ASSERT_TRUE(applicaClasse(layout, Classe::Pannello, campi));
+    for (int i = 0; i < numeroPannelli; ++i)
+        EXPECT_EQ(layout.elemento(TipoElemento::Pannello1, i).coloreSfondo, 255);
+    EXPECT_EQ(cambiati().size(), 1 + numeroPannelli);
+}
+
+TEST_F(Proprieta, EmptyOrImpossibleFieldsChangeNothing) {
+    const std::array<std::pair<int, QString>, 10> casi{{{0, u""_s},
+                                                        {1, u""_s},
+                                                        {1, u"0"_s},
+                                                        {1, u"dodici"_s},
+                                                        {1, u"99999"_s},
+                                                        {2, u""_s},
+                                                        {2, u"-1"_s},
+                                                        {2, u"16777216"_s},
+                                                        {3, u""_s},
+                                                        {3, u"rosso"_s}}};
+    for (const auto &[campo, testo] : casi) {
+        CampiForm2 rotti = campi;
+        rotti.FE1[static_cast<std::size_t>(campo)] = testo;
+        EXPECT_FALSE(applicaClasse(layout, Classe::Titolo, rotti)) << campo << testo.toStdString();
+    }
+    campi.FE1[2].clear();
+    EXPECT_FALSE(applicaClasse(layout, Classe::Pannello, campi));
+    EXPECT_EQ(cambiati(), QStringList{});
+}
+
+TEST_F(Proprieta, WithoutARadioButtonTheAlignmentStays) {
+    campi.RB1 = -1;
+    applicaClasse(layout, Classe::Orario, campi);
+    EXPECT_EQ(layout.elemento(TipoElemento::Text9, 3).allineamento, Allineamento::Centro);
+}
+
+TEST_F(Proprieta, FillingAndApplyingUnchangedLeavesTheElementAsItWas) {
+    for (LayoutElement &e : layout) {
+        e.font.dimensione = 27.75;
+        e.allineamento = static_cast<Allineamento>(e.indice % 3);
+        e.coloreSfondo = coloreDa(1, 2, e.indice);
+    }
+    for (int posto = 0; posto < righeLayout; ++posto) {
+        const auto classe = classeDi(layout[posto]);
+        if (!classe)
+            continue;
+        const LayoutElement prima = layout[posto];
+        EXPECT_TRUE(applicaClasse(layout, *classe, riempiCampi(layout, posto))) << prima.nome().toStdString();
+        EXPECT_EQ(layout[posto], prima) << prima.nome().toStdString();
+    }
+}
+
+TEST_F(Proprieta, FieldsShowTheElement) {
+    const CampiForm2 titolo = riempiCampi(layout, DisplayLayout::postoDi(TipoElemento::Text9, 0));
+    EXPECT_EQ(titolo.FE1, (std::array{u"Tahoma"_s, u"36"_s, u"12632256"_s, u"0"_s}));
+    EXPECT_EQ(titolo.Testo999, u"Titolo della Schermata"_s);
+    const CampiForm2 data = riempiCampi(layout, DisplayLayout::postoDi(TipoElemento::Text9, 2));
+    EXPECT_EQ(data.Testo999, QString());
+    EXPECT_EQ(data.RB1, 1); // "Centrato" is the middle button, alignment 2
+    EXPECT_TRUE(data.grassetto);
+    const CampiForm2 numero = riempiCampi(layout, DisplayLayout::postoDi(TipoElemento::Text1, 3));
+    EXPECT_EQ(numero.FE1[1], u"128.25"_s);
+    EXPECT_EQ(numero.Label4, 960);
+    const CampiForm2 pannello = riempiCampi(layout, DisplayLayout::postoDi(TipoElemento::Pannello1, 1));
+    EXPECT_EQ(pannello.FE1, (std::array{QString(), QString(), u"12632256"_s, u"0"_s}));
+}
+
+} // namespace
+
+} // namespace zuvora::prova

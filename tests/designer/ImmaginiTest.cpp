@@ -1,0 +1,59 @@
+#include "designer/logic/ImmaginiQt.h"
+
+#include "designer/ArchivioLayout.h"
+
+#include <QImage>
+#include <sys/stat.h>
+
+namespace zuvora::prova {
+
+namespace {
+
+class Immagini : public ::testing::Test {
+protected:
+    QString file(const QString &nome) const { return m_cartella.filePath(nome); }
+    void disegna(const QString &nome, QSize misura, const char *formato) {
+        QImage immagine(misura, QImage::Format_RGB32);
+        immagine.fill(Qt::red);
+        ASSERT_TRUE(immagine.save(file(nome), formato));
+    }
+
+    ImmaginiQt immagini{{200, 200}};
+
+private:
+    QTemporaryDir m_cartella;
+};
+
+TEST_F(Immagini, WhatIsNoPictureIsRefusedWithoutBlocking) {
+    QFile testo(file(u"testo.jpg"_s));
+    ASSERT_TRUE(testo.open(QIODevice::WriteOnly));
+    testo.write("non sono un'immagine");
+    testo.close();
+    ASSERT_EQ(mkfifo(file(u"tubo.jpg"_s).toUtf8().constData(), 0600), 0);
+    for (const auto &nome : {u"testo.jpg"_s, u"tubo.jpg"_s, u"."_s, u"manca.png"_s})
+        EXPECT_FALSE(immagini.carica(file(nome))) << nome.toStdString();
+    EXPECT_FALSE(immagini.carica({}));
+    EXPECT_FALSE(immagini.carica(u"/dev/zero"_s));
+}
+
+TEST_F(Immagini, ContentDecidesTheFormatAndLargePicturesAreReduced) {
+    disegna(u"davvero png.jpg"_s, {40, 30}, "PNG");
+    EXPECT_EQ(immagini.immagine(file(u"davvero png.jpg"_s)).size(), QSize(40, 30));
+    disegna(u"larga.png"_s, {4000, 1000}, "PNG");
+    EXPECT_EQ(immagini.immagine(file(u"larga.png"_s)).size(), QSize(200, 50));
+    disegna(u"filo.jpg"_s, {4000, 1}, "JPEG");
+    EXPECT_EQ(immagini.immagine(file(u"filo.jpg"_s)).size(), QSize(200, 1));
+}
+
+TEST_F(Immagini, APictureReplacedOnDiskIsReadAgain) {
+    disegna(u"a.png"_s, {10, 10}, "PNG");
+    EXPECT_EQ(immagini.immagine(file(u"a.png"_s)).width(), 10);
+    disegna(u"a.png"_s, {20, 150}, "PNG");
+    EXPECT_EQ(immagini.immagine(file(u"a.png"_s)).width(), 20);
+    QFile::remove(file(u"a.png"_s));
+    EXPECT_FALSE(immagini.carica(file(u"a.png"_s)));
+}
+
+} // namespace
+
+} // namespace zuvora::prova

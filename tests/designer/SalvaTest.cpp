@@ -1,0 +1,57 @@
+#include "designer/logic/ScritturaLayout.h"
+
+#include "designer/ArchivioLayout.h"
+
+namespace zuvora::prova {
+
+namespace {
+
+// A table that refuses the update of one row, as a full disk or a lock may do half-way.
+class SalvaInterrotto : public ArchivioLayout {
+protected:
+    void SetUp() override {
+        ArchivioLayout::SetUp();
+        righeVuote(u"Layout1"_s);
+        esegui(u"create trigger ferma before update on Layout1 when old.rowid=37 "
+               "begin select raise(abort,'no'); end"_s);
+    }
+    qsizetype righeScritte() {
+        return interroga(u"select 1 from Layout1 where Visibile is not null or rowid in (32,34) and "
+                         "coalesce(PercorsoImmagine,ColoreSfondo) is not null"_s)
+            .size();
+    }
+};
+
+TEST_F(SalvaInterrotto, TellsTheRowReachedKeepsWhatWasWrittenAndCanBeRepeated) {
+    DisplayLayout layout(u"Layout1"_s);
+    const EsitoScrittura esito = SalvaLayout(layout, cartella());
+    EXPECT_FALSE(esito.riuscito());
+    EXPECT_EQ(esito.scritte, 36);
+    EXPECT_EQ(righeScritte(), 36);
+    const Messaggio messaggio = messaggioSalva(esito);
+    EXPECT_TRUE(messaggio.riga0.contains(u"riga 37 di 70")) << messaggio.riga0.toStdString();
+    EXPECT_TRUE(messaggio.riga1.contains(esito.errore));
+    esegui(u"drop trigger ferma"_s);
+    EXPECT_EQ(messaggioSalva(SalvaLayout(layout, cartella())), (Messaggio{u"Memorizzazione effettuata !"_s, {}}));
+    EXPECT_EQ(righeScritte(), righeLayout);
+}
+
+TEST_F(SalvaInterrotto, ARecordSetIsLeftReadyForTheNextSave) {
+    DisplayLayout layout(u"Layout1"_s);
+    Data dato;
+    Recordset &rs = apri(dato, u"Layout1"_s);
+    EXPECT_EQ(scriviLayout(rs, layout).scritte, 36);
+    esegui(u"drop trigger ferma"_s);
+    EXPECT_EQ(scriviLayout(rs, layout).scritte, righeLayout); // from the first row again
+}
+
+TEST_F(SalvaInterrotto, AMissingDatabaseIsAnOutcomeNotAnAccident) {
+    DisplayLayout layout(u"Layout1"_s);
+    const EsitoScrittura esito = SalvaLayout(layout, cartella() + u"/altrove"_s);
+    EXPECT_EQ(esito.scritte, 0);
+    EXPECT_EQ(messaggioSalva(esito).riga0, u"Memorizzazione non effettuata !"_s);
+}
+
+} // namespace
+
+} // namespace zuvora::prova

@@ -1,0 +1,202 @@
+#include "designer/logic/Trascinamento.h"
+#include "designer/logic/TrascinamentoVivo.h"
+
+#include <gtest/gtest.h>
+
+namespace zuvora {
+
+namespace {
+
+using Stato = Trascinamento::Stato;
+
+// A form at 100, 50 on the screen, 1366 x 768 pixels, without a frame.
+const GeometriaForm form{{100, 50}, {100, 50, 1366, 768}, 15, 15};
+
+class Contorno : public ::testing::Test {
+protected:
+    Contorno() { layout[posto].area = {1500, 3000, 1500, 900}; }
+
+    const Area &area() const { return layout[posto].area; }
+    // The press at the middle of the element: 200, 250 to 300, 310 on the screen.
+    void premi() { ASSERT_TRUE(drag.InizioTrascinamento(layout, posto, {250, 280}, form)); }
+    void trascinaManiglia(int maniglia, QPoint a) {
+        premi();
+        drag.MouseUp(layout, Qt::LeftButton, form);
+        ASSERT_TRUE(drag.InizioRidimensionamento(layout, maniglia, form));
+        drag.MouseMove(a, form);
+        drag.MouseUp(layout, Qt::LeftButton, form);
+    }
+
+    DisplayLayout layout{QStringLiteral("Layout1")};
+    int posto = DisplayLayout::postoDi(TipoElemento::IM1);
+    Trascinamento drag;
+};
+
+TEST_F(Contorno, MoveCarriesTheOutlineByTheGripAndTheReleaseTheElement) {
+    premi();
+    EXPECT_EQ(drag.StatoTrascinamento(), Stato::Spostamento);
+    EXPECT_EQ(drag.RettangoloTrascinamento(), CRect(200, 250, 300, 310));
+    EXPECT_TRUE(drag.MouseMove({900, 700}, form));
+    EXPECT_TRUE(drag.MouseMove({260, 270}, form)); // counts from the press
+    EXPECT_EQ(drag.RettangoloTrascinamento(), CRect(210, 240, 310, 300));
+    EXPECT_EQ(area(), (Area{1500, 3000, 1500, 900}));
+    EXPECT_TRUE(drag.MouseUp(layout, Qt::LeftButton, form));
+    EXPECT_EQ(area(), (Area{1650, 2850, 1500, 900}));
+    EXPECT_EQ(drag.RettangoloTrascinamento(), CRect(1650, 2850, 3150, 3750)); // twips now, for the handles
+    EXPECT_TRUE(drag.maniglieVisibili());
+    EXPECT_FALSE(drag.MouseMove({0, 0}, form));
+}
+
+TEST_F(Contorno, CursorStaysWithinTheFormAndTheElementMayLeaveItByItsGrip) {
+    premi();
+    drag.MouseMove({-5000, 5000}, form);
+    EXPECT_EQ(drag.RettangoloTrascinamento(), CRect(50, 787, 150, 847)); // cursor at 100, 817
+    drag.MouseUp(layout, Qt::LeftButton, form);
+    EXPECT_EQ(area(), (Area{-750, 11055, 1500, 900}));
+}
+
+TEST_F(Contorno, EachHandleMovesItsEdgesOnly) {
+    // The cursor goes to 170, 230: beyond the top left corner of 200, 250, 300, 310.
+    struct Caso {
+        int maniglia;
+        CRect attesa;
+    };
+    const std::array casi{Caso{0, {170, 230, 300, 310}}, Caso{1, {200, 230, 300, 310}}, Caso{2, {200, 230, 170, 310}},
+                          Caso{3, {200, 250, 170, 310}}, Caso{4, {200, 250, 170, 230}}, Caso{5, {200, 250, 300, 230}},
+                          Caso{6, {170, 250, 300, 230}}, Caso{7, {170, 250, 300, 310}}};
+    for (const Caso &caso : casi) {
+        Trascinamento d;
+        d.InizioTrascinamento(layout, posto, {250, 280}, form);
+        d.MouseUp(layout, Qt::LeftButton, form);
+        ASSERT_TRUE(d.InizioRidimensionamento(layout, caso.maniglia, form));
+        EXPECT_FALSE(d.maniglieVisibili());
+        d.MouseMove({170, 230}, form);
+        EXPECT_EQ(d.RettangoloTrascinamento(), caso.attesa) << caso.maniglia;
+    }
+}
+
+TEST_F(Contorno, LeftHandleBeyondTheRightEdgeGivesTheDistanceAsWidth) {
+    trascinaManiglia(7, {340, 0});
+    EXPECT_EQ(area(), (Area{3000, 3000, 600, 900}));
+}
+
+TEST_F(Contorno, HandleOnTheOppositeEdgeMakesTheElementFlat) {
+    trascinaManiglia(4, {200, 250});
+    EXPECT_EQ(area(), (Area{1500, 3000, 0, 0}));
+}
+
+TEST_F(Contorno, OnlyTheLeftReleaseEndsADrag) {
+    premi();
+    drag.MouseUp(layout, Qt::LeftButton, form);
+    ASSERT_TRUE(drag.InizioRidimensionamento(layout, 3, form)); // as by the right button
+    EXPECT_FALSE(drag.MouseUp(layout, Qt::RightButton, form));
+    EXPECT_EQ(drag.StatoTrascinamento(), Stato::Ridimensionamento);
+    EXPECT_FALSE(drag.InizioTrascinamento(layout, posto, {250, 280}, form)); // the mouse belongs to the drag
+    EXPECT_FALSE(drag.InizioRidimensionamento(layout, 0, form));
+    drag.MouseMove({320, 280}, form);
+    EXPECT_TRUE(drag.MouseUp(layout, Qt::LeftButton, form));
+    EXPECT_EQ(area().width, 1800);
+}
+
+TEST_F(Contorno, WithoutAnElementThereIsNothingToDrag) {
+    EXPECT_FALSE(drag.InizioRidimensionamento(layout, 0, form));
+    EXPECT_FALSE(drag.MouseUp(layout, Qt::LeftButton, form));
+    drag.MostraManiglie(true);
+    EXPECT_FALSE(drag.maniglieVisibili());
+    for (const TipoElemento tipo : {TipoElemento::Text1, TipoElemento::Tela, TipoElemento::Label2})
+        EXPECT_FALSE(drag.InizioTrascinamento(layout, DisplayLayout::postoDi(tipo), {}, form));
+    EXPECT_FALSE(drag.InizioTrascinamento(layout, -1, {}, form));
+}
+
+TEST_F(Contorno, FormThatMovesDuringADragIsAllowedFor) {
+    premi();
+    GeometriaForm spostata = form;
+    spostata.origine.setX(0); // Esc: the form goes to left 0
+    drag.MouseUp(layout, Qt::LeftButton, spostata);
+    EXPECT_EQ(area(), (Area{3000, 3000, 1500, 900}));
+}
+
+TEST_F(Contorno, GivingUpLeavesTheElementAlone) {
+    premi();
+    drag.MouseMove({700, 300}, form);
+    drag.interrompi();
+    EXPECT_FALSE(drag.inCorso());
+    EXPECT_EQ(area(), (Area{1500, 3000, 1500, 900}));
+    EXPECT_EQ(drag.RettangoloTrascinamento(), CRect(1500, 3000, 3000, 3900));
+}
+
+TEST_F(Contorno, ElementFarOutsideTheCanvasDoesNotOverflow) {
+    layout[posto].area = {3e38, -3e38, 3e38, 0};
+    premi();
+    drag.MouseMove({100, 50}, form);
+    drag.MouseUp(layout, Qt::LeftButton, form);
+    EXPECT_GE(area().width, 0);
+    EXPECT_GE(area().height, 0);
+}
+
+// Height 11520, width 20490.
+constexpr Dimensione tela{20490, 11520};
+
+TEST(RegolaLimiti, EachTargetHasItsOwnSides) {
+    struct Caso {
+        int bersaglio;
+        PuntoTwips posto;
+        bool resta;
+    };
+    constexpr int strumenti = TrascinamentoVivo::strumenti;
+    constexpr std::array casi{
+        Caso{0, {30000, 100}, true},
+        Caso{0, {-5000, 100}, true},
+        Caso{0, {100, -1}, false},
+        Caso{0, {100, 11521}, false},
+        Caso{0, {100, 11520}, true},
+        Caso{0, {0, 0}, true},
+        Caso{1, {100, 30000}, true},
+        Caso{7, {100, -3000}, true},
+        Caso{1, {-1, 100}, false},
+        Caso{7, {20491, 100}, false},
+        Caso{3, {20490, 100}, true},
+        Caso{strumenti, {100, -1}, false},
+        Caso{strumenti, {-1, 100}, false},
+        Caso{strumenti, {20491, 100}, false},
+        Caso{strumenti, {100, 11521}, false},
+        Caso{strumenti, {20490, 11520}, true},
+    };
+    for (const Caso &caso : casi) {
+        const PuntoTwips attesa = caso.resta ? caso.posto : PuntoTwips{};
+        EXPECT_EQ(postoDopoRilascio(caso.bersaglio, caso.posto, tela), attesa)
+            << caso.bersaglio << " a " << caso.posto.left << ", " << caso.posto.top;
+    }
+}
+
+TEST(TrascinamentoDelPannello, FollowsTheMouseFromTheStartAndIsTestedAtAnyRelease) {
+    DisplayLayout layout(QStringLiteral("Layout1"));
+    Area &pannello = layout.elemento(TipoElemento::Pannello1, 2).area;
+    pannello = {1000, 2000, 7005, 6495};
+    TrascinamentoVivo vivo;
+    EXPECT_FALSE(muoviPannello(layout, vivo, 7, {500, 500})); // no press yet
+    vivo.inizia(2, {500, 400}, {pannello.left, pannello.top});
+    EXPECT_TRUE(muoviPannello(layout, vivo, 7, {900, 900}));
+    EXPECT_TRUE(muoviPannello(layout, vivo, 7, {501, 398}));
+    EXPECT_EQ(pannello, (Area{1015, 1970, 7005, 6495}));
+    EXPECT_FALSE(muoviPannello(layout, vivo, 3, {0, 0})); // another panel's label
+    muoviPannello(layout, vivo, 7, {0, 0});
+    EXPECT_TRUE(rilasciaPannello(layout, vivo, 7, tela));
+    EXPECT_EQ(pannello, (Area{0, 0, 7005, 6495}));
+    EXPECT_FALSE(vivo.TrascinamentoAttivo());
+    pannello.left = -30; // left there by the outline drag; any release over a label puts it right
+    EXPECT_TRUE(rilasciaPannello(layout, vivo, 6, tela));
+    EXPECT_EQ(pannello.left, 0);
+}
+
+TEST(TrascinamentoDelPannello, LabelsOfTheBaseLayoutDoNothing) {
+    DisplayLayout base(QStringLiteral("LayoutBase"));
+    base.elemento(TipoElemento::Pannello1, 1).area.left = -30;
+    TrascinamentoVivo vivo;
+    EXPECT_FALSE(rilasciaPannello(base, vivo, 4, tela));
+    EXPECT_EQ(base.elemento(TipoElemento::Pannello1, 1).area.left, -30);
+}
+
+} // namespace
+
+} // namespace zuvora

@@ -1,0 +1,102 @@
+// What a page may not do.
+#include "web/FinestraWeb.h"
+#include "web/ServerProva.h"
+
+#include <QDir>
+#include <QMimeData>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+// Each page tries something and tells in its title what came of it.
+TEST(BloccoWeb, APageGetsNothingFromTheMachine) {
+    struct Caso {
+        const char *script;
+        QString titolo;
+    };
+    const Caso casi[] = {
+        {"titolo(String(window.open('/altra')))", u"null"_s},
+        {"alert('x'); titolo(confirm('x') + ' ' + prompt('x', 'y'))", u"false null"_s},
+        {"fetch('file:///etc/hostname').then(() => titolo('letto'), () => titolo('negato'))", u"negato"_s},
+        {"location.href = 'file:///etc/hostname'; setTimeout(() => titolo('resta'), 50)", u"resta"_s},
+        {"location.href = 'mailto:a@b.example'; setTimeout(() => titolo('resta'), 50)", u"resta"_s},
+        {"location.href = '/zip'; setTimeout(() => titolo('resta'), 200)", u"resta"_s},
+        {"navigator.geolocation.getCurrentPosition(() => titolo('dove'), e => titolo('negato ' + e.code))",
+         u"negato 1"_s},
+        {"Notification.requestPermission().then(titolo)", u"denied"_s},
+        {"navigator.clipboard.readText().then(() => titolo('letto'), () => titolo('negato'))", u"negato"_s},
+        {"navigator.clipboard.writeText('x').then(() => titolo('scritto'), () => titolo('negato'))", u"negato"_s},
+        {"navigator.mediaDevices.getUserMedia({audio: true}).then(() => titolo('ascolta'), () => titolo('negato'))",
+         u"negato"_s},
+    };
+    ServerProva server;
+    server.pagine[u"/zip"_s] = {"PK", "200 OK", "Content-Disposition: attachment; filename=a.zip\r\n"};
+    FinestraWeb finestra;
+    for (const Caso &caso : casi) {
+        server.pagine[u"/prova"_s] = {"<script>function titolo(t) { document.title = t }" + QByteArray(caso.script) +
+                                      "</script>"};
+        EXPECT_TRUE(finestra.apri(server.indirizzo(u"/prova"_s)));
+        EXPECT_TRUE(finestra.attendiTitolo(caso.titolo))
+            << caso.script << ": " << titoloDi(finestra.browser).toStdString();
+        EXPECT_EQ(vistaDi(finestra.browser)->property("url").toUrl().path(), u"/prova"_s) << caso.script;
+    }
+    EXPECT_FALSE(server.chieste.contains(u"/altra"_s));
+}
+
+TEST(BloccoWeb, AFrameShowsNoLocalFile) {
+    ServerProva server;
+    server.pagine[u"/"_s] = {
+        "<iframe src='file:///etc/hostname' onload='document.title = frames[0].location.href'></iframe>"
+        "<script>setTimeout(() => document.title += ' fine', 200)</script>"};
+    FinestraWeb finestra;
+    EXPECT_TRUE(finestra.apri(server.indirizzo(u"/"_s)));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return titoloDi(finestra.browser).endsWith(u"fine"_s); }, Attesa_ms));
+    EXPECT_FALSE(titoloDi(finestra.browser).contains(u"file:"_s)) << titoloDi(finestra.browser).toStdString();
+}
+
+TEST(BloccoWeb, ALinkToADeadServerIsToldAndALinkToAnotherWindowDoesNothing) {
+    ServerProva server;
+    const QByteArray morta = "http://127.0.0.1:" + QByteArray::number(portaChiusa()) + "/";
+    server.pagine[u"/finestra"_s] = {"<a id=a target=_blank href='/altra'>x</a><script>a.click(); setTimeout(() => "
+                                     "document.title = 'resta', 100)</script>"};
+    server.pagine[u"/morta"_s] = {"<script>onload = () => setTimeout(() => location.href = '" + morta +
+                                  "', 50)</script>"};
+    FinestraWeb finestra;
+    EXPECT_TRUE(finestra.apri(server.indirizzo(u"/finestra"_s)));
+    EXPECT_TRUE(finestra.attendiTitolo(u"resta"_s));
+    EXPECT_FALSE(server.chieste.contains(u"/altra"_s));
+    EXPECT_TRUE(finestra.apri(server.indirizzo(u"/morta"_s)));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return finestra.browser.avviso().contains(QString::fromLatin1(morta)); }, Attesa_ms));
+}
+
+TEST(BloccoWeb, NothingOutlivesAPage) {
+    ServerProva server;
+    server.pagine[u"/"_s] = {"<script>document.title = localStorage.x || 'nuova'; localStorage.x = 'vecchia'</script>",
+                             "200 OK", "Set-Cookie: visita=1; Max-Age=99999\r\nCache-Control: max-age=99999\r\n"};
+    FinestraWeb finestra;
+    for (int volta = 0; volta < 2; ++volta) {
+        server.chieste.clear();
+        EXPECT_TRUE(finestra.apri(server.indirizzo(u"/"_s)));
+        EXPECT_TRUE(finestra.attendiTitolo(u"nuova"_s));
+        EXPECT_TRUE(server.chieste.contains(u"/"_s));
+        EXPECT_FALSE(server.chieste[u"/"_s].contains("visita"));
+    }
+    for (const auto dove : {QStandardPaths::AppLocalDataLocation, QStandardPaths::CacheLocation})
+        EXPECT_FALSE(QDir(QStandardPaths::writableLocation(dove) + u"/QtWebEngine"_s).exists());
+}
+
+TEST(BloccoWeb, TheMouseOpensNothing) {
+    ServerProva server;
+    server.pagine[u"/"_s] = {"<title>notizie</title>"};
+    FinestraWeb finestra;
+    ASSERT_TRUE(finestra.apri(server.indirizzo(u"/"_s)));
+    QWidget *vista = vistaDi(finestra.browser);
+    EXPECT_EQ(vista->contextMenuPolicy(), Qt::NoContextMenu);
+    EXPECT_FALSE(vista->acceptDrops());
+}
+
+} // namespace
+} // namespace zuvora
