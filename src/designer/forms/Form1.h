@@ -45,7 +45,7 @@ private:
     void mouseStriscia(Fase fase, const QMouseEvent &evento);
     void mousePresa(Fase fase, const QMouseEvent &evento);
     void premi(int posto, Qt::MouseButton bottone, QPoint cursore);
-    void esegui(Azione azione, int posto, QPoint cursore);
+    void esegui(AzionePressione azione, int posto, QPoint cursore);
     bool prosegui(Fase fase, const QMouseEvent &evento);
     bool inTrascinamento() const { return m_trascinamento.inCorso() || m_vivo.TrascinamentoAttivo(); }
     void iniziaContorno(Qt::CursorShape cursore);

@@ -63,42 +63,42 @@ void Form1::mouseElemento(int posto, Fase fase, const QMouseEvent &evento) {
 }
 
 void Form1::premi(int posto, Qt::MouseButton bottone, QPoint cursore) {
-    for (const Azione azione : azioniPressione(m_layout[posto].tipo, bottone, m_layout.eBase())) {
+    for (const AzionePressione azione : azioniPressione(m_layout[posto].tipo, bottone, m_layout.eBase())) {
         esegui(azione, posto, cursore);
         if (!isVisible())
             return; // closed meanwhile
     }
 }
 
-void Form1::esegui(Azione azione, int posto, QPoint cursore) {
+void Form1::esegui(AzionePressione azione, int posto, QPoint cursore) {
     const LayoutElement &e = m_layout[posto];
     switch (azione) {
-    case Azione::RipristinaDidascalia:
+    case AzionePressione::RipristinaDidascalia:
         return setCaption(m_didascaliaBase);
-    case Azione::TestoDecorazione:
+    case AzionePressione::TestoDecorazione:
         return setCaption(testoStato(m_didascaliaBase, e.indice));
-    case Azione::Seleziona:
+    case AzionePressione::Seleziona:
         m_selezionato = e.nome();
         return;
-    case Azione::Trascina:
+    case AzionePressione::Trascina:
         if (m_trascinamento.InizioTrascinamento(m_layout, posto, cursore, geometria()))
             iniziaContorno(Qt::ArrowCursor);
         return;
-    case Azione::TrascinaPannello: {
+    case AzionePressione::TrascinaPannello: {
         const Area &pannello = m_layout.elemento(TipoElemento::Pannello1, e.indice / 3).area;
         return m_vivo.inizia(e.indice / 3, cursore, {pannello.left, pannello.top});
     }
-    case Azione::Lampo:
+    case AzionePressione::Lampo:
         return lampo(posto);
-    case Azione::ApriForm2:
+    case AzionePressione::ApriForm2:
         return apriForm2(posto);
-    case Azione::ApriDecorazione:
+    case AzionePressione::ApriDecorazione:
         return apriDecorazione(e.indice);
-    case Azione::ApriAnteprimaTG:
+    case AzionePressione::ApriAnteprimaTG:
         return apriAnteprimaTG();
-    case Azione::MenuChiudi:
+    case AzionePressione::MenuChiudi:
         return M2.popup(cursore);
-    case Azione::NascondiManiglie:
+    case AzionePressione::NascondiManiglie:
         return MostraManiglie(false);
     }
 }
