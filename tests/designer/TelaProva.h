@@ -11,19 +11,55 @@
 
 namespace zuvora {
 
-// An open designer on a layout of a fresh installation, shown without waiting for its closing.
+// A layout of known places, whatever the installation brings: four panels, texts, three boxes, a background. Rows are
+// told by DescCampo, which holds the element's name.
+inline QStringList layoutNoto(const QString &tabella, const QString &cartella) {
+    struct PostoNoto {
+        const char *elemento;
+        Area area;
+    };
+    static constexpr PostoNoto posti[] = {
+        {"Text9(0)", {300, 135, 16500, 900}},      {"Text9(1)", {300, 1020, 16500, 480}},
+        {"Text9(2)", {16950, 555, 7650, 540}},     {"Text9(3)", {24900, 150, 3750, 1350}},
+        {"IM1", {14460, 1650, 14190, 7980}},       {"WB1", {14460, 9735, 6765, 5055}},
+        {"MP1", {21375, 9735, 7275, 5055}},        {"Text2", {0, 14940, 28800, 1110}},
+        {"Pannello1(0)", {150, 1650, 7005, 6495}}, {"Pannello1(1)", {7305, 1650, 7005, 6495}},
+        {"Pannello1(2)", {150, 8295, 7005, 6495}}, {"Pannello1(3)", {7305, 8295, 7005, 6495}},
+    };
+    const QString aggiorna = QStringLiteral("UPDATE %1 SET ").arg(tabella);
+    const DisplayLayout iniziale(tabella);
+    QStringList sql{QStringLiteral("BEGIN")};
+    for (int i = 0; i < righeLayout; ++i)
+        sql << aggiorna + QStringLiteral("DescCampo='%1', testo='%2' WHERE rowid=(SELECT min(rowid) FROM %3)+%4")
+                              .arg(iniziale[i].nome(), iniziale[i].didascalia, tabella)
+                              .arg(i);
+    sql << aggiorna + QStringLiteral("Visibile=DescCampo LIKE 'Text1(%', FontBold=0, \"left\"=0, \"top\"=18000, "
+                                     "Altezza=1305, Larghezza=1905, ColoreSfondo=12632256, PercorsoImmagine=CASE "
+                                     "DescCampo WHEN 'Label2' THEN '%1/ZuvoraSfondiHD/FH_grigio_8post_.jpg' END")
+                          .arg(cartella);
+    for (const PostoNoto &p : posti)
+        sql << aggiorna +
+                   QStringLiteral("Visibile=1, \"left\"=%1, \"top\"=%2, Larghezza=%3, Altezza=%4 WHERE DescCampo='%5'")
+                       .arg(p.area.left)
+                       .arg(p.area.top)
+                       .arg(p.area.width)
+                       .arg(p.area.height)
+                       .arg(QLatin1String(p.elemento));
+    return sql << QStringLiteral("COMMIT");
+}
+
+// An open designer on a layout of known places in a fresh installation, shown without waiting for its closing.
 class TelaProva {
 public:
-    explicit TelaProva(const QString &tabella = QStringLiteral("Layout1"), int risoluzione = 3) : layout(tabella) {
-        apriForm(risoluzione);
-    }
-    // The layout is read by the constructor of the form's test only after `sql` has changed the tables.
-    TelaProva(const QString &tabella, const QStringList &sql, ApritoriTela apritori_ = {}, int risoluzione = 3)
+    // `sql` runs before the layout is read.
+    explicit TelaProva(const QString &tabella = QStringLiteral("Layout1"), const QStringList &sql = {},
+                       ApritoriTela apritori_ = {}, int risoluzione = 3)
         : layout(tabella), apritori(std::move(apritori_)) {
-        for (const QString &istruzione : sql)
-            installazione.esegui(istruzione);
+        installazione.esegui((layoutNoto(tabella, installazione.cartella()) + sql).join(u';'));
         apriForm(risoluzione);
     }
+    // The installation's own layout.
+    TelaProva(const QString &tabella, int risoluzione) : layout(tabella) { apriForm(risoluzione); }
 
     InstallazioneProva installazione;
     DisplayLayout layout;

@@ -59,7 +59,7 @@ QStringList spenti(QWidget &form) {
 // All on the canvas, nothing over anything else's middle.
 const QStringList tuttiVisibili{
     u"UPDATE Layout1 SET Visibile=1"_s,
-    u"UPDATE Layout1 SET Visibile=0 WHERE DescCampo LIKE 'Decorazione%' OR DescCampo LIKE 'Riquadro%'"_s};
+    u"UPDATE Layout1 SET Visibile=0 WHERE DescCampo LIKE 'Image1%' OR DescCampo IN ('IM1','MP1','WB2','YT','WB1','LeNews')"_s};
 
 class Pagine : public testing::TestWithParam<std::size_t> {};
 
@@ -165,7 +165,7 @@ TEST(Lampo, ChiApreUnaFinestraSiSpegneUnMomento) {
         return std::nullopt;
     };
     TelaProva tela(u"Layout1"_s,
-                   {u"UPDATE Layout1 SET Visibile=1, \"left\"=6000, \"top\"=2000 WHERE DescCampo='Decorazione 5'"_s},
+                   {u"UPDATE Layout1 SET Visibile=1, \"left\"=6000, \"top\"=2000 WHERE DescCampo='Image1(5)'"_s},
                    apritori);
     for (const CasoLampo caso : {CasoLampo{"Text9(1)", 1}, CasoLampo{"Pannello1(1)", 0}, CasoLampo{"Image1(5)", 1},
                                  CasoLampo{"WB1", 1}, CasoLampo{"MP1", 0}}) {
@@ -261,9 +261,7 @@ TEST(Apritori, LoSfondoCambiaMentreLaSuaFinestraEAperta) {
 }
 
 TEST(Apritori, ChiMancaLoDice) {
-    TelaProva tela(
-        u"Layout1"_s,
-        {u"UPDATE Layout1 SET Visibile=1, \"left\"=0, \"top\"=0 WHERE DescCampo='Riquadro notizie online'"_s});
+    TelaProva tela(u"Layout1"_s, {u"UPDATE Layout1 SET Visibile=1, \"left\"=0, \"top\"=0 WHERE DescCampo='WB2'"_s});
     QString righe;
     for (int i = 0; i < 2; ++i) {
         Guida guida;

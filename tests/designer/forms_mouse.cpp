@@ -42,7 +42,7 @@ TEST(Contorno, LElementoSaltaAlRilascioEPrendeLeManiglie) {
 // The outline must show on any ground, middle grey too, over the toolbox too, and leave no trace.
 TEST(Contorno, SiVedeSuOgniFondoENonLasciaTracce) {
     TelaProva tela(u"Layout1"_s, {u"UPDATE Layout1 SET PercorsoImmagine=NULL, Visibile=0, ColoreSfondo=8421504"_s,
-                                  u"UPDATE Layout1 SET Visibile=1 WHERE DescCampo='Riquadro video'"_s});
+                                  u"UPDATE Layout1 SET Visibile=1 WHERE DescCampo='MP1'"_s});
     const QImage prima = tela.form->grab().toImage();
     const QRect video = tela.rettangolo("MP1");
     const QPoint presa = video.center();
@@ -212,8 +212,8 @@ TEST(Tastiera, CancToglieLUltimoSelezionato) {
 
 // In the base layout only the decorations can be taken; panels open their properties.
 TEST(LayoutBase, ChePochiRispondono) {
-    TelaProva tela(u"LayoutBase"_s, {u"UPDATE LayoutBase SET Visibile=1, \"left\"=6000, \"top\"=2000 "
-                                     "WHERE DescCampo='Decorazione 5'"_s});
+    TelaProva tela(u"LayoutBase"_s, {u"UPDATE LayoutBase SET Visibile=1, FontBold=1, \"left\"=6000, \"top\"=2000 "
+                                     "WHERE DescCampo='Image1(5)'"_s});
     const DisplayLayout prima = tela.layout;
     for (const char *nome : {"Text1(4)", "Text9(1)", "Text2", "IM1", "WB1", "MP1", "Pannello1(1)"}) {
         QWidget &w = tela.w(nome);

@@ -121,7 +121,8 @@ void BarraStrumenti::mostraDidascalia(const QString &testo) {
 void BarraStrumenti::disponiDidascalia() {
     const QSize serve = m_didascalia->sizeHint();
     const int sopra = y() - Distacco - serve.height();
-    m_didascalia->setGeometry({{std::max(0, x()), sopra >= 0 ? sopra : y() + height() + Distacco}, serve});
+    const int sinistra = std::clamp(x(), 0, std::max(0, parentWidget()->width() - serve.width()));
+    m_didascalia->setGeometry({{sinistra, sopra >= 0 ? sopra : y() + height() + Distacco}, serve});
 }
 
 void BarraStrumenti::impila(QWidget *sopra) {
