@@ -2,6 +2,9 @@
 
 #include "web/VistaQtWeb.h"
 
+#include <QDir>
+#include <QFile>
+#include <QLibraryInfo>
 #include <QLoggingCategory>
 #include <QQuickWindow>
 
@@ -21,7 +24,12 @@ FabbricaQtWeb::FabbricaQtWeb() {
     QLoggingCategory::setFilterRules(u"qt.webenginecontext=false"_s); // a page of settings at each start
 }
 
+// Without the program that draws the pages the engine would end ours.
 std::unique_ptr<VistaWeb> FabbricaQtWeb::crea(QWidget *padre) {
+    const QString dato = qEnvironmentVariable("QTWEBENGINEPROCESS_PATH");
+    const QDir programmi(QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath));
+    if (!QFile::exists(dato.isEmpty() ? programmi.filePath(u"QtWebEngineProcess"_s) : dato))
+        return nullptr;
     return std::make_unique<VistaQtWeb>(padre);
 }
 

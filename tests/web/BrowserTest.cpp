@@ -176,6 +176,11 @@ TEST(BrowserWeb, WithoutAUsableComponentSaysSo) {
     guasto.close();
     EXPECT_FALSE(senza.apri(u"http://127.0.0.1/"_s));
     EXPECT_TRUE(senza.browser.avviso().contains(u"non può essere caricato"_s));
+    qputenv("QTWEBENGINEPROCESS_PATH", "/nessuno");
+    FinestraWeb monca;
+    EXPECT_FALSE(monca.apri(u"http://127.0.0.1/"_s));
+    qunsetenv("QTWEBENGINEPROCESS_PATH");
+    EXPECT_TRUE(monca.browser.avviso().contains(u"non è installato per intero"_s));
 }
 
 } // namespace

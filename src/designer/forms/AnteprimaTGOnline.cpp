@@ -32,6 +32,7 @@ AnteprimaTGOnline::AnteprimaTGOnline(const Ambiente &ambiente_, const Dimensione
     m_finestra->setFrameStyle(QFrame::NoFrame);
     m_finestra->setFocusPolicy(Qt::NoFocus);
     m_finestra->setWidget(m_piano);
+    Label1.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     A1.setAccessibleName(u"Larghezza"_s);
     A2.setAccessibleName(u"Altezza"_s);
     for (Edit *casella : {&A1, &A2})

@@ -38,7 +38,7 @@ public:
     auto begin() const { return m_elementi.begin(); }
     auto end() const { return m_elementi.end(); }
 
-    // The element of a kind; `indice` as in its name (0 for single elements, decorations from 1).
+    // The element of a kind, which must exist; `indice` as in its name (0 for single elements, decorations from 1).
     LayoutElement &elemento(TipoElemento tipo, int indice = 0);
     const LayoutElement &elemento(TipoElemento tipo, int indice = 0) const;
     // The number of an element, -1 when there is none. By name as in "Text1(5)" and "WB1".

@@ -1,7 +1,8 @@
 #include "designer/logic/ImmaginiQt.h"
 
+#include "shell/immagini/LetturaImmagine.h"
+
 #include <QFileInfo>
-#include <QImageReader>
 
 namespace zuvora {
 
@@ -25,26 +26,10 @@ QImage ImmaginiQt::immagine(const QString &percorso) {
     if (const Voce *voce = m_decodificate.object(percorso);
         voce && voce->modifica == modifica && voce->byte == file.size())
         return voce->immagine;
-    const QImage nuova = decodifica(percorso);
+    const QImage nuova = leggiImmagine(percorso, m_massimo);
     if (!nuova.isNull())
         m_decodificate.insert(percorso, new Voce{nuova, modifica, file.size()}, nuova.sizeInBytes() / 1024 + 1);
     return nuova;
-}
-
-QImage ImmaginiQt::decodifica(const QString &percorso) const {
-    QImageReader lettore(percorso);
-    lettore.setDecideFormatFromContent(true);
-    const auto troppoGrande = [this](QSize misura) { return misura != misura.boundedTo(m_massimo); };
-    const auto ridotta = [this](QSize misura) {
-        return misura.scaled(m_massimo, Qt::KeepAspectRatio).expandedTo({1, 1});
-    };
-    // A large photo would not fit the decoder's memory limit at its full size.
-    if (const QSize misura = lettore.size(); misura.isValid() && troppoGrande(misura))
-        lettore.setScaledSize(ridotta(misura));
-    const QImage letta = lettore.read();
-    if (!letta.isNull() && troppoGrande(letta.size())) // a format that doesn't tell its size before decoding
-        return letta.scaled(ridotta(letta.size()), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    return letta;
 }
 
 } // namespace zuvora

@@ -27,7 +27,6 @@ private:
         QDateTime modifica;
         qint64 byte = 0;
     };
-    QImage decodifica(const QString &percorso) const;
 
     QSize m_massimo;
     QCache<QString, Voce> m_decodificate; // cost in KiB

@@ -15,6 +15,7 @@ namespace zuvora {
 namespace {
 
 constexpr int MassimoIndirizzo = 300; // characters shown of an address
+constexpr int MargineAvviso = 12;     // pixels
 
 QString perLaLettura(const QString &indirizzo) {
     return indirizzo.size() <= MassimoIndirizzo ? indirizzo : indirizzo.left(MassimoIndirizzo) + u'…';
@@ -55,6 +56,7 @@ Browser::Browser(QWidget *padre, const char *nome, const Posto &posto, const Pia
     m_avviso->setReadOnly(true);
     m_avviso->setFrameStyle(QFrame::NoFrame);
     m_avviso->setTabChangesFocus(true);
+    m_avviso->document()->setDocumentMargin(MargineAvviso);
     m_avviso->setAccessibleName(u"Avviso"_s);
     m_avviso->viewport()->installEventFilter(this);
     m_pila->setSizeConstraint(QLayout::SetNoConstraint);

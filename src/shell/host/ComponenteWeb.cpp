@@ -54,7 +54,10 @@ EsitoComponenteWeb creaVistaWeb(const QString &cartella, QWidget *padre) {
     if (fabbrica == nullptr)
         return senza(u"il componente %1 non può essere caricato.\n\n(%2)"_s.arg(QDir::toNativeSeparators(file),
                                                                                 caricatore.errorString()));
-    return {fabbrica->crea(padre), {}};
+    auto vista = fabbrica->crea(padre);
+    if (vista == nullptr)
+        return senza(u"il motore delle pagine web (Qt WebEngine) non è installato per intero."_s);
+    return {std::move(vista), {}};
 }
 
 } // namespace zuvora

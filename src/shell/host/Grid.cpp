@@ -121,6 +121,10 @@ int Grid::Row() const {
     return currentIndex().row();
 }
 
+void Grid::seleziona(int riga) {
+    setCurrentIndex(m_modello->index(riga, 0));
+}
+
 QString Grid::testo(int riga, int colonna) const {
     return m_modello->testo(riga, colonna);
 }

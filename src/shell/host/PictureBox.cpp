@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
+#include <QTextOption>
 
 namespace zuvora {
 
@@ -24,6 +25,12 @@ void PictureBox::setImmagine(const QPixmap &immagine) {
     update();
 }
 
+void PictureBox::setTesto(const QString &testo) {
+    m_testo = testo;
+    setAccessibleDescription(testo);
+    update();
+}
+
 void PictureBox::rendiCliccabile(const QString &nomeAccessibile) {
     m_cliccabile = true;
     setCursor(Qt::PointingHandCursor);
@@ -39,11 +46,25 @@ void PictureBox::paintEvent(QPaintEvent *) {
         dipingi(pittore, *m_disegno, rect());
     else if (!m_immagine.isNull())
         pittore.drawPixmap(rect(), m_immagine);
+    else
+        dipingiTesto(pittore);
+    if (m_cornice && vuota()) {
+        pittore.setPen(palette().color(QPalette::Mid));
+        pittore.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
     if (!hasFocus())
         return;
     QStyleOptionFocusRect opzione;
     opzione.initFrom(this);
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &opzione, &pittore, this);
+}
+
+void PictureBox::dipingiTesto(QPainter &pittore) const {
+    constexpr int Margine = 8; // pixels
+    QTextOption opzioni(Qt::AlignCenter);
+    opzioni.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere); // names of files have no blanks
+    pittore.setPen(palette().color(QPalette::PlaceholderText));
+    pittore.drawText(QRectF(rect()).adjusted(Margine, Margine, -Margine, -Margine), m_testo, opzioni);
 }
 
 void PictureBox::mouseReleaseEvent(QMouseEvent *e) {

@@ -18,9 +18,14 @@ public:
 
     void setDisegno(Disegno disegno);
     void setImmagine(const QPixmap &immagine); // a null one clears the picture
+    void setTesto(const QString &testo);       // stands in the control while there is no picture
+    const QString &testo() const { return m_testo; }
     bool vuota() const { return !m_disegno && m_immagine.isNull(); }
     // A picture that is clicked: it takes the hand cursor and the keyboard focus.
     void rendiCliccabile(const QString &nomeAccessibile);
+
+protected:
+    void setCornice(bool cornice) { m_cornice = cornice; } // a frame while there is no picture
 
 Q_SIGNALS:
     void clicked();
@@ -31,9 +36,13 @@ protected:
     void keyPressEvent(QKeyEvent *e) override;
 
 private:
+    void dipingiTesto(QPainter &pittore) const;
+
+    QString m_testo;
     std::optional<Disegno> m_disegno;
     QPixmap m_immagine;
     bool m_cliccabile = false;
+    bool m_cornice = false;
 };
 
 } // namespace zuvora

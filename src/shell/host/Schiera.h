@@ -35,6 +35,12 @@ public:
             aggiungi(i, crea(i, nomeCon(nome, i).constData()));
     }
 
+    // An array whose indices stand in a table.
+    template <class Indici, class F> Schiera(const char *nome, const Indici &indici, F crea) {
+        for (const int i : indici)
+            aggiungi(i, crea(i, nomeCon(nome, i).constData()));
+    }
+
     C &operator()(int indice) const {
         for (const Membro &m : m_membri)
             if (m.indice == indice)

@@ -40,7 +40,7 @@ public:
 class FabbricaVistaWeb {
 public:
     virtual ~FabbricaVistaWeb() = default;
-    virtual std::unique_ptr<VistaWeb> crea(QWidget *padre) = 0;
+    virtual std::unique_ptr<VistaWeb> crea(QWidget *padre) = 0; // null where the web engine isn't installed whole
 };
 
 } // namespace zuvora

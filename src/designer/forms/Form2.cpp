@@ -1,0 +1,121 @@
+#include "designer/forms/Form2.h"
+
+#include "designer/logic/NumeriSingoli.h"
+#include "shell/host/Dialoghi.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr Misura Interno{5925, 4290};
+constexpr int BarraTitolo = 480; // twips of frame and title bar in the pages' heights
+constexpr int MassimoTesto = 50; // characters
+constexpr int SenzaRadio = -1;
+
+constexpr std::array PostiFE1{Posto{600, 240, 3495, 285}, Posto{4080, 240, 735, 285}, Posto{1320, 1440, 2175, 285},
+                              Posto{1320, 1800, 2175, 285}};
+constexpr std::array<QStringView, 4> NomiFE1{u"Nome del font", u"Dimensione del font", u"Colore Sfondo",
+                                             u"Colore Testo"};
+
+QFont fontTitolo() {
+    QFont font(u"Palatino Linotype"_s);
+    font.setStyleHint(QFont::Serif);
+    font.setPointSizeF(21.75);
+    return font;
+}
+
+} // namespace
+
+Form2::Form2(const Ambiente &ambiente_, DisplayLayout &layout, int posto, std::function<void()> applicata,
+             QWidget *padre)
+    : Form(ambiente_, "Form2", "Impostazioni Elementi", Interno, padre), m_layout(layout),
+      m_classe(classeDi(layout[posto]).value()), m_applicata(std::move(applicata)),
+      FE1("FE1", 0, 3,
+          [this](int i, const char *nome) { return std::make_unique<Edit>(&box1, nome, PostiFE1[std::size_t(i)]); }),
+      CP1(&box1, "CP1", {3600, 1400, 1695, 375}, ambiente().dialoghi),
+      CP2(&box1, "CP2", {3600, 1760, 1695, 375}, ambiente().dialoghi) {
+    for (const auto &[i, campo] : FE1) {
+        campo->setReadOnly(true);
+        campo->setAccessibleName(NomiFE1[std::size_t(i)].toString());
+    }
+    PB1_0.setAccessibleName(u"Scegli il font"_s);
+    CP1.setAccessibleName(u"Scegli il colore dello sfondo"_s);
+    CP2.setAccessibleName(u"Scegli il colore del testo"_s);
+    Testo999.setMaxLength(MassimoTesto);
+    Label4.hide();
+    for (const auto &[i, etichetta] : Label2)
+        etichetta->setAlignment(Qt::AlignLeft | Qt::AlignVCenter); // in line with the fields
+    Label1.setFontBase(fontTitolo());
+    disponi(paginaClasse(m_classe));
+    riempi(riempiCampi(m_layout, posto));
+    alClic(PB1_0, [this] { scegliFont(); });
+    quando(CP1, &ColorPicker::scelto, [this] { FE1(2).setText(QString::number(CP1.Colore())); });
+    quando(CP2, &ColorPicker::scelto, [this] { FE1(3).setText(QString::number(CP2.Colore())); });
+    alClic(Btn(0), [this] { applica(); });
+    alClic(Btn(1), [this] { scarica(); });
+}
+
+void Form2::disponi(const PaginaClasse &pagina) {
+    Label1.setCaption(pagina.titolo.toString());
+    if (pagina.altezza > 0)
+        setMisuraInterna({Interno.width, pagina.altezza - BarraTitolo});
+    Label2(6).setEnabled(pagina.testo);
+    Testo999.setEnabled(pagina.testo);
+    for (const QStringView nome : pagina.disabilitati)
+        box1.findChild<QWidget *>(nome.toString())->setEnabled(false);
+    if (PB1_0.isEnabled())
+        PB1_0.setFocus();
+    else
+        CP1.setFocus();
+}
+
+void Form2::riempi(const CampiForm2 &campi) {
+    for (const auto &[i, campo] : FE1)
+        campo->setText(campi.FE1[std::size_t(i)]);
+    CB1(0).setChecked(campi.grassetto);
+    CB1(1).setChecked(campi.corsivo);
+    CB2.setChecked(campi.trasparente);
+    if (campi.RB1 != SenzaRadio)
+        RB1(campi.RB1).setChecked(true);
+    Testo999.setText(campi.Testo999);
+    Label4.setCaption(testoNumero(campi.Label4));
+}
+
+CampiForm2 Form2::campi() const {
+    CampiForm2 campi;
+    for (const auto &[i, campo] : FE1)
+        campi.FE1[std::size_t(i)] = campo->text();
+    campi.grassetto = CB1(0).isChecked();
+    campi.corsivo = CB1(1).isChecked();
+    campi.trasparente = CB2.isChecked();
+    campi.RB1 = SenzaRadio;
+    for (const auto &[i, bottone] : RB1)
+        if (bottone->isChecked())
+            campi.RB1 = i;
+    campi.Testo999 = Testo999.text();
+    campi.Label4 = numeroDa(Label4.Caption()).value_or(0);
+    return campi;
+}
+
+void Form2::attivata() {
+    CP1.setColore(FE1(2).text().toInt());
+    CP2.setColore(FE1(3).text().toInt());
+}
+
+void Form2::scegliFont() {
+    const auto scelto = ambiente().dialoghi.scegliFont(this);
+    if (!scelto)
+        return;
+    FE1(0).setText(scelto->nome);
+    FE1(1).setText(testoNumero(scelto->misura));
+    CB1(0).setChecked(scelto->grassetto);
+    CB1(1).setChecked(scelto->italico);
+}
+
+void Form2::applica() {
+    if (applicaClasse(m_layout, m_classe, campi()))
+        m_applicata();
+}
+
+} // namespace zuvora

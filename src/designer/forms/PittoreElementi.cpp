@@ -1,0 +1,195 @@
+#include "designer/forms/PittoreElementi.h"
+
+#include "designer/forms/ImmaginiTela.h"
+#include "shell/disegni/Disegni.h"
+#include "shell/disegni/Tavolozza.h"
+#include "shell/host/ColorPicker.h"
+#include "shell/host/Twips.h"
+
+#include <QFileInfo>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr double Lontano = 15000; // pixels: nothing is painted beyond, the painter's own range is not much larger
+constexpr qint64 CopiaMassima = 16'000'000; // pixels of a stretched picture that is kept
+constexpr double PuntiMinimi = 1;
+constexpr double PuntiMassimi = 2160;
+
+int pixelLontano(double twips) {
+    return static_cast<int>(std::lround(std::clamp(twips / TwipsPerPixel, -Lontano, Lontano)));
+}
+
+Qt::Alignment allineamentoQt(Allineamento a) {
+    switch (a) {
+    case Allineamento::Destra:
+        return Qt::AlignRight;
+    case Allineamento::Centro:
+        return Qt::AlignHCenter;
+    case Allineamento::Sinistra:
+        break;
+    }
+    return Qt::AlignLeft;
+}
+
+void etichetta(QPainter &p, const LayoutElement &e, const QRect &r, bool trasparente) {
+    if (r.isEmpty())
+        return;
+    if (!trasparente)
+        p.fillRect(r, coloreDa(e.coloreSfondo));
+    if (e.didascalia.isEmpty())
+        return;
+    p.save();
+    p.setClipRect(r, Qt::IntersectClip);
+    p.setFont(fontTela(e.font));
+    p.setPen(coloreDa(e.coloreTesto));
+    // The ticker runs in one line, the labels wrap in their place.
+    const int capo = e.tipo == TipoElemento::Text2 ? Qt::TextSingleLine : Qt::TextWordWrap;
+    p.drawText(r, int(allineamentoQt(e.allineamento) | Qt::AlignTop) | capo | Qt::TextExpandTabs, e.didascalia);
+    p.restore();
+}
+
+// The edge of a box that stands out of the canvas.
+void rilievo(QPainter &p, const QRect &r, const QColor &colore) {
+    constexpr int Bordo = 2;
+    p.fillRect(r, colore);
+    if (r.width() <= 2 * Bordo || r.height() <= 2 * Bordo)
+        return;
+    const QColor luce(255, 255, 255, 140);
+    const QColor ombra(0, 0, 0, 90);
+    p.fillRect(QRect(r.left(), r.top(), r.width(), Bordo), luce);
+    p.fillRect(QRect(r.left(), r.top() + Bordo, Bordo, r.height() - Bordo), luce);
+    p.fillRect(QRect(r.left(), r.bottom() - Bordo + 1, r.width(), Bordo), ombra);
+    p.fillRect(QRect(r.right() - Bordo + 1, r.top(), Bordo, r.height() - Bordo), ombra);
+}
+
+// In place of a picture: what is to be seen there. Readable on any ground.
+void sagoma(QPainter &p, const QRect &r, std::optional<Disegno> segno, const QString &testo) {
+    if (r.width() < 4 || r.height() < 4)
+        return;
+    p.save();
+    p.setClipRect(r, Qt::IntersectClip);
+    if (segno)
+        p.fillRect(r, QColor(255, 255, 255, 190));
+    p.setPen(QPen(tavolozza::bianco, 1));
+    p.drawRect(r.adjusted(0, 0, -1, -1));
+    p.setPen(QPen(segno ? tavolozza::pericolo : tavolozza::testoTenue, 1, Qt::DashLine));
+    p.drawRect(r.adjusted(0, 0, -1, -1));
+    const int lato = segno ? std::clamp(std::min(r.width(), r.height()) / 3, 0, 48) : 0;
+    QFont font(u"Tahoma"_s);
+    font.setPixelSize(13);
+    font.setStyleHint(QFont::SansSerif);
+    p.setFont(font);
+    const int riga = p.fontMetrics().height();
+    const int alto = r.center().y() - (lato + riga) / 2;
+    if (segno)
+        dipingi(p, *segno, QRectF(r.center().x() - lato / 2.0, alto, lato, lato));
+    const QString breve = p.fontMetrics().elidedText(testo, Qt::ElideMiddle, r.width() - 6);
+    p.setPen(tavolozza::testo);
+    if (segno)
+        p.drawText(QRect(r.left(), alto + lato, r.width(), riga), Qt::AlignCenter | Qt::TextSingleLine, breve);
+    p.restore();
+}
+
+std::optional<Segnaposto> segnapostoDi(TipoElemento tipo) {
+    switch (tipo) {
+    case TipoElemento::IM1:
+        return Segnaposto::IM1;
+    case TipoElemento::MP1:
+        return Segnaposto::MP1;
+    case TipoElemento::WB1:
+        return Segnaposto::WB1;
+    case TipoElemento::WB2:
+        return Segnaposto::WB2;
+    case TipoElemento::LeNews:
+        return Segnaposto::LeNews;
+    case TipoElemento::YT:
+        return Segnaposto::YT;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+QRect rettangoloTela(const Area &a) {
+    const int x = pixelLontano(a.left);
+    const int y = pixelLontano(a.top);
+    return {x, y, std::max(0, pixelLontano(a.left + a.width) - x), std::max(0, pixelLontano(a.top + a.height) - y)};
+}
+
+QFont fontTela(const Carattere &c) {
+    QFont font(c.nome);
+    font.setStyleHint(QFont::SansSerif);
+    font.setPointSizeF(std::clamp(c.dimensione, PuntiMinimi, PuntiMassimi));
+    font.setBold(c.grassetto);
+    font.setItalic(c.corsivo);
+    return font;
+}
+
+void PittoreElementi::fondo(QPainter &p, const QRect &tela) const {
+    const LayoutElement &e = m_layout.tela();
+    p.fillRect(tela, coloreDa(e.coloreSfondo));
+    stendi(p, e.immagine, tela);
+}
+
+void PittoreElementi::elemento(QPainter &p, int posto) const {
+    const LayoutElement &e = m_layout[posto];
+    const QRect r = rettangoloTela(e.area);
+    if (!e.visibile || r.isEmpty())
+        return;
+    switch (e.tipo) {
+    case TipoElemento::Pannello1:
+        return pannello(p, e, r);
+    case TipoElemento::Image1:
+        return decorazione(p, e, r);
+    case TipoElemento::Text2:
+        return etichetta(p, e, r, false);
+    case TipoElemento::Text9:
+        return etichetta(p, e, r, e.trasparente);
+    default:
+        if (const auto segnaposto = segnapostoDi(e.tipo))
+            dipingiSegnaposto(p, *segnaposto, r);
+    }
+}
+
+void PittoreElementi::pannello(QPainter &p, const LayoutElement &e, const QRect &r) const {
+    rilievo(p, r, coloreDa(e.coloreSfondo));
+    p.save();
+    p.setClipRect(r, Qt::IntersectClip);
+    const int primo = DisplayLayout::postoDi(TipoElemento::Text1, 3 * e.indice);
+    for (int posto = primo; posto < primo + 3; ++posto)
+        if (const LayoutElement &testo = m_layout[posto]; testo.visibile)
+            etichetta(p, testo, rettangoloTela(m_layout.areaSullaTela(posto)), testo.trasparente);
+    p.restore();
+}
+
+void PittoreElementi::decorazione(QPainter &p, const LayoutElement &e, const QRect &r) const {
+    if (e.immagine.isEmpty() && !e.immagineMancante) {
+        sagoma(p, r, std::nullopt, {}); // without a picture the display shows nothing: only the place is marked
+        return;
+    }
+    if (e.immagineMancante || !stendi(p, e.immagine, r))
+        sagoma(p, r, Disegno::FileImmagine, QFileInfo(QString(e.immagine).replace(u'\\', u'/')).fileName());
+}
+
+bool PittoreElementi::stendi(QPainter &p, const QString &percorso, const QRect &r) const {
+    const qreal scala = p.device()->devicePixelRatioF();
+    const QSize pixel(qRound(r.width() * scala), qRound(r.height() * scala));
+    if (qint64(pixel.width()) * pixel.height() > CopiaMassima) {
+        const QImage immagine = m_immagini.intera(percorso);
+        p.setRenderHint(QPainter::SmoothPixmapTransform);
+        p.drawImage(r, immagine);
+        return !immagine.isNull();
+    }
+    const QImage immagine = m_immagini.stirata(percorso, pixel);
+    p.drawImage(r, immagine);
+    return !immagine.isNull();
+}
+
+} // namespace zuvora

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "designer/logic/DisplayLayout.h"
+
+#include <QColor>
+#include <QFont>
+#include <QRect>
+
+class QPainter;
+
+namespace zuvora {
+
+class ImmaginiTela;
+
+// A place on the canvas in pixels. Edges are rounded, not sizes; what lies far outside is cut short.
+QRect rettangoloTela(const Area &a);
+// The font of an element as the call display shows it: 20 twips to the point, whatever the screen's own resolution.
+// For paint devices of 96 dots per inch.
+QFont fontTela(const Carattere &c);
+
+inline constexpr double PuntiPerPollice = 96; // of the canvas: 1440 twips at 15 to the pixel
+
+// Paints the elements as the call display will show them, boxes as placeholders.
+class PittoreElementi {
+public:
+    PittoreElementi(const DisplayLayout &layout, ImmaginiTela &immagini) : m_layout(layout), m_immagini(immagini) {}
+
+    // The ground: screen colour and background picture. `tela` is the whole canvas.
+    void fondo(QPainter &p, const QRect &tela) const;
+    // An element of the canvas, a panel with its labels; invisible ones aren't painted.
+    void elemento(QPainter &p, int posto) const;
+
+private:
+    void pannello(QPainter &p, const LayoutElement &e, const QRect &r) const;
+    void decorazione(QPainter &p, const LayoutElement &e, const QRect &r) const;
+    bool stendi(QPainter &p, const QString &percorso, const QRect &r) const;
+
+    const DisplayLayout &m_layout;
+    ImmaginiTela &m_immagini;
+};
+
+} // namespace zuvora

@@ -1,0 +1,59 @@
+#include "library/forms/ImpostaCornice.h"
+
+#include "library/forms/ImmagineIllegibile.h"
+#include "library/logic/Decorazioni.h"
+#include "shell/forms/MsgForm.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+
+ImpostaCornice::ImpostaCornice(const Ambiente &ambiente_, int i, QWidget *padre)
+    : Form(ambiente_, "ImpostaCornice", "Imposta Cornice", {8970, 6480}, padre) {
+    QFont titolo = font();
+    titolo.setPointSizeF(14);
+    titolo.setBold(true);
+    Label1.setFontBase(titolo);
+    Label1.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    Label1.setCaption(nomeDecorazione(i));
+    Label2.hide();
+    grid.lega(Data1);
+    RB1(0).setChecked(true);
+    quando(grid, &Grid::cliccata, [this] { mostraRiga(); });
+    alClic(RB1, [this](int indice) { scegliCategoria(indice); });
+    alClic(Btn(0), [this] { applica(); });
+    alClic(Btn(1), [this] { scarica(); });
+    scegliCategoria(0);
+    grid.setFocus();
+}
+
+void ImpostaCornice::scegliCategoria(int indice) {
+    m_categoria = indice;
+    apri(Data1, cartella(), sorgenteDecorazioni(CategorieDecorazioni.at(std::size_t(indice)).Tipo));
+    mostraRiga();
+}
+
+void ImpostaCornice::mostraRiga() {
+    if (grid.Rows() == 0)
+        return;
+    const QString file = testoDi(Data1.Recordset()[u"File"].Value(), {});
+    m_percorso = percorsoDecorazione(cartella(), m_categoria, file);
+    Label2.setCaption(m_percorso);
+    Image1.mostra(m_percorso);
+}
+
+void ImpostaCornice::applica() {
+    if (!m_percorso.isEmpty() && avvisaSeIllegibile(ambiente(), m_percorso, this))
+        return;
+    if (indiceDecorazione(Label1.Caption()) > 0)
+        m_applicata = SceltaDecorazione{m_percorso, SecondoPiano.isChecked()};
+    scarica();
+}
+
+std::optional<SceltaDecorazione> apriImpostaCornice(const Ambiente &ambiente, int i, QWidget *padre) {
+    ImpostaCornice form(ambiente, i, padre);
+    form.mostraModale();
+    return form.applicata();
+}
+
+} // namespace zuvora

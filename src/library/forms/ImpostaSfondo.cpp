@@ -1,0 +1,98 @@
+#include "library/forms/ImpostaSfondo.h"
+
+#include "library/forms/ImmagineIllegibile.h"
+#include "library/logic/Sfondi.h"
+#include "shell/forms/MsgForm.h"
+#include "shell/host/Piattaforma.h"
+
+#include <QDir>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr QStringView Modello = u"*.jpg;*.bmp";
+
+QString parolaModo(ModoSfondo modo) {
+    return modo == ModoSfondo::Layout ? u"Layout"_s : u"Sfondo Totem"_s;
+}
+
+} // namespace
+
+ImpostaSfondo::ImpostaSfondo(const Ambiente &ambiente_, ModoSfondo modo, UsoSfondo uso, QWidget *padre)
+    : Form(ambiente_, "ImpostaSfondo", "Imposta Sfondo schermata FrontEnd", {8130, 8955}, padre), m_modo(modo),
+      m_uso(std::move(uso)) {
+    Label5.setCaption(parolaModo(m_modo));
+    Drive1.setAccessibleName(u"Disco"_s);
+    Dir1.setAccessibleName(u"Cartelle"_s);
+    File1.setAccessibleName(u"File"_s);
+    for (Edit *misura : {&F1, &F2}) {
+        misura->setReadOnly(true);
+        misura->setFocusPolicy(Qt::ClickFocus);
+    }
+    quando(Drive1, &DriveListBox::cambiato, [this] { cambiaDisco(); });
+    quando(Dir1, &DirListBox::cambiata, [this] { cambiaCartella(); });
+    quando(File1, &FileListBox::cliccato, [this] { clicFile(); });
+    alClic(PushButton1, [this] { imposta(); });
+    alClic(PushButton3, [this] { elimina(); });
+    alClic(Command5, [this] { scarica(); });
+    Dir1.setPath(QDir::currentPath());
+    Dir1.setFocus();
+}
+
+void ImpostaSfondo::cambiaDisco() {
+    if (Dir1.setPath(Drive1.Drive()))
+        return;
+    Drive1.setDrive(Dir1.Path());
+    mostraMessaggio(ambiente(), this, u"Il disco scelto non è disponibile !"_s);
+}
+
+void ImpostaSfondo::cambiaCartella() {
+    Drive1.setDrive(Dir1.Path());
+    File1.setPattern(Modello.toString());
+    File1.setPath(Dir1.Path());
+}
+
+void ImpostaSfondo::clicFile() {
+    SfondoScelto = File1.percorso(File1.ListIndex());
+    Image1.mostra(SfondoScelto);
+    // The control's own size: it doesn't change with the picture.
+    F1.setText(QString::number(Image1.posto().width / TwipsPerPixel));
+    F2.setText(QString::number(Image1.posto().height / TwipsPerPixel));
+}
+
+void ImpostaSfondo::imposta() {
+    const bool totem = m_modo == ModoSfondo::SfondoTotem;
+    if (SfondoScelto.isEmpty() && totem)
+        return;
+    if (!SfondoScelto.isEmpty() && avvisaSeIllegibile(ambiente(), SfondoScelto, this))
+        return;
+    const QString risultato =
+        totem ? percorsoDiRete(SfondoScelto, ambiente().piattaforma.nomeMacchina()) : SfondoScelto;
+    if (!m_uso.imposta(risultato))
+        mostraMessaggio(ambiente(), this, u"Impossibile caricare l'immagine scelta !"_s,
+                        u"Lo sfondo resta quello di prima."_s);
+}
+
+void ImpostaSfondo::elimina() {
+    if (m_uso.elimina)
+        m_uso.elimina();
+    else
+        mostraMessaggio(ambiente(), this, u"Nessun Layout aperto: lo sfondo del Totem"_s,
+                        u"si elimina dalla sua schermata."_s);
+}
+
+void apriSfondoLayout(const Ambiente &ambiente, const UsoSfondo &uso, QWidget *padre) {
+    ImpostaSfondo(ambiente, ModoSfondo::Layout, uso, padre).mostraModale();
+}
+
+void apriSfondoTotem(const Ambiente &ambiente, const std::function<void(const QString &)> &FF1, QWidget *padre) {
+    const auto imposta = [&FF1](const QString &percorso) {
+        FF1(percorso);
+        return true;
+    };
+    ImpostaSfondo(ambiente, ModoSfondo::SfondoTotem, {imposta, {}}, padre).mostraModale();
+}
+
+} // namespace zuvora

@@ -1,0 +1,156 @@
+#include "library/forms/SceltaLayout.h"
+
+#include "library/forms/CancellaLayout.h"
+#include "library/forms/CopiaLayout.h"
+#include "shell/disegni/Disegni.h"
+#include "shell/forms/MsgForm.h"
+#include "shell/host/Dialoghi.h"
+
+#include <QTimer>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr int PrimaLinea = 600; // twips
+constexpr int PassoLinea = 360;
+constexpr int MassimoTesto = 255; // characters
+constexpr int LarghezzaDescrizione = 2775;
+constexpr int LarghezzaDescrizioneBase = 3135; // no button behind it
+constexpr QSize Icona{15, 15};
+
+constexpr int topLinea(int linea) {
+    return PrimaLinea + PassoLinea * linea;
+}
+
+Posto postoTesto(int indice) {
+    const int linea = indice / 2;
+    if (indice % 2 == 0)
+        return {600, topLinea(linea), 1095, 285};
+    return {1680, topLinea(linea), linea == 0 ? LarghezzaDescrizioneBase : LarghezzaDescrizione, 285};
+}
+
+// Set from the program, a text shows its beginning.
+void mostraTesto(Edit &campo, const QString &testo) {
+    campo.setText(testo);
+    campo.setCursorPosition(0);
+}
+
+} // namespace
+
+SceltaLayout::SceltaLayout(const Ambiente &ambiente_, CaricaLayout carica, QWidget *padre)
+    : Form(ambiente_, "SceltaLayout", "Selezione del Layout", {5175, 5595}, padre), m_carica(std::move(carica)),
+      m_lette(lineeIniziali()),
+      RB1("RB1", 0, numeroLayout - 1,
+          [this](int i, const char *nome) {
+              return std::make_unique<RadioButton>(&GroupBox1, nome, "", Posto{240, topLinea(i), 330, 255});
+          }),
+      text1("text1", 0, 2 * numeroLayout - 1,
+            [this](int i, const char *nome) { return std::make_unique<Edit>(&GroupBox1, nome, postoTesto(i)); }),
+      PPBB1("PPBB1", 1, numeroLayout - 1, [this](int i, const char *nome) {
+          return std::make_unique<Button>(&GroupBox1, nome, "", Posto{4440, topLinea(i), 375, 285});
+      }) {
+    disponiLinee();
+    Label2.setReadOnly(true);
+    Label2.setFocusPolicy(Qt::ClickFocus);
+    riempi();
+    alClic(PPBB1, [this](int i) { CancellaLayout(ambiente(), QString::number(i), this).mostraModale(); });
+    alClic(PB1(0), [this] { scarica(); });
+    alClic(PB1(1), [this] { salvaDati(); });
+    alClic(PB1(2), [this] { rendiPredefinita(); });
+    alClic(PB1(3), [this] { this->carica(); });
+    alClic(PB1(4), [this] { CopiaLayout(ambiente(), this).mostraModale(); });
+}
+
+void SceltaLayout::disponiLinee() {
+    for (int i = 0; i < numeroLayout; ++i) {
+        Edit &nome = text1(2 * i);
+        Edit &descrizione = text1(2 * i + 1);
+        RB1(i).setAccessibleName(nomeLinea(i));
+        nome.setAccessibleName(u"Nome di "_s + nomeLinea(i));
+        descrizione.setAccessibleName(u"Descrizione di "_s + nomeLinea(i));
+        nome.setReadOnly(true);
+        nome.setFocusPolicy(Qt::ClickFocus); // Tab goes from the radio buttons to what can be edited
+        descrizione.setReadOnly(i == 0);
+        nome.setMaxLength(MassimoTesto);
+        descrizione.setMaxLength(MassimoTesto);
+    }
+    for (const auto &[i, bottone] : PPBB1) {
+        bottone->setIcon(icona(Disegno::Pulisci));
+        bottone->setIconSize(Icona);
+        bottone->setToolTip(u"Pulisce il Layout"_s);
+        bottone->setAccessibleName(u"Pulisce il "_s + nomeLinea(i));
+        setTabOrder(&text1(2 * i + 1), bottone.get());
+        if (i < numeroLayout - 1)
+            setTabOrder(bottone.get(), &text1(2 * i + 3));
+    }
+}
+
+void SceltaLayout::riempi() {
+    const auto linea = lineaPredefinita(leggiQualeLayout(apri(Data2, cartella(), u"Configurazione"_s)));
+    Label2.setText(testoPredefinito(linea));
+    if (linea)
+        RB1(*linea).setChecked(true);
+    RB1(linea.value_or(0)).setFocus();
+    m_lette = leggiLinee(apri(Data1, cartella(), u"DescrizioneLayout"_s));
+    for (int i = 0; i < numeroLayout; ++i) {
+        const LineaLayout &letta = m_lette[std::size_t(i)];
+        mostraTesto(text1(2 * i), letta.nome);
+        mostraTesto(text1(2 * i + 1), letta.descrizione);
+        text1(2 * i + 1).setEnabled(letta.presente);
+    }
+    m_avviso = avvisoLinee(m_lette);
+}
+
+void SceltaLayout::attivata() {
+    if (const QString avviso = std::exchange(m_avviso, {}); !avviso.isEmpty())
+        QTimer::singleShot(0, this, [this, avviso] {
+            ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, u"Zuvora-Messaggio"_s, avviso);
+        });
+}
+
+LineeLayout SceltaLayout::linee() const {
+    LineeLayout linee = m_lette;
+    for (int i = 0; i < numeroLayout; ++i) {
+        linee[std::size_t(i)].nome = text1(2 * i).text();
+        linee[std::size_t(i)].descrizione = text1(2 * i + 1).text();
+    }
+    return linee;
+}
+
+std::optional<int> SceltaLayout::lineaScelta() const {
+    for (const auto &[i, bottone] : RB1)
+        if (bottone->isChecked())
+            return i;
+    return std::nullopt;
+}
+
+void SceltaLayout::salvaDati() {
+    mostra(salvaLinee(apri(Data1, cartella(), u"DescrizioneLayout"_s), linee()));
+}
+
+void SceltaLayout::rendiPredefinita() {
+    const auto linea = lineaScelta();
+    const EsitoPredefinito esito = impostaPredefinito(cartella(), linea);
+    if (esito.salvato)
+        Label2.setText(testoPredefinito(linea));
+    mostra(esito.messaggio);
+}
+
+void SceltaLayout::carica() {
+    const auto linea = lineaScelta();
+    if (!linea) {
+        mostra(messaggioNessunaLinea());
+        return;
+    }
+    valori().LayoutCorrente = tabellaLayout(*linea);
+    m_carica(valori().LayoutCorrente, this);
+}
+
+void SceltaLayout::mostra(const Messaggio &messaggio) {
+    mostraMessaggio(ambiente(), this, messaggio.riga0, messaggio.riga1);
+}
+
+} // namespace zuvora

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "shell/host/PictureBox.h"
+
+#include <QFutureWatcher>
+#include <QImage>
+
+namespace zuvora {
+
+// The preview of a picture file, stretched to the control's size. A small picture is there at once; a large one is
+// decoded beside the user interface, and of several asked for meanwhile only the last is shown. What can't be shown is
+// said in the control itself.
+class AnteprimaImmagine : public PictureBox {
+    Q_OBJECT
+public:
+    enum class Stato { Vuota, InCorso, Mostrata, NonTrovata, NonLeggibile };
+
+    AnteprimaImmagine(QWidget *padre, const char *nome, const Posto &posto);
+    ~AnteprimaImmagine() override;
+
+    void mostra(const QString &percorso); // native form; an empty path clears the preview
+    void svuota(const QString &testo = {});
+    Stato stato() const { return m_stato; }
+    const QString &percorso() const { return m_percorso; }
+    // An Italian sentence when the file last asked for can't be shown, else empty.
+    QString guasto() const;
+
+Q_SIGNALS:
+    void cambiata(); // a picture, or the reason why there is none, stands in the control
+
+private:
+    void leggiAParte(const QSize &misura);
+    void concludi(const QImage &letta);
+    void fallisci(Stato stato);
+
+    QString m_percorso;
+    Stato m_stato = Stato::Vuota;
+    QFutureWatcher<QImage> m_attesa;
+};
+
+} // namespace zuvora

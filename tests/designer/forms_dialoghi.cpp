@@ -1,0 +1,279 @@
+// Form2, the toolbox's commands and what the canvas opens.
+#include "designer/TelaProva.h"
+
+#include "designer/forms/Form2.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QRadioButton>
+
+using namespace zuvora;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct Pagina {
+    const char *elemento; // right click on it; "" for the toolbox's colour button
+    const char *titolo;
+    int altezza; // pixels
+    QStringList spenti;
+    QStringList classe; // elements that get the style
+};
+
+QStringList elementi(const QString &tipo, std::initializer_list<int> indici) {
+    QStringList esito;
+    for (const int i : indici)
+        esito << u"%1(%2)"_s.arg(tipo).arg(i);
+    return esito;
+}
+
+std::vector<Pagina> pagine() {
+    const QStringList testo{u"Label2(6)"_s, u"Testo999"_s};
+    const QStringList ticker = QStringList{u"CB2"_s, u"RB1(0)"_s, u"RB1(1)"_s, u"RB1(2)"_s, u"Label2(3)"_s} + testo;
+    const QStringList colore =
+        ticker + QStringList{u"PB1(0)"_s, u"CP2"_s, u"Label2(0)"_s, u"Label2(1)"_s, u"Label2(2)"_s};
+    return {
+        {"Text1(9)", "Numeri", 286, testo, elementi(u"Text1"_s, {0, 3, 6, 9, 12, 15, 18, 21})},
+        {"Text1(10)", "Postazione", 286, testo, elementi(u"Text1"_s, {1, 4, 7, 10, 13, 16, 19, 22})},
+        {"Text1(11)", "Servizio", 286, testo, elementi(u"Text1"_s, {2, 5, 8, 11, 14, 17, 20, 23})},
+        {"Text9(0)", "Titolo", 329, {}, {u"Text9(0)"_s}},
+        {"Text9(1)", "SottoTitolo", 329, {}, {u"Text9(1)"_s}},
+        {"Text9(2)", "Data", 329, testo, {u"Text9(2)"_s}},
+        {"Text9(3)", "Orario", 329, testo, {u"Text9(3)"_s}},
+        {"Text2", "Testo Scorrevole", 286, ticker, {u"Text2"_s}},
+        {"Pannello1(3)", "Pannello", 286, colore, elementi(u"Pannello1"_s, {0, 1, 2, 3, 4, 5, 6, 7})},
+        {"", "Colore Sfondo Schermata", 286, colore, {u"Form1"_s}},
+    };
+}
+
+QStringList spenti(QWidget &form) {
+    QStringList esito;
+    const auto figli = trova<QWidget>(form, "box1").findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QWidget *w : figli)
+        if (!w->isEnabled())
+            esito << w->objectName();
+    esito.sort();
+    return esito;
+}
+
+// All on the canvas, nothing over anything else's middle.
+const QStringList tuttiVisibili{
+    u"UPDATE Layout1 SET Visibile=1"_s,
+    u"UPDATE Layout1 SET Visibile=0 WHERE DescCampo LIKE 'Decorazione%' OR DescCampo LIKE 'Riquadro%'"_s};
+
+class Pagine : public testing::TestWithParam<std::size_t> {};
+
+TEST_P(Pagine, SiRiempieSiLimitaESiApplicaAllaClasse) {
+    const Pagina pagina = pagine()[GetParam()];
+    TelaProva tela(u"Layout1"_s, tuttiVisibili);
+    // One of the eight panels at a time, so that each of its labels can be reached.
+    for (int k = 0; k < numeroPannelli; ++k)
+        tela.layout.elemento(TipoElemento::Pannello1, k).area = {1000, k == 3 ? 9000.0 : 40000.0, 7005, 6495};
+    tela.e("Text9(2)").area = {12000, 9000, 6000, 500};
+    tela.form->show();
+    const DisplayLayout prima = tela.layout;
+    const QByteArray archivio = tela.installazione.contenuto();
+    tela.installazione.dialoghi.colori = {0x123456};
+    Guida guida;
+    guida.quando("Form2", [&](QWidget &form2) {
+        fotografa(form2, u"Form2-%1"_s.arg(QString::fromLatin1(pagina.titolo)));
+        EXPECT_EQ(trova<Label>(form2, "Label1").Caption(), QString::fromLatin1(pagina.titolo));
+        EXPECT_EQ(form2.height(), pagina.altezza);
+        QStringList attesi = pagina.spenti;
+        attesi.sort();
+        EXPECT_EQ(spenti(form2), attesi);
+        EXPECT_EQ(didascalieTagliate(form2), QStringList());
+        clicca(form2, "CP1");
+        if (trova<QWidget>(form2, "CB2").isEnabled())
+            clicca(form2, "RB1(2)");
+        clicca(form2, "Btn(0)");
+        clicca(form2, "Btn(0)"); // once more changes nothing
+        clicca(form2, "Btn(1)");
+    });
+    if (*pagina.elemento == '\0')
+        clicca(*tela.form, "Btn(7)");
+    else {
+        QWidget &bersaglio = tela.w(pagina.elemento);
+        QTest::mouseClick(&bersaglio, Qt::RightButton, {}, QPoint(12, 12));
+    }
+    EXPECT_TRUE(guida.finita());
+    for (int posto = 0; posto < righeLayout; ++posto) {
+        const LayoutElement &e = tela.layout[posto];
+        const bool sua = pagina.classe.contains(e.nome());
+        EXPECT_EQ(e.coloreSfondo, sua ? 0x123456 : prima[posto].coloreSfondo) << e.nome().toStdString();
+        const bool allineabile = sua && !pagina.spenti.contains(u"RB1(2)"_s);
+        EXPECT_EQ(e.allineamento, allineabile ? Allineamento::Destra : prima[posto].allineamento)
+            << e.nome().toStdString();
+    }
+    EXPECT_EQ(tela.installazione.contenuto(), archivio); // nothing is stored
+}
+
+INSTANTIATE_TEST_SUITE_P(Form2, Pagine, testing::Range<std::size_t>(0, 10));
+
+TEST(Pagine2, IlFontSceltoEIlTestoArrivanoAlTitolo) {
+    TelaProva tela;
+    tela.installazione.dialoghi.font = {FontScelto{u"Arial"_s, 27.75, true, true}};
+    Guida guida;
+    guida.quando("Form2", [](QWidget &form2) {
+        clicca(form2, "PB1(0)");
+        auto &testo = trova<QLineEdit>(form2, "Testo999");
+        testo.setText(QString(60, u'x'));
+        EXPECT_EQ(testo.text().size(), 50);
+        clicca(form2, "Btn(0)");
+        trova<QLineEdit>(form2, "Testo999").setText(u"non applicato"_s);
+        clicca(form2, "Btn(1)");
+    });
+    QTest::mouseClick(&tela.w("Text9(0)"), Qt::RightButton);
+    EXPECT_EQ(tela.e("Text9(0)").font, (Carattere{u"Arial"_s, 27.75, true, true}));
+    EXPECT_EQ(tela.e("Text9(0)").didascalia, QString(50, u'x'));
+}
+
+TEST(Pagine2, IlServizioAllineaTuttiAllaSinistraDelCliccato) {
+    TelaProva tela;
+    tela.e("Text1(5)").area.left = 555;
+    Guida guida;
+    guida.premi("Form2", "Btn(0)").premi("Form2", "Btn(1)");
+    QTest::mouseClick(&tela.w("Text1(5)"), Qt::RightButton);
+    EXPECT_EQ(tela.e("Text1(23)").area.left, 555);
+    EXPECT_EQ(tela.rettangolo("Text1(2)").left() - tela.rettangolo("Pannello1(0)").left(), 37);
+}
+
+// Watches a control for the moment in which it is disabled.
+class Spia : public QObject {
+public:
+    explicit Spia(QWidget &w) : m_w(w) { w.installEventFilter(this); }
+    int lampi = 0;
+    bool eventFilter(QObject *, QEvent *e) override {
+        lampi += e->type() == QEvent::EnabledChange && !m_w.isEnabled() ? 1 : 0;
+        return false;
+    }
+
+private:
+    QWidget &m_w;
+};
+
+struct CasoLampo {
+    const char *elemento;
+    int lampi;
+};
+
+TEST(Lampo, ChiApreUnaFinestraSiSpegneUnMomento) {
+    int aperte = 0;
+    ApritoriTela apritori;
+    apritori.decorazione = [&](QWidget *, int indice) {
+        aperte += indice;
+        return std::nullopt;
+    };
+    TelaProva tela(u"Layout1"_s,
+                   {u"UPDATE Layout1 SET Visibile=1, \"left\"=6000, \"top\"=2000 WHERE DescCampo='Decorazione 5'"_s},
+                   apritori);
+    for (const CasoLampo caso : {CasoLampo{"Text9(1)", 1}, CasoLampo{"Pannello1(1)", 0}, CasoLampo{"Image1(5)", 1},
+                                 CasoLampo{"WB1", 1}, CasoLampo{"MP1", 0}}) {
+        Guida guida;
+        const bool form2 = std::string_view(caso.elemento).find("1(1)") != std::string_view::npos ||
+                           std::string_view(caso.elemento) == "Text9(1)";
+        if (form2)
+            guida.premi("Form2", "Btn(1)");
+        Spia spia(tela.w(caso.elemento));
+        QTest::mouseClick(&tela.w(caso.elemento), Qt::RightButton, {}, QPoint(4, 4));
+        EXPECT_EQ(spia.lampi, caso.lampi) << caso.elemento;
+        EXPECT_TRUE(tela.w(caso.elemento).isEnabled());
+    }
+    EXPECT_EQ(aperte, 5);
+}
+
+TEST(Comandi, PiazzanoNellAngoloCioCheManca) {
+    TelaProva tela(u"Layout1"_s, {u"UPDATE Layout1 SET Visibile=0"_s});
+    const std::pair<const char *, const char *> coppie[] = {
+        {"Btn(0)", "Text2"},    {"Btn(2)", "Text9(0)"},    {"Btn(3)", "Text9(1)"}, {"Btn(4)", "Text9(2)"},
+        {"Btn(5)", "Text9(3)"}, {"Btn(9)", "IM1"},         {"Btn(10)", "MP1"},     {"Btn(12)", "WB1"},
+        {"Btn(22)", "YT"},      {"Btn(1)", "Pannello1(0)"}};
+    for (const auto &[bottone, elemento] : coppie) {
+        EXPECT_TRUE(tela.w(elemento).isHidden()) << elemento;
+        clicca(*tela.form, bottone);
+        EXPECT_FALSE(tela.w(elemento).isHidden()) << elemento;
+        EXPECT_EQ(tela.rettangolo(elemento).topLeft(), QPoint()) << elemento;
+        tela.e(elemento).area.left = 600;
+    }
+    clicca(*tela.form, "Btn(2)"); // visible: nothing happens
+    EXPECT_EQ(tela.e("Text9(0)").area.left, 600);
+}
+
+TEST(Comandi, PannelliEDecorazioniFiniscono) {
+    TelaProva tela(u"Layout1"_s, {u"UPDATE Layout1 SET Visibile=1"_s});
+    QString righe;
+    Guida guida;
+    guida.messaggio(&righe);
+    clicca(*tela.form, "Btn(1)");
+    EXPECT_EQ(righe, u"Tutti  i Pannelli sono\nstati utilizzati !"_s);
+    guida.messaggio(&righe);
+    clicca(*tela.form, "Btn(8)");
+    EXPECT_EQ(righe, u"Tutte le decorazioni sono\nstate utilizzate !"_s);
+}
+
+TEST(Apritori, LaDecorazioneSceltaVaSullaTelaNelSuoPiano) {
+    InstallazioneProva altra; // for the path of a picture that stays
+    SceltaDecorazione scelta{altra.file(u"ZuvoraDecorazioni/Cornici/stondata.gif"_s), true};
+    ApritoriTela apritori;
+    apritori.decorazione = [&](QWidget *, int) { return std::optional(scelta); };
+    TelaProva tela(u"Layout1"_s, {}, apritori);
+    clicca(*tela.form, "Btn(8)");
+    EXPECT_EQ(tela.e("Image1(1)").immagine, scelta.percorso);
+    EXPECT_EQ(tela.layout.PianiDecorazione[1], u"dietro"_s);
+    tela.e("Image1(1)").area = tela.e("MP1").area;
+    tela.form->setFocus();
+    QTest::mouseClick(&tela.w("Image1(1)"), Qt::RightButton); // shows the new place too
+    const QPoint centro = tela.rettangolo("MP1").center();
+    EXPECT_EQ(tela.form->childAt(centro)->objectName(), u"MP1"_s);
+    scelta.secondoPiano = false;
+    QTest::mouseClick(&tela.w("Image1(1)"), Qt::RightButton);
+    EXPECT_EQ(tela.form->childAt(centro)->objectName(), u"Image1(1)"_s);
+    EXPECT_EQ(tela.form->childAt(tela.rettangolo("SSPanel1").topLeft() + QPoint(2, 2))->objectName(), u"Image2"_s);
+    scelta.percorso = altra.file(u"Zuvora.mdb"_s); // no picture
+    QString righe;
+    Guida guida;
+    guida.messaggio(&righe);
+    QTest::mouseClick(&tela.w("Image1(1)"), Qt::RightButton);
+    EXPECT_FALSE(righe.isEmpty());
+    EXPECT_NE(tela.e("Image1(1)").immagine, scelta.percorso);
+}
+
+TEST(Apritori, LoSfondoCambiaMentreLaSuaFinestraEAperta) {
+    QImage prima;
+    QImage durante;
+    TelaProva *aperta = nullptr;
+    ApritoriTela apritori;
+    apritori.sfondo = [&](QWidget *padre, const UsoSfondo &uso) {
+        EXPECT_FALSE(uso.imposta(aperta->installazione.archivio()));
+        EXPECT_TRUE(uso.imposta(aperta->installazione.file(u"ZuvoraSfondiHD/FH_blu_4post_.jpg"_s)));
+        durante = padre->grab().toImage();
+        uso.elimina();
+        EXPECT_EQ(aperta->layout.Label2(), QString());
+        EXPECT_TRUE(uso.imposta(aperta->installazione.file(u"ZuvoraSfondiHD/FH_blu_4post_.jpg"_s)));
+    };
+    TelaProva tela(u"Layout1"_s, {}, apritori);
+    aperta = &tela;
+    prima = tela.form->grab().toImage();
+    clicca(*tela.form, "Btn(6)");
+    EXPECT_NE(durante, prima);
+    EXPECT_TRUE(tela.layout.Label2().endsWith(u"FH_blu_4post_.jpg"_s));
+    EXPECT_EQ(tela.form->grab().toImage(), durante);
+}
+
+TEST(Apritori, ChiMancaLoDice) {
+    TelaProva tela(
+        u"Layout1"_s,
+        {u"UPDATE Layout1 SET Visibile=1, \"left\"=0, \"top\"=0 WHERE DescCampo='Riquadro notizie online'"_s});
+    QString righe;
+    for (int i = 0; i < 2; ++i) {
+        Guida guida;
+        guida.messaggio(&righe);
+        if (i == 0)
+            clicca(*tela.form, "Btn(6)");
+        else
+            QTest::mouseClick(&tela.w("WB2"), Qt::RightButton);
+        EXPECT_TRUE(righe.startsWith(u"Questa funzione non è ancora disponibile"_s));
+    }
+}
+
+} // namespace

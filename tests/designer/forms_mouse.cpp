@@ -1,0 +1,250 @@
+// The mouse and the keyboard on the canvas, driven through the controls' names.
+#include "designer/TelaProva.h"
+
+using namespace zuvora;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+Area spostata(Area a, double dx, double dy) {
+    return {a.left + dx, a.top + dy, a.width, a.height};
+}
+
+bool maniglieVisibili(const TelaProva &tela) {
+    return !tela.w("picHandle(0)").isHidden();
+}
+
+TEST(Contorno, LElementoSaltaAlRilascioEPrendeLeManiglie) {
+    TelaProva tela;
+    const Area prima = tela.e("WB1").area;
+    const QPoint presa = tela.rettangolo("WB1").center();
+    QTest::mousePress(&tela.w("WB1"), Qt::LeftButton, {}, QPoint(40, 40));
+    EXPECT_EQ(tela.form->ElementoSelezionato(), u"WB1"_s);
+    EXPECT_EQ(QWidget::mouseGrabber(), tela.form.get());
+    const QPoint inizio = tela.rettangolo("WB1").topLeft() + QPoint(40, 40);
+    tela.muovi(inizio + QPoint(-30, 10));
+    EXPECT_EQ(tela.e("WB1").area, prima); // only the outline moves
+    EXPECT_FALSE(maniglieVisibili(tela));
+    QTest::mouseRelease(tela.form.get(), Qt::RightButton, {}, inizio); // not the button that ends it
+    EXPECT_EQ(QWidget::mouseGrabber(), tela.form.get());
+    tela.muovi(inizio + QPoint(-100, 20));
+    QTest::mouseRelease(tela.form.get(), Qt::LeftButton, {}, inizio + QPoint(-100, 20));
+    EXPECT_EQ(tela.e("WB1").area, spostata(prima, -1500, 300));
+    EXPECT_EQ(tela.rettangolo("WB1").center(), presa + QPoint(-100, 20));
+    EXPECT_TRUE(maniglieVisibili(tela));
+    EXPECT_EQ(tela.w("picHandle(0)").cursor().shape(), Qt::SizeFDiagCursor);
+    EXPECT_EQ(QWidget::mouseGrabber(), nullptr);
+    tela.clicca(QPoint(1915, 600)); // the bare canvas
+    EXPECT_FALSE(maniglieVisibili(tela));
+    EXPECT_EQ(tela.form->ElementoSelezionato(), u"WB1"_s);
+}
+
+// The outline must show on any ground, middle grey too, over the toolbox too, and leave no trace.
+TEST(Contorno, SiVedeSuOgniFondoENonLasciaTracce) {
+    TelaProva tela(u"Layout1"_s, {u"UPDATE Layout1 SET PercorsoImmagine=NULL, Visibile=0, ColoreSfondo=8421504"_s,
+                                  u"UPDATE Layout1 SET Visibile=1 WHERE DescCampo='Riquadro video'"_s});
+    const QImage prima = tela.form->grab().toImage();
+    const QRect video = tela.rettangolo("MP1");
+    const QPoint presa = video.center();
+    tela.premi(presa);
+    const QPoint scarto(120 - video.left(), 100 - video.top()); // across the toolbox
+    tela.muovi(presa + scarto);
+    const QImage durante = tela.form->grab().toImage();
+    for (const QPoint p : {QPoint(120, 300), QPoint(120, 425), QPoint(500, 100), QPoint(60 + video.width(), 300)}) {
+        int diversi = 0;
+        for (int d = -2; d <= 2; ++d)
+            for (const QPoint q : {p + QPoint(d, 0), p + QPoint(0, d)})
+                diversi += qAbs(qGray(durante.pixel(q)) - qGray(prima.pixel(q))) > 60 ? 1 : 0;
+        const bool sulBordo = p.x() == 120 || p.y() == 100;
+        EXPECT_EQ(diversi > 0, sulBordo) << p.x() << ',' << p.y();
+    }
+    tela.muovi(presa);
+    tela.rilascia(presa);
+    tela.clicca(QPoint(1915, 1075)); // no handles
+    EXPECT_EQ(tela.form->grab().toImage(), prima);
+}
+
+TEST(Contorno, IlCursoreNonEsceDalForm) {
+    TelaProva tela;
+    const QRect r = tela.rettangolo("MP1");
+    tela.trascina(r.topLeft() + QPoint(5, 5), QPoint(5000, 400));
+    EXPECT_EQ(tela.rettangolo("MP1").left(), tela.form->width() - 1 - 5);
+}
+
+TEST(Contorno, ChiPerdeIlMouseRinuncia) {
+    TelaProva tela;
+    const Area prima = tela.e("MP1").area;
+    const QPoint presa = tela.rettangolo("MP1").center();
+    tela.premi(presa);
+    tela.muovi(presa + QPoint(50, 50));
+    QEvent persa(QEvent::WindowDeactivate);
+    QCoreApplication::sendEvent(tela.form.get(), &persa);
+    EXPECT_EQ(QWidget::mouseGrabber(), nullptr);
+    tela.rilascia(presa);
+    EXPECT_EQ(tela.e("MP1").area, prima);
+}
+
+struct CasoManiglia {
+    int indice;
+    QPoint distanza;
+    QMargins bordi; // by how much the edges move outwards, pixels
+};
+
+class Maniglie : public testing::TestWithParam<CasoManiglia> {};
+
+TEST_P(Maniglie, MuovonoILoroBordi) {
+    const CasoManiglia &caso = GetParam();
+    TelaProva tela;
+    const QPoint centro = tela.rettangolo("MP1").center();
+    tela.clicca(centro);
+    const QRect prima = tela.rettangolo("MP1");
+    const QByteArray nome = "picHandle(" + QByteArray::number(caso.indice) + ")";
+    const QRect maniglia = tela.rettangolo(nome.constData());
+    // The grip is the handle's edge of the rectangle, wherever in the handle the press was.
+    const QPoint bordo(caso.bordi.left() != 0    ? prima.left()
+                       : caso.bordi.right() != 0 ? prima.right() + 1
+                                                 : maniglia.center().x(),
+                       caso.bordi.top() != 0      ? prima.top()
+                       : caso.bordi.bottom() != 0 ? prima.bottom() + 1
+                                                  : maniglia.center().y());
+    tela.trascina(maniglia.center(), bordo + caso.distanza);
+    EXPECT_EQ(tela.rettangolo("MP1"), prima.marginsAdded(caso.bordi).normalized()) << caso.indice;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Otto, Maniglie,
+    testing::Values(CasoManiglia{0, {-40, -30}, {40, 30, 0, 0}}, CasoManiglia{1, {-40, -30}, {0, 30, 0, 0}},
+                    CasoManiglia{2, {-40, -30}, {0, 30, -40, 0}}, CasoManiglia{3, {-40, -30}, {0, 0, -40, 0}},
+                    CasoManiglia{4, {-40, -30}, {0, 0, -40, -30}}, CasoManiglia{5, {-40, -30}, {0, 0, 0, -30}},
+                    CasoManiglia{6, {-40, -30}, {40, 0, 0, -30}}, CasoManiglia{7, {-40, -30}, {40, 0, 0, 0}}));
+
+TEST(ManiglieSpeciali, OltreIlBordoOppostoSiGira) {
+    TelaProva tela;
+    tela.clicca(tela.rettangolo("MP1").center());
+    const QRect prima = tela.rettangolo("MP1");
+    tela.trascina(tela.rettangolo("picHandle(3)").center(), QPoint(prima.left() - 100, prima.center().y()));
+    EXPECT_EQ(tela.rettangolo("MP1"), QRect(prima.left() - 100, prima.top(), 100, prima.height()));
+}
+
+TEST(ManiglieSpeciali, IlTastoDestroIniziaESoloIlSinistroFinisce) {
+    TelaProva tela;
+    tela.clicca(tela.rettangolo("MP1").center());
+    const Area prima = tela.e("MP1").area;
+    const QPoint maniglia = tela.rettangolo("picHandle(7)").center();
+    tela.clicca(maniglia, Qt::RightButton);
+    EXPECT_EQ(QWidget::mouseGrabber(), tela.form.get());
+    tela.muovi(maniglia + QPoint(-60, 0));
+    EXPECT_EQ(tela.e("MP1").area, prima);
+    tela.clicca(maniglia + QPoint(-60, 0)); // wherever: the mouse belongs to the form
+    EXPECT_NEAR(tela.e("MP1").area.width, prima.width + 900, 45);
+    EXPECT_EQ(tela.e("MP1").area.left + tela.e("MP1").area.width, prima.left + prima.width);
+}
+
+struct CasoVivo {
+    const char *etichetta;
+    const char *pannello;
+    QPoint distanza;
+    bool torna; // to the corner
+};
+
+class TrascinaVivo : public testing::TestWithParam<CasoVivo> {};
+
+TEST_P(TrascinaVivo, IlPannelloSegueLEtichetta) {
+    const CasoVivo &caso = GetParam();
+    TelaProva tela;
+    const Area prima = tela.e(caso.pannello).area;
+    const QPoint presa = tela.rettangolo(caso.etichetta).bottomRight() - QPoint(3, 3);
+    tela.premi(presa);
+    EXPECT_EQ(tela.form->ElementoSelezionato(), QString::fromLatin1(caso.etichetta));
+    tela.muovi(presa + caso.distanza / 2);
+    tela.muovi(presa + caso.distanza);
+    EXPECT_EQ(tela.e(caso.pannello).area, spostata(prima, 15 * caso.distanza.x(), 15 * caso.distanza.y()));
+    tela.rilascia(presa + caso.distanza);
+    const Area dopo = tela.e(caso.pannello).area;
+    EXPECT_EQ(QPointF(dopo.left, dopo.top) == QPointF(), caso.torna);
+    EXPECT_FALSE(maniglieVisibili(tela));
+}
+
+INSTANTIATE_TEST_SUITE_P(Bordi, TrascinaVivo,
+                         testing::Values(CasoVivo{"Text1(0)", "Pannello1(0)", {30, 20}, false},
+                                         CasoVivo{"Text1(2)", "Pannello1(0)", {2500, 0}, false},
+                                         CasoVivo{"Text1(2)", "Pannello1(0)", {0, 1200}, true},
+                                         CasoVivo{"Text1(4)", "Pannello1(1)", {2500, 0}, true},
+                                         CasoVivo{"Text1(4)", "Pannello1(1)", {0, 1200}, false},
+                                         CasoVivo{"Text1(5)", "Pannello1(1)", {-900, 0}, true}));
+
+TEST(Strumenti, LaStrisciaLiTrascinaEDaFuoriTornanoNellAngolo) {
+    TelaProva tela;
+    const QPoint presa = tela.rettangolo("Image2").topLeft() + QPoint(10, 10);
+    tela.trascina(presa, presa + QPoint(700, 300));
+    EXPECT_EQ(tela.rettangolo("SSPanel1").topLeft(), QPoint(724, 324));
+    tela.trascina(presa + QPoint(700, 300), presa + QPoint(700, -100));
+    EXPECT_EQ(tela.rettangolo("SSPanel1").topLeft(), QPoint(0, 0));
+    EXPECT_FALSE(tela.rettangolo("DidascaliaForm").intersects(tela.rettangolo("SSPanel1")));
+    EXPECT_TRUE(tela.form->rect().contains(tela.rettangolo("DidascaliaForm")));
+}
+
+TEST(Strumenti, LaPresaMuoveIlForm) {
+    TelaProva tela;
+    const QPoint presa = tela.rettangolo("Image3").center();
+    QTest::mousePress(&tela.w("Image3"), Qt::LeftButton);
+    QMouseEvent mossa(QEvent::MouseMove, {5, 5}, QPointF(presa + QPoint(60, 40)), Qt::NoButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&tela.w("Image3"), &mossa);
+    EXPECT_EQ(tela.form->pos(), QPoint(60, 40));
+    QTest::mouseRelease(&tela.w("Image3"), Qt::LeftButton);
+    QTest::keyClick(tela.form.get(), Qt::Key_Escape);
+    EXPECT_TRUE(tela.form->isVisible());
+    EXPECT_EQ(tela.form->pos(), QPoint(0, 40));
+}
+
+TEST(Tastiera, CancToglieLUltimoSelezionato) {
+    TelaProva tela;
+    QTest::keyClick(tela.form.get(), Qt::Key_Delete); // nothing selected yet
+    tela.clicca(tela.rettangolo("Text1(3)").center());
+    tela.clicca(QPoint(1915, 1075)); // the bare canvas keeps the selection
+    QTest::keyClick(&tela.w("Btn(0)"), Qt::Key_Delete);
+    const LayoutElement &pannello = tela.e("Pannello1(1)");
+    EXPECT_FALSE(pannello.visibile);
+    EXPECT_EQ(QPointF(pannello.area.left, pannello.area.top), QPointF(1000, 23000));
+    EXPECT_TRUE(tela.w("Pannello1(1)").isHidden());
+    EXPECT_TRUE(tela.w("Text1(3)").isVisibleTo(&tela.w("Pannello1(1)"))); // its own row doesn't change
+}
+
+// In the base layout only the decorations can be taken; panels open their properties.
+TEST(LayoutBase, ChePochiRispondono) {
+    TelaProva tela(u"LayoutBase"_s, {u"UPDATE LayoutBase SET Visibile=1, \"left\"=6000, \"top\"=2000 "
+                                     "WHERE DescCampo='Decorazione 5'"_s});
+    const DisplayLayout prima = tela.layout;
+    for (const char *nome : {"Text1(4)", "Text9(1)", "Text2", "IM1", "WB1", "MP1", "Pannello1(1)"}) {
+        QWidget &w = tela.w(nome);
+        const QPoint presa = tela.rettangolo(nome).bottomRight() - QPoint(4, 4);
+        tela.trascina(presa, presa + QPoint(20, 20));
+        EXPECT_EQ(tela.form->ElementoSelezionato(), QString()) << nome;
+        if (std::string_view(nome) != "Pannello1(1)")
+            QTest::mouseClick(&w, Qt::RightButton);
+    }
+    EXPECT_TRUE(std::equal(prima.begin(), prima.end(), tela.layout.begin()));
+    const QPoint presa = tela.rettangolo("Image1(5)").center();
+    tela.trascina(presa, presa + QPoint(10, 0));
+    EXPECT_EQ(tela.e("Image1(5)").area.left, 6150);
+    EXPECT_EQ(tela.form->Caption(), u"Impostazione Modulo : LayoutBase  Controllo : Decorazione 5"_s);
+    Guida guida;
+    guida.premi("Form2", "Btn(1)");
+    QTest::mouseClick(&tela.w("Pannello1(0)"), Qt::RightButton, {}, QPoint(3, 3));
+    EXPECT_TRUE(guida.finita());
+    EXPECT_EQ(tela.form->Caption(), u"Impostazione Modulo : LayoutBase  Controllo : Decorazione 5"_s);
+}
+
+TEST(LayoutBase, LaTelaNudaApreIlMenuCheChiude) {
+    TelaProva tela(u"LayoutBase"_s);
+    tela.premi(QPoint(1915, 500), Qt::RightButton);
+    QMenu &menu = trova<QMenu>(*tela.form, "M2");
+    ASSERT_TRUE(menu.isVisible());
+    ASSERT_EQ(menu.actions().size(), 1);
+    EXPECT_EQ(menu.actions().front()->text(), u"Chiudi Schermata"_s);
+    menu.close();
+    menu.actions().front()->trigger();
+    EXPECT_FALSE(tela.form->isVisible());
+}
+
+} // namespace

@@ -1,0 +1,149 @@
+#include "library/forms/Elementi.h"
+#include "kit/InstallazioneProva.h"
+#include "library/Premi.h"
+#include "shell/host/AnteprimaImmagine.h"
+#include "shell/host/Grid.h"
+
+#include <QFile>
+#include <QImage>
+#include <QPushButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+class ProvaElementi : public testing::Test {
+protected:
+    QString immagine(const QString &nome, Qt::GlobalColor colore = Qt::red) {
+        QImage im(40, 30, QImage::Format_RGB32);
+        im.fill(colore);
+        EXPECT_TRUE(im.save(&apriFile(nome), nome.endsWith(u".bmp"_s) ? "BMP" : "PNG"));
+        m_file.close();
+        return m_file.fileName();
+    }
+    QFile &apriFile(const QString &nome) {
+        m_file.setFileName(i.file(nome));
+        EXPECT_TRUE(m_file.open(QIODevice::WriteOnly));
+        return m_file;
+    }
+    int righe() { return i.valore(u"SELECT count(*) FROM Decorazioni"_s).toInt(); }
+    QString aggiungi(Elementi &form, const std::optional<QString> &file) {
+        i.dialoghi.file.push_back(file);
+        return premi(form, "PushButton2");
+    }
+    Grid &grid(Elementi &form) { return trova<Grid>(form, "grid"); }
+    InstallazioneProva i;
+    QFile m_file;
+};
+
+TEST_F(ProvaElementi, AggiungeLaRigaPoiCopiaESceglieLaNuova) {
+    const QString origine = immagine(u"la mia età d'oro.bmp"_s);
+    Elementi form(i.ambiente, nullptr);
+    clicca(form, "RB1(1)");
+    EXPECT_EQ(aggiungi(form, origine), u"Memorizzazione e Copia effettuate !"_s);
+    EXPECT_EQ(i.righe(u"SELECT ID > 171, File, Tipo FROM Decorazioni ORDER BY ID DESC LIMIT 1"_s),
+              QStringList{u"1|la mia età d'oro.bmp|2"_s});
+    EXPECT_TRUE(QFile::exists(i.file(u"ZuvoraDecorazioni/Banner/la mia età d'oro.bmp"_s)));
+    EXPECT_EQ(grid(form).testo(grid(form).Row(), 0), u"la mia età d'oro.bmp"_s);
+    EXPECT_EQ(trova<AnteprimaImmagine>(form, "Image1").stato(), AnteprimaImmagine::Stato::Mostrata);
+    const RichiestaFile &richiesta = i.dialoghi.richiesteFile.front();
+    EXPECT_EQ(richiesta.titolo, u"Selezionare il file da inserire in Decorazioni"_s);
+    EXPECT_EQ(richiesta.filtro, u"(*.bmp;*.jpg;*.gif)|*.bmp;*.jpg;*.gif"_s);
+    EXPECT_EQ(richiesta.cartella, i.cartella());
+
+    EXPECT_EQ(aggiungi(form, origine), u"Memorizzazione e Copia effettuate !"_s) << "the same file twice: two rows";
+    EXPECT_EQ(i.valore(u"SELECT count(*) FROM Decorazioni WHERE ID > 171"_s).toInt(), 2);
+}
+
+TEST_F(ProvaElementi, UnFileDiversoNonSiPerdeSenzaDomanda) {
+    Elementi form(i.ambiente, nullptr);
+    const QString origine = immagine(u"x.bmp"_s);
+    aggiungi(form, origine);
+    const QString copia = i.file(u"ZuvoraDecorazioni/Cornici/x.bmp"_s);
+    const QImage prima(copia);
+    immagine(u"x.bmp"_s, Qt::blue);
+    const int quante = righe();
+    EXPECT_EQ(aggiungi(form, origine), u"Il file esiste già nella cartella.\nSostituirlo ?"_s);
+    EXPECT_EQ(righe(), quante) << "after a no there is no row either";
+    EXPECT_EQ(QImage(copia), prima);
+    QString fine;
+    Guida guida;
+    guida.messaggio(nullptr, 1).messaggio(&fine);
+    i.dialoghi.file.push_back(origine);
+    clicca(form, "PushButton2");
+    EXPECT_EQ(fine, u"Memorizzazione e Copia effettuate !"_s);
+    EXPECT_EQ(righe(), quante + 1);
+    EXPECT_NE(QImage(copia), prima);
+}
+
+TEST_F(ProvaElementi, CopiaFallitaLasciaLaRiga) {
+    const QString origine = immagine(u"y.bmp"_s);
+    QDir(i.file(u"ZuvoraDecorazioni/Cornici"_s)).removeRecursively();
+    immagine(u"ZuvoraDecorazioni/Cornici"_s); // a file where the folder should be
+    Elementi form(i.ambiente, nullptr);
+    EXPECT_TRUE(aggiungi(form, origine).startsWith(u"Controllare la procedura ed eseguirla nuovamente !"_s));
+    EXPECT_EQ(i.valore(u"SELECT File FROM Decorazioni WHERE ID > 171"_s).toString(), u"y.bmp"_s);
+    EXPECT_EQ(trova<AnteprimaImmagine>(form, "Image1").testo(), u"File non trovato: y.bmp"_s);
+}
+
+TEST_F(ProvaElementi, AnnullatoOIllegibileNonScrive) {
+    Elementi form(i.ambiente, nullptr);
+    const QByteArray prima = i.contenuto();
+    i.dialoghi.file.push_back(std::nullopt);
+    clicca(form, "PushButton2");
+    apriFile(u"testo.jpg"_s).write("non sono un'immagine");
+    m_file.close();
+    EXPECT_EQ(aggiungi(form, m_file.fileName()),
+              u"Impossibile caricare l'immagine scelta !\nIl file non è un'immagine leggibile."_s);
+    EXPECT_EQ(i.contenuto(), prima);
+}
+
+TEST_F(ProvaElementi, EliminaSoloLeProprie) {
+    i.esegui(
+        u"DELETE FROM Decorazioni WHERE Tipo=3 AND ID<>171; UPDATE Decorazioni SET Tipo=3, File='a.gif' WHERE ID=171;"
+        "INSERT INTO Decorazioni (File, Tipo) VALUES ('b.gif', 3)"_s);
+    Elementi form(i.ambiente, nullptr);
+    clicca(form, "RB1(2)");
+    ASSERT_EQ(grid(form).Rows(), 2);
+    EXPECT_EQ(premi(form, "PushButton1"), u"Impossibile cancellare Immagini\npreimpostate nel software !"_s);
+    grid(form).seleziona(1);
+    EXPECT_EQ(premi(form, "PushButton1"), u"Cancello immagine evidenziata ?"_s);
+    EXPECT_EQ(grid(form).Rows(), 2);
+    QString fine;
+    Guida guida;
+    guida.messaggio(nullptr, 1).messaggio(&fine);
+    clicca(form, "PushButton1");
+    EXPECT_EQ(fine, u"Immagine cancellata !"_s);
+    EXPECT_EQ(grid(form).Rows(), 1);
+    EXPECT_EQ(i.valore(u"SELECT count(*) FROM Decorazioni WHERE ID>171"_s).toInt(), 0);
+}
+
+TEST_F(ProvaElementi, CategoriaVuota) {
+    i.esegui(u"DELETE FROM Decorazioni WHERE Tipo=2"_s);
+    Elementi form(i.ambiente, nullptr);
+    clicca(form, "RB1(1)");
+    EXPECT_EQ(trova<AnteprimaImmagine>(form, "Image1").testo(), u"Nessuna immagine in questa categoria"_s);
+    clicca(form, "PushButton1");
+    clicca(form, "PushButton3");
+    EXPECT_EQ(aggiungi(form, immagine(u"z.bmp"_s)), u"Memorizzazione e Copia effettuate !"_s);
+    EXPECT_EQ(grid(form).Rows(), 1);
+}
+
+TEST_F(ProvaElementi, Aspetto) {
+    Elementi form(i.ambiente, nullptr);
+    form.show();
+    EXPECT_EQ(didascalieTagliate(form), QStringList());
+    fotografa(form);
+    Guida guida;
+    guida.quando("AnteprimaImmagini", [](QWidget &w) {
+        EXPECT_EQ(trova<AnteprimaImmagine>(w, "Image1").stato(), AnteprimaImmagine::Stato::Mostrata);
+        fotografa(w);
+        w.close();
+    });
+    grid(form).seleziona(2);
+    clicca(form, "PushButton3");
+}
+
+} // namespace
+} // namespace zuvora
