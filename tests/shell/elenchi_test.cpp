@@ -37,8 +37,8 @@ TEST(Volumi, IlPiuInterno) {
 
 class Elenchi : public testing::Test {
 protected:
+    static void SetUpTestSuite() { preparaApplicazione(); } // before the members: widgets need it
     Elenchi() {
-        preparaApplicazione();
         for (const char *nome : {"b.JPG", "A.bmp", "c.jpeg", "d.jpg.txt", "Ç è.jpg"})
             crea(QString::fromUtf8(nome));
         QDir(radice.path()).mkpath(u"Zeta"_s);
