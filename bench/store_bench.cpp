@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <benchmark/benchmark.h>
+#include <chrono>
 #include <sqlite3.h>
 
 namespace {
@@ -90,42 +91,84 @@ private:
     int m_comuni = 0;
 };
 
-void salvaNostro(benchmark::State &stato) {
-    const Banco banco;
-    Data d;
-    double valore = 0;
-    for (auto _ : stato) {
-        Recordset &rs = apri(d, banco.cartella(), u"Layout1"_s);
-        for (int riga = 0; riga < kRighe; ++riga) {
-            rs.Edit();
-            for (const char16_t *colonna : kColonne)
-                rs[colonna].SetValue(valore);
-            rs.Update();
-            rs.MoveNext();
-            valore += 1;
-        }
-    }
-    stato.counters["limite"] = 1.2;
+using Orologio = std::chrono::steady_clock;
+
+double secondi(Orologio::time_point da) {
+    return std::chrono::duration<double>(Orologio::now() - da).count();
 }
 
-void salvaMetro(benchmark::State &stato) {
-    const Banco banco;
-    QByteArray sql = "UPDATE Layout1 SET ";
-    for (size_t i = 0; i < kColonne.size(); ++i)
-        sql += (i > 0 ? ",[" : "[") + QString::fromUtf16(kColonne.at(i)).toUtf8() + "]=?" + QByteArray::number(i + 1);
-    sqlite3_stmt *s = banco.prepara(sql + " WHERE rowid=?17");
-    double valore = 0;
-    for (auto _ : stato) {
-        for (int riga = 1; riga <= kRighe; ++riga) {
-            for (int i = 1; i <= 16; ++i)
-                sqlite3_bind_double(s, i, valore);
-            sqlite3_bind_int(s, 17, riga);
-            sqlite3_step(s);
-            sqlite3_reset(s);
-            valore += 1;
-        }
+// 70 rows saved by both sides in turns, update by update, each on a file of its own. Where other programs keep the disk
+// busy a single update takes anything from one to fifty milliseconds: a side's time is 70 times its median update.
+class Salvataggio {
+public:
+    Salvataggio() {
+        QByteArray sql = "UPDATE Layout1 SET ";
+        for (size_t i = 0; i < kColonne.size(); ++i)
+            sql +=
+                (i > 0 ? ",[" : "[") + QString::fromUtf16(kColonne.at(i)).toUtf8() + "]=?" + QByteArray::number(i + 1);
+        m_aggiorna = m_metro.prepara(sql + " WHERE rowid=?17");
     }
-    sqlite3_finalize(s);
+    ~Salvataggio() { sqlite3_finalize(m_aggiorna); }
+    Salvataggio(const Salvataggio &) = delete;
+    Salvataggio &operator=(const Salvataggio &) = delete;
+
+    struct Tempi {
+        double nostro = 0;
+        double metro = 0;
+    };
+    Tempi salva() {
+        std::array<double, kRighe> nostri{};
+        std::array<double, kRighe> metri{};
+        auto inizio = Orologio::now();
+        Recordset &rs = apri(m_dato, m_nostro.cartella(), u"Layout1"_s);
+        const double apertura = secondi(inizio);
+        for (size_t riga = 0; riga < kRighe; ++riga) {
+            m_valore += 1;
+            inizio = Orologio::now();
+            aggiornaNostra(rs);
+            nostri.at(riga) = secondi(inizio);
+            inizio = Orologio::now();
+            aggiornaMetro(static_cast<int>(riga) + 1);
+            metri.at(riga) = secondi(inizio);
+        }
+        return {apertura + kRighe * mediana(nostri), kRighe * mediana(metri)};
+    }
+
+private:
+    static double mediana(std::array<double, kRighe> &tempi) {
+        std::ranges::nth_element(tempi, tempi.begin() + kRighe / 2);
+        return tempi.at(kRighe / 2);
+    }
+    void aggiornaNostra(Recordset &rs) const {
+        rs.Edit();
+        for (const char16_t *colonna : kColonne)
+            rs[colonna].SetValue(m_valore);
+        rs.Update();
+        rs.MoveNext();
+    }
+    void aggiornaMetro(int riga) const {
+        for (int i = 1; i <= 16; ++i)
+            sqlite3_bind_double(m_aggiorna, i, m_valore);
+        sqlite3_bind_int(m_aggiorna, 17, riga);
+        sqlite3_step(m_aggiorna);
+        sqlite3_reset(m_aggiorna);
+    }
+
+    Banco m_nostro;
+    Banco m_metro;
+    Data m_dato;
+    sqlite3_stmt *m_aggiorna = nullptr;
+    double m_valore = 0;
+};
+
+void salvaNostro(benchmark::State &stato) {
+    Salvataggio salvataggio;
+    for (auto _ : stato) {
+        const auto [nostro, metro] = salvataggio.salva();
+        stato.SetIterationTime(nostro);
+        stato.counters["metro"] = metro * 1000;
+    }
+    stato.counters["limite"] = 1.2;
 }
 
 void cercaNostro(benchmark::State &stato, const QString &testo) {
@@ -162,16 +205,20 @@ void cercaMetro(benchmark::State &stato, const QString &testo) {
 
 const bool kRegistrate = [] {
     const auto prepara = [](benchmark::internal::Benchmark *b, int ripetizioni) {
-        b->Unit(benchmark::kMillisecond)->UseRealTime()->Repetitions(ripetizioni)->ReportAggregatesOnly();
+        b->Unit(benchmark::kMillisecond)->Repetitions(ripetizioni)->ReportAggregatesOnly();
         b->ComputeStatistics("min", [](const std::vector<double> &v) { return *std::ranges::min_element(v); });
     };
-    prepara(benchmark::RegisterBenchmark("salva70/nostro", salvaNostro)->Iterations(1), 25);
-    prepara(benchmark::RegisterBenchmark("salva70/metro", salvaMetro)->Iterations(1), 25);
+    prepara(benchmark::RegisterBenchmark("salva70/nostro", salvaNostro)->UseManualTime()->Iterations(1), 20);
     for (const auto &[nome, testo] :
          {std::pair("comuni_rom", u"rom"_s), std::pair("comuni_s", u"s"_s), std::pair("comuni_tutti", QString())}) {
         const std::string inizio = nome;
-        prepara(benchmark::RegisterBenchmark((inizio + "/nostro").c_str(), cercaNostro, testo)->MinTime(0.05), 9);
-        prepara(benchmark::RegisterBenchmark((inizio + "/metro").c_str(), cercaMetro, testo)->MinTime(0.05), 9);
+        prepara(benchmark::RegisterBenchmark((inizio + "/nostro").c_str(), cercaNostro, testo)
+                    ->UseRealTime()
+                    ->MinTime(0.05),
+                9);
+        prepara(
+            benchmark::RegisterBenchmark((inizio + "/metro").c_str(), cercaMetro, testo)->UseRealTime()->MinTime(0.05),
+            9);
     }
     return true;
 }();

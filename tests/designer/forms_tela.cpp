@@ -105,6 +105,7 @@ TEST(Tela, QuantoSiRidipingeEUgualeAUnaPitturaNuova) {
 }
 
 TEST(Tela, AltezzaDelTestoInPuntiDellaTela) {
+    preparaApplicazione();
     // 72 points are 1440 twips, 96 pixels, whatever the screen's own resolution.
     QImage tela(10, 10, QImage::Format_RGB32);
     tela.setDotsPerMeterY(3780);

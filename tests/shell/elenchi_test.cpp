@@ -37,8 +37,8 @@ TEST(Volumi, IlPiuInterno) {
 
 class Elenchi : public testing::Test {
 protected:
+    static void SetUpTestSuite() { preparaApplicazione(); } // before the members: widgets need it
     Elenchi() {
-        preparaApplicazione();
         for (const char *nome : {"b.JPG", "A.bmp", "c.jpeg", "d.jpg.txt", "Ç è.jpg"})
             crea(QString::fromUtf8(nome));
         QDir(radice.path()).mkpath(u"Zeta"_s);
@@ -71,8 +71,9 @@ TEST_F(Elenchi, FileDelModelloInOrdine) {
     EXPECT_EQ(elenco.ListCount(), 0);
     elenco.setPath(u"/"_s);
     elenco.setPattern(u"*"_s);
-    if (elenco.ListCount() > 0)
+    if (elenco.ListCount() > 0) {
         EXPECT_EQ(elenco.percorso(0), u'/' + elenco.List(0)) << "one separator in a root";
+    }
 }
 
 TEST_F(Elenchi, UnClicUnSegnale) {

@@ -212,6 +212,9 @@ TEST(Messaggi, RigheERisposte) {
     } casi[] = {{QString(), false, 0, RispostaResta},
                 {u"seconda riga"_s, true, 1, RispostaConferma},
                 {u"seconda riga"_s, true, 0, RispostaResta},
+                {u"Il database «Zuvora.mdb» è bloccato da un altro programma: la riga 37 di 70 non è stata scritta. Chiudere "
+                 u"l'altro programma e salvare di nuovo."_s,
+                 true, 0, RispostaResta},
                 {QString(), true, -1, RispostaResta}};
     for (const auto &caso : casi) {
         Guida guida;

@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <gmock/gmock.h>
 
-// Read by AddressSanitizer, if it is there, before ASAN_OPTIONS. The web engine frees some of its own objects by the size
-// of a base class; our own code has no such line.
+// Read by AddressSanitizer, if it is there, before ASAN_OPTIONS. The web engine frees some of its own objects by the
+// size of a base class; our own code has no such line.
 extern "C" const char *__asan_default_options();
 extern "C" const char *__asan_default_options() {
     return "new_delete_type_mismatch=0";

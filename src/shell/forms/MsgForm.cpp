@@ -6,6 +6,15 @@ namespace {
 constexpr int Chiudi = 0;
 constexpr int Conferma = 1;
 
+// A text that needs more than its line keeps its place at the gap between the two: the first grows upwards, the second
+// downwards.
+void faiPosto(Label &label, bool versoAlto) {
+    const Posto posto = label.posto();
+    const int serve = twipsDa(misuraDidascalia(label.Caption(), label.font(), pixelDa(posto).width()).height());
+    if (serve > posto.height)
+        label.setPosto({posto.left, versoAlto ? posto.top + posto.height - serve : posto.top, posto.width, serve});
+}
+
 } // namespace
 
 MsgForm::MsgForm(const Ambiente &ambiente_, const QString &riga0, const QString &riga1, bool domanda, QWidget *padre)
@@ -22,6 +31,7 @@ MsgForm::MsgForm(const Ambiente &ambiente_, const QString &riga0, const QString 
     for (const auto &[indice, label] : Label2) {
         label->setCaption(righe[indice]);
         label->setVisible(!righe[indice].isEmpty());
+        faiPosto(*label, indice == 0);
     }
     PB1(Conferma).setVisible(domanda);
     setAccessibleName(Label1.Caption());

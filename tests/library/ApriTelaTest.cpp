@@ -1,0 +1,67 @@
+// From the selection to the canvas and its dialogs, and back through a save.
+#include "library/forms/ApriTela.h"
+#include "kit/Guida.h"
+#include "kit/InstallazioneProva.h"
+#include "library/forms/SceltaLayout.h"
+
+#include <QDir>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+TEST(ApriTela, UnaDecorazioneDalCatalogoArrivaNellaTabella) {
+    InstallazioneProva i;
+    i.esegui(u"UPDATE Configurazione SET qualelayout=4; UPDATE Layout4 SET Visibile=0"_s);
+    SceltaLayout form(
+        i.ambiente, [&](const QString &tabella, QWidget *padre) { apriTela(i.ambiente, 3, tabella, padre); }, nullptr);
+    Guida guida;
+    guida.premi("Form1", "Btn(8)");
+    guida.quando("ImpostaCornice", [](QWidget &w) {
+        clicca(w, "RB1(2)");
+        clicca(w, "SecondoPiano");
+        clicca(w, "Btn(0)");
+    });
+    guida.premi("Form1", "Btn(16)").messaggio(nullptr).premi("Form1", "Btn(17)");
+    clicca(form, "PB1(3)");
+    const QString file = i.valore(u"SELECT min(File) FROM Decorazioni WHERE Tipo=3"_s).toString();
+    EXPECT_EQ(
+        i.righe(
+            u"SELECT Visibile, FontBold, top, left, Larghezza, Altezza, PercorsoImmagine FROM Layout4 WHERE rowid=35"_s),
+        QStringList{u"1|0|0|0|1905|1305|"_s + i.file(u"ZuvoraDecorazioni/Elementi/"_s + file)});
+    EXPECT_EQ(i.valori.LayoutCorrente, u"Layout4"_s);
+}
+
+TEST(ApriTela, LoSfondoSiImpostaESiElimina) {
+    InstallazioneProva i;
+    i.esegui(u"UPDATE Layout1 SET PercorsoImmagine=NULL WHERE rowid=32"_s);
+    const QString prima = QDir::currentPath();
+    QDir::setCurrent(i.file(u"ZuvoraSfondiHD"_s));
+    const QString primoFile =
+        QDir::current().entryList({u"*.jpg"_s}, QDir::Files, QDir::Name | QDir::IgnoreCase).value(0);
+    QStringList salvati;
+    Guida guida;
+    for (const bool elimina : {false, true}) {
+        guida.premi("Form1", "Btn(6)");
+        guida.quando("ImpostaSfondo", [elimina](QWidget &w) {
+            QTest::keyClick(w.findChild<QWidget *>(u"File1"_s), Qt::Key_Down);
+            clicca(w, "PushButton1");
+            if (elimina)
+                clicca(w, "PushButton3");
+            clicca(w, "Command5");
+        });
+        guida.premi("Form1", "Btn(16)").messaggio(nullptr);
+        guida.quando("Form1", [&](QWidget &) {
+            salvati << i.valore(u"SELECT PercorsoImmagine FROM Layout1 WHERE rowid=32"_s).toString();
+        });
+    }
+    guida.premi("Form1", "Btn(17)");
+    apriTela(i.ambiente, 3, u"Layout1"_s, nullptr);
+    QDir::setCurrent(prima);
+    EXPECT_EQ(salvati, QStringList({i.file(u"ZuvoraSfondiHD/"_s + primoFile), QString()}));
+}
+
+} // namespace
+} // namespace zuvora
