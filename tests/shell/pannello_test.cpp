@@ -209,13 +209,14 @@ TEST(Messaggi, RigheERisposte) {
         bool domanda;
         int bottone; // -1: closed by the frame
         int risposta;
-    } casi[] = {{QString(), false, 0, RispostaResta},
-                {u"seconda riga"_s, true, 1, RispostaConferma},
-                {u"seconda riga"_s, true, 0, RispostaResta},
-                {u"Il database «Zuvora.mdb» è bloccato da un altro programma: la riga 37 di 70 non è stata scritta. Chiudere "
-                 u"l'altro programma e salvare di nuovo."_s,
-                 true, 0, RispostaResta},
-                {QString(), true, -1, RispostaResta}};
+    } casi[] = {
+        {QString(), false, 0, RispostaResta},
+        {u"seconda riga"_s, true, 1, RispostaConferma},
+        {u"seconda riga"_s, true, 0, RispostaResta},
+        {u"Il database «Zuvora.mdb» è bloccato da un altro programma: la riga 37 di 70 non è stata scritta. Chiudere "
+         u"l'altro programma e salvare di nuovo."_s,
+         true, 0, RispostaResta},
+        {QString(), true, -1, RispostaResta}};
     for (const auto &caso : casi) {
         Guida guida;
         guida.quando("MsgForm", [&](QWidget &form) {

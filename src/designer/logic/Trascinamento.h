@@ -18,9 +18,10 @@ struct GeometriaForm {
     double twipsPerPixelY = 15;
 };
 
-// The outline drag: a press begins a move or a resize, moves carry the outline, the left release gives it to the element.
-// Positions are those of the events, in screen pixels; each move counts from the press, never from the last move. After
-// each call the form draws RettangoloTrascinamento while `inCorso`, and the handles while `maniglieVisibili`.
+// The outline drag: a press begins a move or a resize, moves carry the outline, the left release gives it to the
+// element. Positions are those of the events, in screen pixels; each move counts from the press, never from the last
+// move. After each call the form draws RettangoloTrascinamento while `inCorso`, and the handles while
+// `maniglieVisibili`.
 class Trascinamento {
 public:
     enum class Stato { Fermo = 0, Spostamento = 1, Ridimensionamento = 2 };

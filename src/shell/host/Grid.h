@@ -27,7 +27,7 @@ public:
     // Binds the list. Each Refresh of `dato` fills it again and selects the first row. `dato` must outlive the grid.
     void lega(Data &dato);
     int Rows() const;
-    int Row() const; // 0-based, -1 without a selected row
+    int Row() const;          // 0-based, -1 without a selected row
     void seleziona(int riga); // and brings it into view; the row becomes the current record
     QString testo(int riga, int colonna) const;
     void ridisegna(); // after a change of the current record

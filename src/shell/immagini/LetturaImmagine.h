@@ -17,8 +17,8 @@ enum class Riduzione {
     Proporzioni, // to fit into the room, proportions kept
     Riempi       // to exactly the room
 };
-// The picture, reduced when it is larger than `massimo` (pixels) in either direction, never enlarged. Null when it can't
-// be read.
+// The picture, reduced when it is larger than `massimo` (pixels) in either direction, never enlarged. Null when it
+// can't be read.
 QImage leggiImmagine(const QString &percorso, const QSize &massimo, Riduzione riduzione = Riduzione::Proporzioni);
 
 } // namespace zuvora
