@@ -85,9 +85,13 @@ TEST_F(ProvaCornice, IlFileMancanteOIllegibileNonSiApplica) {
 
 TEST_F(ProvaCornice, Aspetto) {
     ImpostaCornice form(i.ambiente, 7, nullptr);
+    auto &grid = trova<Grid>(form, "grid");
     form.show();
     EXPECT_EQ(didascalieTagliate(form), QStringList());
     fotografa(form);
+    for (int riga = 0; riga < grid.Rows() && !grid.testo(riga, 0).startsWith(u"cornice_bianca"_s); ++riga)
+        grid.seleziona(riga + 1);
+    fotografa(form, u"ImpostaCornice-bianca"_s);
     i.esegui(u"UPDATE Decorazioni SET File=' manca con un nome lungo davvero lungo.gif' WHERE Tipo=1 AND ID=1"_s);
     clicca(form, "RB1(0)");
     fotografa(form, u"ImpostaCornice-manca"_s);

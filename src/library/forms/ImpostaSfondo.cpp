@@ -56,6 +56,7 @@ void ImpostaSfondo::cambiaCartella() {
 
 void ImpostaSfondo::clicFile() {
     SfondoScelto = File1.percorso(File1.ListIndex());
+    Label1.hide();
     Image1.mostra(SfondoScelto);
     // The control's own size: it doesn't change with the picture.
     F1.setText(QString::number(Image1.posto().width / TwipsPerPixel));

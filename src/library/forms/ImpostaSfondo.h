@@ -42,7 +42,7 @@ private:
     Button PushButton1{this, "PushButton1", "Imposta", {6360, 1560, 1575, 330}};
     Button PushButton3{this, "PushButton3", "Elimina", {6360, 1920, 1575, 330}};
     Button Command5{this, "Command5", "C&hiudi", {6360, 2280, 1575, 330}};
-    // The preview covers its heading as soon as there is a picture.
+    // The heading stands where the picture comes, until there is one.
     Label Label1{this, "Label1", "Anteprima Foto", {3840, 5880, 3015, 495}};
     AnteprimaImmagine Image1{this, "Image1", {120, 2940, 7935, 5895}};
 };

@@ -3,6 +3,7 @@
 #include "shell/immagini/LetturaImmagine.h"
 
 #include <QFileInfo>
+#include <QPainter>
 #include <QPromise>
 #include <QThreadPool>
 
@@ -17,6 +18,16 @@ constexpr qint64 SubitoFinoA = 3'000'000;
 bool eGrande(const QString &percorso) {
     const QSize misura = misuraImmagine(percorso);
     return misura.isEmpty() || qint64{misura.width()} * misura.height() > SubitoFinoA;
+}
+
+QPixmap scacchiera(const QPalette &palette) {
+    constexpr int Casella = 8; // pixels
+    QPixmap quadro(2 * Casella, 2 * Casella);
+    quadro.fill(palette.color(QPalette::Base));
+    QPainter pittore(&quadro);
+    pittore.fillRect(0, 0, Casella, Casella, palette.color(QPalette::Midlight));
+    pittore.fillRect(Casella, Casella, Casella, Casella, palette.color(QPalette::Midlight));
+    return quadro;
 }
 
 } // namespace
@@ -81,9 +92,16 @@ void AnteprimaImmagine::concludi(const QImage &letta) {
         return;
     }
     m_stato = Stato::Mostrata;
+    m_trasparente = letta.hasAlphaChannel();
     setTesto({});
     setImmagine(QPixmap::fromImage(letta));
     Q_EMIT cambiata();
+}
+
+void AnteprimaImmagine::paintEvent(QPaintEvent *e) {
+    if (m_stato == Stato::Mostrata && m_trasparente)
+        QPainter(this).fillRect(rect(), QBrush(scacchiera(palette())));
+    PictureBox::paintEvent(e);
 }
 
 void AnteprimaImmagine::fallisci(Stato stato) {

@@ -9,7 +9,7 @@ namespace zuvora {
 
 // The preview of a picture file, stretched to the control's size. A small picture is there at once; a large one is
 // decoded beside the user interface, and of several asked for meanwhile only the last is shown. What can't be shown is
-// said in the control itself.
+// said in the control itself; what can be seen through lies on a chequered ground.
 class AnteprimaImmagine : public PictureBox {
     Q_OBJECT
 public:
@@ -28,6 +28,9 @@ public:
 Q_SIGNALS:
     void cambiata(); // a picture, or the reason why there is none, stands in the control
 
+protected:
+    void paintEvent(QPaintEvent *e) override;
+
 private:
     void leggiAParte(const QSize &misura);
     void concludi(const QImage &letta);
@@ -35,6 +38,7 @@ private:
 
     QString m_percorso;
     Stato m_stato = Stato::Vuota;
+    bool m_trasparente = false;
     QFutureWatcher<QImage> m_attesa;
 };
 
