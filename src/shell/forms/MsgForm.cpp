@@ -49,9 +49,10 @@ void MsgForm::allunga() {
     int discesa = 0; // twips
     for (const auto &[indice, label] : Label2) {
         Posto p = label->posto();
-        const int serve = twipsDa(misuraDidascalia(label->Caption(), label->font(), pixelDa(p).width()).height());
-        const int cresce = label->Caption().isEmpty() ? 0 : std::max(0, serve - p.height);
         p.top += discesa;
+        const bool tagliata = didascaliaTagliata(label.get());
+        const int serve = twipsDa(misuraDidascalia(label->Caption(), font(), pixelDa(p).width()).height());
+        const int cresce = tagliata ? std::max(0, serve - p.height) : 0;
         p.height += cresce;
         label->setPosto(p);
         discesa += cresce;
