@@ -35,28 +35,12 @@ MsgForm::MsgForm(const Ambiente &ambiente_, const QString &riga0, const QString 
         label->setVisible(!righe[indice].isEmpty());
         faiPosto(*label, indice == 0);
     }
-    allunga();
     PB1(Conferma).setVisible(domanda);
     setAccessibleName(Label1.Caption());
     setAccessibleDescription(riga0 + QLatin1Char(' ') + riga1);
     alClic(PB1, [this](int indice) { rispondi(indice == Conferma ? RispostaConferma : RispostaResta); });
     valori().RispostaMessaggio = RispostaResta; // what stands when the form is closed by its frame
     PB1(Chiudi).setFocus();
-}
-
-// A reason that needs more than its line grows downwards and moves what stands below it.
-void MsgForm::allunga() {
-    int discesa = 0; // twips
-    for (const auto &[indice, label] : Label2) {
-        Posto p = label->posto();
-        p.top += discesa;
-        const bool tagliata = didascaliaTagliata(label.get());
-        const int serve = twipsDa(misuraDidascalia(label->Caption(), font(), pixelDa(p).width()).height());
-        const int cresce = tagliata ? std::max(0, serve - p.height) : 0;
-        p.height += cresce;
-        label->setPosto(p);
-        discesa += cresce;
-    }
 }
 
 void MsgForm::rispondi(int risposta) {

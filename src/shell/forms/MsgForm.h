@@ -11,7 +11,6 @@ public:
     MsgForm(const Ambiente &ambiente, const QString &riga0, const QString &riga1, bool domanda, QWidget *padre);
 
 private:
-    void allunga();
     void rispondi(int risposta);
 
     PictureBox Image1;

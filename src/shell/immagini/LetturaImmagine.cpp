@@ -47,7 +47,7 @@ QImage leggiImmagine(const QString &percorso, const QSize &massimo, Riduzione ri
     // A large photo would not fit the decoder's memory limit at its full size, and takes many times longer.
     if (const QSize misura = lettore.size(); misura.isValid() && supera(misura, massimo))
         lettore.setScaledSize(ridotta(misura, massimo, riduzione));
-    const QImage letta = lettore.read();
+    QImage letta = lettore.read();
     if (!letta.isNull() && supera(letta.size(), massimo)) // a format that doesn't tell its size before decoding
         return letta.scaled(ridotta(letta.size(), massimo, riduzione), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return letta;
