@@ -1,7 +1,5 @@
 #include "shell/forms/MsgForm.h"
 
-#include <algorithm>
-
 namespace zuvora {
 namespace {
 
@@ -10,9 +8,9 @@ constexpr int Conferma = 1;
 
 // A text that needs more than its line keeps its place at the gap between the two: the first grows upwards, the second
 // downwards.
-void faiPosto(Label &label, bool versoAlto) {
+void faiPosto(Label &label, const QFont &font, bool versoAlto) {
     const Posto posto = label.posto();
-    const int serve = twipsDa(misuraDidascalia(label.Caption(), label.font(), pixelDa(posto).width()).height());
+    const int serve = twipsDa(misuraDidascalia(label.Caption(), font, pixelDa(posto).width()).height());
     if (serve > posto.height)
         label.setPosto({posto.left, versoAlto ? posto.top + posto.height - serve : posto.top, posto.width, serve});
 }
@@ -33,7 +31,7 @@ MsgForm::MsgForm(const Ambiente &ambiente_, const QString &riga0, const QString 
     for (const auto &[indice, label] : Label2) {
         label->setCaption(righe[indice]);
         label->setVisible(!righe[indice].isEmpty());
-        faiPosto(*label, indice == 0);
+        faiPosto(*label, font(), indice == 0);
     }
     PB1(Conferma).setVisible(domanda);
     setAccessibleName(Label1.Caption());
