@@ -1,7 +1,5 @@
 #include "shell/forms/MsgForm.h"
 
-#include <algorithm>
-
 namespace zuvora {
 namespace {
 
