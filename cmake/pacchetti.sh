@@ -1,6 +1,6 @@
 # The Debian packages that the two commands need, and how they get onto the machine. Sourced, not run.
 
-PACCHETTI_BASE=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-webengine-dev libsqlite3-dev libgl-dev
+PACCHETTI_BASE=(g++ cmake ninja-build pkg-config qt6-base-dev libqt6opengl6-dev qt6-webengine-dev libqt6webenginecore6-bin libsqlite3-dev libgl-dev
     qt6-image-formats-plugins qt6-translations-l10n fonts-wine fonts-liberation2 fonts-urw-base35)
 PACCHETTI_PROVE=(libgtest-dev libgmock-dev libbenchmark-dev)
 PACCHETTI_CONTROLLI=(clang-format clang-tidy)
@@ -17,7 +17,7 @@ installa_mancanti() {
     [ "$(id -u)" -eq 0 ] || prima=(sudo)
     echo "Installo: ${mancanti[*]}"
     "${prima[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -q >/dev/null
-    "${prima[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${mancanti[@]}" >/dev/null
+    "${prima[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q "${mancanti[@]}" >/dev/null
 }
 
 # Puts the programs just built into an installation that exists already; its data stay as they are.

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPixmap>
 #include <QPointer>
 #include <gtest/gtest.h>
@@ -93,6 +94,15 @@ QStringList didascalieTagliate(QWidget &form) {
         if (didascaliaTagliata(w))
             tagliate << w->objectName();
     return tagliate;
+}
+
+QStringList campiSenzaNome(QWidget &form) {
+    QStringList senza;
+    const auto campi = form.findChildren<QLineEdit *>();
+    for (const QLineEdit *campo : campi)
+        if (campo->isVisibleTo(&form) && campo->accessibleName().isEmpty())
+            senza << campo->objectName();
+    return senza;
 }
 
 void fotografa(QWidget &form, const QString &nome) {

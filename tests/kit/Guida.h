@@ -44,6 +44,8 @@ template <class W> W &trova(QWidget &radice, const char *nome) {
 void clicca(QWidget &radice, const char *nome);
 // Captions of the form that need more room than they have.
 QStringList didascalieTagliate(QWidget &form);
+// Fields of the form that a screen reader could not name.
+QStringList campiSenzaNome(QWidget &form);
 // Saves a picture of the form when the environment names a folder for it (ZUVORA_IMMAGINI).
 void fotografa(QWidget &form, const QString &nome = {});
 

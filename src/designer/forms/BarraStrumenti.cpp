@@ -6,7 +6,8 @@
 #include "shell/disegni/Tavolozza.h"
 
 #include <QPainter>
-#include <ranges>
+#include <algorithm>
+#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -44,6 +45,13 @@ constexpr std::array figure{
 
 Disegno figuraDi(int indice) {
     return std::ranges::find(figure, indice, &Figura::indice)->disegno;
+}
+
+std::vector<int> indiciBottoni() {
+    std::vector<int> indici;
+    for (const BottoneStrumenti &b : bottoniStrumenti())
+        indici.push_back(b.indice);
+    return indici;
 }
 
 std::unique_ptr<Button> creaBottone(QWidget *padre, int indice, const char *nome) {
@@ -90,7 +98,7 @@ QLabel *creaDidascalia(QWidget *form) {
 
 BarraStrumenti::BarraStrumenti(QWidget *form, Bersaglio::Gestore striscia, Bersaglio::Gestore presa)
     : QWidget(form), GroupBox2(this, "GroupBox2", "", PostoGruppo),
-      Btn("Btn", bottoniStrumenti() | std::views::transform(&BottoneStrumenti::indice),
+      Btn("Btn", indiciBottoni(),
           [this](int indice, const char *nome) { return creaBottone(&GroupBox2, indice, nome); }),
       m_didascalia(creaDidascalia(form)) {
     setObjectName(u"SSPanel1"_s);

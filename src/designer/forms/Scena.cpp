@@ -29,7 +29,7 @@ void Scena::mostra(QPainter &p, const QRegion &parte, qreal scala) {
 
 QRegion Scena::aggiorna(int numero) {
     const QRect ora = posto(numero);
-    const QRegion parte = QRegion(std::exchange(m_posti[static_cast<std::size_t>(numero)], ora)).united(ora);
+    QRegion parte = QRegion(std::exchange(m_posti[static_cast<std::size_t>(numero)], ora)).united(ora);
     dipingi(parte);
     return parte;
 }

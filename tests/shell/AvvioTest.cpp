@@ -1,7 +1,7 @@
 // The start of the program, orderly and not.
+#include "shell/forms/Avvio.h"
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
-#include "shell/forms/Avvio.h"
 
 #include <QApplication>
 #include <QDir>
@@ -92,6 +92,7 @@ TEST_F(Avvio, AggiornamentoRifiutatoLasciaTuttoComEra) {
     guida.quando("AAAggiorna", [](QWidget &form) {
         EXPECT_EQ(trova<QLineEdit>(form, "text1(0)").text(), u"3.1.10"_s);
         EXPECT_TRUE(didascalieTagliate(form).isEmpty());
+        EXPECT_TRUE(campiSenzaNome(form).isEmpty()) << campiSenzaNome(form).join(u' ').toStdString();
         fotografa(form);
         form.close();
     });

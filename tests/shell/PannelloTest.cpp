@@ -105,6 +105,7 @@ TEST_F(Pannello, UnaPaginaAllaVolta) {
         EXPECT_EQ(pagina.Top(), passo.top);
         EXPECT_EQ(pagina.Left(), 2880);
         EXPECT_TRUE(didascalieTagliate(*pannello).isEmpty()) << didascalieTagliate(*pannello).join(u' ').toStdString();
+        EXPECT_TRUE(campiSenzaNome(*pannello).isEmpty()) << campiSenzaNome(*pannello).join(u' ').toStdString();
         fotografa(*pannello, u"Pagina "_s + passo.titolo.section(u' ', 0, 0));
     }
     clicca(*pannello, "IlMenu");
@@ -128,6 +129,7 @@ TEST_F(Pannello, UscitaNegataLasciaLaPaginaAperta) {
     EXPECT_EQ(prova.valori.RispostaUscita, RispostaResta);
     guida.quando("FormUscita", [](QWidget &form) {
         EXPECT_TRUE(didascalieTagliate(form).isEmpty());
+        EXPECT_TRUE(campiSenzaNome(form).isEmpty()) << campiSenzaNome(form).join(u' ').toStdString();
         fotografa(form);
         form.close();
     });
@@ -160,6 +162,7 @@ TEST_F(Pannello, IlNomeCambiaIDirittiSubito) {
     for (const auto &passo : passi) {
         guida.quando("NomeServer", [&](QWidget &form) {
             EXPECT_TRUE(didascalieTagliate(form).isEmpty());
+            EXPECT_TRUE(campiSenzaNome(form).isEmpty()) << campiSenzaNome(form).join(u' ').toStdString();
             fotografa(form);
             trova<QLineEdit>(form, "text1(1)").setText(passo.nome);
             clicca(form, "Btn(1)");
@@ -223,6 +226,7 @@ TEST(Messaggi, RigheERisposte) {
             EXPECT_EQ(trova<QLabel>(form, "Label2(1)").isHidden(), caso.riga1.isEmpty());
             EXPECT_EQ(trova<QWidget>(form, "PB1(1)").isHidden(), !caso.domanda);
             EXPECT_TRUE(didascalieTagliate(form).isEmpty());
+            EXPECT_TRUE(campiSenzaNome(form).isEmpty()) << campiSenzaNome(form).join(u' ').toStdString();
             fotografa(form);
             if (caso.bottone < 0)
                 form.close();
