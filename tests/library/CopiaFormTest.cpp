@@ -53,6 +53,7 @@ TEST_F(ProvaCopia, LaScopaCancellaIlSuoLayout) {
     guida.quando("CancellaLayout", [](QWidget &w) {
         EXPECT_EQ(trova<QLabel>(w, "Label3").text(), u"10"_s);
         EXPECT_EQ(didascalieTagliate(w), QStringList());
+        EXPECT_EQ(campiSenzaNome(w), QStringList());
         fotografa(w);
         clicca(w, "PB1(1)");
     });
@@ -78,6 +79,7 @@ TEST_F(ProvaCopia, Aspetto) {
     CopiaLayout form(i.ambiente, nullptr);
     form.show();
     EXPECT_EQ(didascalieTagliate(form), QStringList());
+    EXPECT_EQ(campiSenzaNome(form), QStringList());
     fotografa(form);
 }
 

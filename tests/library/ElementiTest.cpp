@@ -134,6 +134,7 @@ TEST_F(ProvaElementi, Aspetto) {
     Elementi form(i.ambiente, nullptr);
     form.show();
     EXPECT_EQ(didascalieTagliate(form), QStringList());
+    EXPECT_EQ(campiSenzaNome(form), QStringList());
     fotografa(form);
     Guida guida;
     guida.quando("AnteprimaImmagini", [](QWidget &w) {

@@ -88,6 +88,7 @@ TEST_F(ProvaCornice, Aspetto) {
     auto &grid = trova<Grid>(form, "grid");
     form.show();
     EXPECT_EQ(didascalieTagliate(form), QStringList());
+    EXPECT_EQ(campiSenzaNome(form), QStringList());
     fotografa(form);
     for (int riga = 0; riga < grid.Rows() && !grid.testo(riga, 0).startsWith(u"cornice_bianca"_s); ++riga)
         grid.seleziona(riga + 1);

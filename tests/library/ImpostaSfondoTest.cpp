@@ -106,6 +106,7 @@ TEST_F(ProvaSfondo, UnaFotoGrandeArrivaSenzaFermareLaForm) {
 TEST_F(ProvaSfondo, Aspetto) {
     const auto form = apri(ModoSfondo::Layout);
     EXPECT_EQ(didascalieTagliate(*form), QStringList());
+    EXPECT_EQ(campiSenzaNome(*form), QStringList());
     fotografa(*form, u"ImpostaSfondo-vuota"_s);
     scegli(*form, 0);
     fotografa(*form);

@@ -122,6 +122,7 @@ TEST_F(ProvaScelta, Aspetto) {
     const auto form = apri();
     form->show();
     EXPECT_EQ(didascalieTagliate(*form), QStringList());
+    EXPECT_EQ(campiSenzaNome(*form), QStringList());
     for (int n = 1; n <= 10; ++n)
         EXPECT_EQ(trova<QPushButton>(*form, qPrintable(u"PPBB1(%1)"_s.arg(n))).toolTip(), u"Pulisce il Layout"_s);
     fotografa(*form);
