@@ -4,7 +4,6 @@
 #include "designer/logic/ValoriIniziali.h"
 
 #include <QDir>
-#include <ranges>
 
 namespace zuvora {
 
@@ -117,7 +116,8 @@ Area DisplayLayout::areaSullaTela(int posto) const {
 }
 
 int DisplayLayout::elementoSotto(double x, double y) const {
-    for (const int posto : std::views::reverse(m_ordine)) {
+    for (auto sopra = m_ordine.crbegin(); sopra != m_ordine.crend(); ++sopra) {
+        const int posto = *sopra;
         const LayoutElement &e = (*this)[posto];
         if (!e.visibile || !contiene(e.area, x, y))
             continue;
