@@ -102,31 +102,6 @@ TEST(Rimozione, OtherNamesDoNothing) {
     EXPECT_TRUE(std::equal(layout.begin(), layout.end(), prima.begin()));
 }
 
-TEST(HitTest, TopmostVisibleElementAnswersAndLabelsLieOnTheirPanel) {
-    DisplayLayout layout(u"Layout1"_s);
-    for (LayoutElement &e : layout) {
-        if (staSullaTela(e.tipo))
-            e.visibile = false;
-    }
-    EXPECT_EQ(layout.elementoSotto(100, 100), -1);
-    LayoutElement &pannello = layout.elemento(TipoElemento::Pannello1, 4);
-    pannello.area = {1000, 1000, 7005, 6495};
-    pannello.visibile = true;
-    EXPECT_EQ(layout[layout.elementoSotto(1000, 1000)].nome(), u"Pannello1(4)");
-    EXPECT_EQ(layout[layout.elementoSotto(1960, 3880)].nome(), u"Text1(12)");
-    EXPECT_EQ(layout[layout.elementoSotto(1300, 2090)].nome(), u"Text1(14)"); // panel 4 has its service higher
-    layout.elemento(TipoElemento::Text1, 12).visibile = false;
-    EXPECT_EQ(layout[layout.elementoSotto(1960, 3880)].nome(), u"Pannello1(4)");
-    LayoutElement &cornice = layout.elemento(TipoElemento::Image1, 3);
-    cornice.area = {900, 900, 8000, 8000};
-    cornice.visibile = true;
-    layout.impostaPiano(3, true);
-    EXPECT_EQ(layout[layout.elementoSotto(1960, 3880)].nome(), u"Image1(3)");
-    layout.impostaPiano(3, false);
-    EXPECT_EQ(layout[layout.elementoSotto(1960, 3880)].nome(), u"Pannello1(4)");
-    EXPECT_EQ(layout[layout.elementoSotto(950, 950)].nome(), u"Image1(3)");
-}
-
 } // namespace
 
 } // namespace zuvora::prova

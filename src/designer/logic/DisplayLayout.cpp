@@ -19,10 +19,6 @@ constexpr std::array ordineIniziale{
     TipoElemento::Image1, TipoElemento::Pannello1, TipoElemento::IM1, TipoElemento::MP1,   TipoElemento::WB1,
     TipoElemento::WB2,    TipoElemento::LeNews,    TipoElemento::YT,  TipoElemento::Text2, TipoElemento::Text9};
 
-bool contiene(const Area &a, double x, double y) {
-    return x >= a.left && x < a.left + a.width && y >= a.top && y < a.top + a.height;
-}
-
 } // namespace
 
 QString tabellaLayout(int numero) {
@@ -113,24 +109,6 @@ Area DisplayLayout::areaSullaTela(int posto) const {
         return e.area;
     const Area &pannello = elemento(TipoElemento::Pannello1, e.indice / 3).area;
     return {pannello.left + e.area.left, pannello.top + e.area.top, e.area.width, e.area.height};
-}
-
-int DisplayLayout::elementoSotto(double x, double y) const {
-    for (auto sopra = m_ordine.crbegin(); sopra != m_ordine.crend(); ++sopra) {
-        const int posto = *sopra;
-        const LayoutElement &e = (*this)[posto];
-        if (!e.visibile || !contiene(e.area, x, y))
-            continue;
-        if (e.tipo != TipoElemento::Pannello1)
-            return posto;
-        const int prima = postoDi(TipoElemento::Text1, 3 * e.indice);
-        for (int etichetta = prima + 2; etichetta >= prima; --etichetta) {
-            if ((*this)[etichetta].visibile && contiene(areaSullaTela(etichetta), x, y))
-                return etichetta;
-        }
-        return posto;
-    }
-    return -1;
 }
 
 } // namespace zuvora

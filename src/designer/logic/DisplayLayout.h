@@ -66,8 +66,6 @@ public:
 
     // An element's place on the canvas in twips: a label's panel and its place in it taken together.
     Area areaSullaTela(int posto) const;
-    // The topmost visible element at a point of the canvas (twips), -1 on the bare canvas.
-    int elementoSotto(double x, double y) const;
 
 private:
     QString m_nomeTabella;
