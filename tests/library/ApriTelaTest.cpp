@@ -1,5 +1,6 @@
 // From the selection to the canvas and its dialogs, and back through a save.
 #include "library/forms/ApriTela.h"
+#include "Composizione.h"
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
 #include "library/forms/SceltaLayout.h"
@@ -61,6 +62,20 @@ TEST(ApriTela, LoSfondoSiImpostaESiElimina) {
     apriTela(i.ambiente, 3, u"Layout1"_s, nullptr);
     QDir::setCurrent(prima);
     EXPECT_EQ(salvati, QStringList({i.file(u"ZuvoraSfondiHD/"_s + primoFile), QString()}));
+}
+
+TEST(ApriTela, IlPannelloApreSelezioneECatalogo) {
+    InstallazioneProva i;
+    SplasModule pannello(i.ambiente, apritoriDelPannello(), QUrl());
+    Guida guida;
+    guida.premi("SceltaLayout", "PB1(0)");
+    clicca(pannello, "PB1(7)");
+    guida.quando("Elementi", [&](QWidget &form) {
+        EXPECT_EQ(trova<Label>(pannello, "Comando").Caption(), u"Gestione Decorazioni"_s);
+        clicca(form, "Command5");
+    });
+    clicca(pannello, "PushButton2");
+    EXPECT_EQ(trova<Label>(pannello, "Comando").Caption(), QString());
 }
 
 } // namespace
