@@ -1,5 +1,6 @@
 // The designer's canvas: a layout of 70 rows with 25 decorations and a background of 1920 x 1080, from its table to the
 // painted form, and one move of the mouse with an outline on it.
+#include "Applicazione.h"
 #include "designer/forms/Form1.h"
 #include "designer/logic/ImmaginiQt.h"
 #include "designer/logic/LetturaLayout.h"
@@ -9,7 +10,6 @@
 #include "shell/host/Stile.h"
 #include "shell/store/Data.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QMouseEvent>
 #include <QPainter>
@@ -34,16 +34,6 @@ CREATE TABLE Configurazione(MisuraFormLeft REAL, MisuraFormTop REAL);
 INSERT INTO Configurazione VALUES(0, 0);
 CREATE TABLE TG(descrizione TEXT, percorsourl TEXT);
 )";
-
-void preparaApplicazione() {
-    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int argc = 1;
-    static char nome[] = "misura";
-    static char *argv[] = {nome, nullptr};
-    static QApplication applicazione(argc, argv);
-    preparaAspetto(applicazione);
-}
 
 QStringList decorazioni() {
     QStringList file;
@@ -78,7 +68,7 @@ DisplayLayout layoutPieno(int visibili) {
 // A settings database with one layout, and what forms are given.
 struct Banco {
     explicit Banco(int visibili = righeLayout) {
-        preparaApplicazione();
+        misura::preparaApplicazione();
         sqlite3 *db = nullptr;
         sqlite3_open(cartella.filePath(NomeArchivio.toString()).toUtf8().constData(), &db);
         sqlite3_exec(db, Schema, nullptr, nullptr, nullptr);

@@ -1,5 +1,6 @@
 // Moving through the catalogue with the arrow keys, and the preview of a 30-megapixel photo with the window's longest
 // standstill meanwhile.
+#include "Applicazione.h"
 #include "library/forms/ImpostaCornice.h"
 #include "library/forms/ImpostaSfondo.h"
 #include "shell/host/Dialoghi.h"
@@ -58,21 +59,11 @@ private:
     NessunMonitor m_monitor;
 };
 
-QApplication &applicazione() {
-    static int argc = 1;
-    static char nome[] = "zuvora-bench";
-    static char *argv[] = {nome, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static auto *unica = new QApplication(argc, argv);
-    preparaAspetto(*unica);
-    return *unica;
-}
-
 // The catalogue as it is installed.
 class Catalogo {
 public:
     Catalogo() {
-        applicazione();
+        misura::preparaApplicazione();
         const QString dati = QStringLiteral(ZUVORA_DATI);
         QFile::link(dati + u"/ZuvoraDecorazioni"_s, m_cartella.filePath(u"ZuvoraDecorazioni"_s));
         QFile schema(dati + u"/schema/zuvora.sql"_s);
@@ -150,7 +141,7 @@ void preparaFoto(const QString &percorso) {
 }
 
 void anteprimaFoto(benchmark::State &stato) {
-    applicazione();
+    misura::preparaApplicazione();
     static const QTemporaryDir cartella;
     const QString percorso = cartella.filePath(u"foto.jpg"_s);
     if (!QFile::exists(percorso))

@@ -26,7 +26,7 @@ QImage ImmaginiQt::immagine(const QString &percorso) {
     if (const Voce *voce = m_decodificate.object(percorso);
         voce && voce->modifica == modifica && voce->byte == file.size())
         return voce->immagine;
-    const QImage nuova = leggiImmagine(percorso, m_massimo);
+    QImage nuova = leggiImmagine(percorso, m_massimo);
     if (!nuova.isNull())
         m_decodificate.insert(percorso, new Voce{nuova, modifica, file.size()}, nuova.sizeInBytes() / 1024 + 1);
     return nuova;
