@@ -1,5 +1,5 @@
-#include "installer/Banco.h"
 #include "installer/Verifica.h"
+#include "installer/Banco.h"
 
 #include <QDir>
 #include <QFile>
