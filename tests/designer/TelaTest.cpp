@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QLabel>
+#include <sqlite3.h>
 
 using namespace zuvora;
 using namespace Qt::Literals::StringLiterals;
@@ -223,6 +224,27 @@ TEST(Tela, UnSalvataggioFallitoLasciaLaTelaESiRipete) {
     clicca(*tela.form, "Btn(16)");
     EXPECT_EQ(righe, u"Memorizzazione effettuata !"_s);
     EXPECT_EQ(tela.installazione.valore(u"SELECT \"left\" FROM Layout1 WHERE DescCampo='MP1'"_s).toInt(), 777);
+}
+
+TEST(Tela, UnSalvataggioBloccatoDaUnAltroProgrammaSiRipete) {
+    TelaProva tela;
+    tela.e("MP1").area.left = 888;
+    const QByteArray prima = tela.installazione.contenuto();
+    sqlite3 *altro = nullptr;
+    ASSERT_EQ(sqlite3_open(tela.installazione.archivio().toUtf8().constData(), &altro), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(altro, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    QString righe;
+    Guida guida;
+    guida.messaggio(&righe);
+    clicca(*tela.form, "Btn(16)");
+    EXPECT_FALSE(righe.contains(u"Memorizzazione effettuata !"_s)) << righe.toStdString();
+    EXPECT_EQ(tela.e("MP1").area.left, 888);
+    sqlite3_close(altro);
+    EXPECT_EQ(tela.installazione.contenuto(), prima);
+    guida.messaggio(&righe);
+    clicca(*tela.form, "Btn(16)");
+    EXPECT_EQ(righe, u"Memorizzazione effettuata !"_s);
+    EXPECT_EQ(tela.installazione.valore(u"SELECT \"left\" FROM Layout1 WHERE DescCampo='MP1'"_s).toInt(), 888);
 }
 
 TEST(ApriDesigner, CioCheNonSiLeggeSiDiceUnaVolta) {

@@ -64,6 +64,21 @@ TEST(ApriTela, LoSfondoSiImpostaESiElimina) {
     EXPECT_EQ(salvati, QStringList({i.file(u"ZuvoraSfondiHD/"_s + primoFile), QString()}));
 }
 
+TEST(ApriTela, LaMisuraDelRiquadroNotizieTornaSullaTelaESiSalva) {
+    InstallazioneProva i;
+    i.esegui(u"UPDATE Layout1 SET Visibile=1, top=1440, left=14640, Altezza=5895, Larghezza=8775 WHERE rowid=60"_s);
+    Guida guida;
+    guida.quando("Form1", [](QWidget &w) { QTest::mouseClick(&trova<QWidget>(w, "WB2"), Qt::RightButton); });
+    guida.quando("AnteprimaTGOnline", [](QWidget &w) {
+        for (const char *bottone : {"Allarga", "Abbassa", "Accetta", "Chiudi"})
+            clicca(w, bottone);
+    });
+    guida.premi("Form1", "Btn(16)").messaggio(nullptr).premi("Form1", "Btn(17)");
+    apriTela(i.ambiente, 3, u"Layout1"_s, nullptr);
+    EXPECT_EQ(i.righe(u"SELECT top, left, Altezza, Larghezza FROM Layout1 WHERE rowid=60"_s),
+              QStringList{u"1440|14640|5795|8875"_s});
+}
+
 TEST(ApriTela, IlPannelloApreSelezioneECatalogo) {
     InstallazioneProva i;
     SplasModule pannello(i.ambiente, apritoriDelPannello(), QUrl());
