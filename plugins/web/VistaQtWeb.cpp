@@ -2,13 +2,17 @@
 
 #include "web/PaginaQtWeb.h"
 
+#include <QTimer>
 #include <QWebEngineDownloadRequest>
+#include <chrono>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace zuvora {
 namespace {
 
+constexpr auto AttesaProfilo = 3s;
 constexpr int RinvioNonSicuro = -311; // the engine's number for a redirection out of the web
 
 bool eWeb(const QUrl &indirizzo) {
@@ -28,13 +32,18 @@ EsitoWeb esitoDi(const QWebEngineLoadingInfo &carico) {
 
 } // namespace
 
+void CongedaProfilo::operator()(QWebEngineProfile *profilo) const {
+    QTimer::singleShot(AttesaProfilo, profilo, &QObject::deleteLater);
+}
+
 VistaQtWeb::VistaQtWeb(QWidget *padre)
-    : m_vista(new QWebEngineView(padre)), m_pagina(new PaginaQtWeb(&m_profilo, m_vista)) {
-    m_profilo.setHttpAcceptLanguage(u"it-IT,it;q=0.9,en;q=0.5"_s);
+    : m_profilo(new QWebEngineProfile), m_vista(new QWebEngineView(padre)),
+      m_pagina(new PaginaQtWeb(m_profilo.get(), m_vista)) {
+    m_profilo->setHttpAcceptLanguage(u"it-IT,it;q=0.9,en;q=0.5"_s);
     m_vista->setPage(m_pagina);
     m_vista->setContextMenuPolicy(Qt::NoContextMenu);
     m_vista->setAcceptDrops(false); // a file dropped on it would be opened
-    connect(&m_profilo, &QWebEngineProfile::downloadRequested, this, [](QWebEngineDownloadRequest *d) { d->cancel(); });
+    connect(m_profilo.get(), &QWebEngineProfile::downloadRequested, [](QWebEngineDownloadRequest *d) { d->cancel(); });
     connect(m_pagina, &QWebEnginePage::loadingChanged, this, &VistaQtWeb::cambiaCarico);
     connect(m_pagina, &QWebEnginePage::renderProcessTerminated, this, &VistaQtWeb::interrompi);
     connect(m_pagina, &QWebEnginePage::urlChanged, this, [this](const QUrl &u) { annuncia(EsitoWeb::Ricevuta, u); });

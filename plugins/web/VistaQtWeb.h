@@ -6,10 +6,17 @@
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineProfile>
 #include <QWebEngineView>
+#include <memory>
 
 namespace zuvora {
 
 class PaginaQtWeb;
+
+// Ends a profile some time after its page. A file that a page sends is handed to a thread of the engine's own, which
+// works on the profile unguarded: ended meanwhile, it takes the program with it. No signal tells when that is over.
+struct CongedaProfilo {
+    void operator()(QWebEngineProfile *profilo) const;
+};
 
 // A web view on Qt WebEngine, off the record: it keeps nothing on disk and shares nothing with other views.
 class VistaQtWeb : public QObject, public VistaWeb {
@@ -28,7 +35,7 @@ private:
     void interrompi(QWebEnginePage::RenderProcessTerminationStatus stato);
     void annuncia(EsitoWeb esito, const QUrl &indirizzo);
 
-    QWebEngineProfile m_profilo; // must outlive the page, which goes with the view
+    std::unique_ptr<QWebEngineProfile, CongedaProfilo> m_profilo; // must outlive the page, which goes with the view
     QPointer<QWebEngineView> m_vista;
     PaginaQtWeb *m_pagina;
     bool m_ricevuta = false; // a page asked for stands here

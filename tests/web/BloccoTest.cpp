@@ -88,6 +88,20 @@ TEST(BloccoWeb, NothingOutlivesAPage) {
         EXPECT_FALSE(QDir(QStandardPaths::writableLocation(dove) + u"/QtWebEngine"_s).exists());
 }
 
+// The engine may be at work on the file when its page goes.
+TEST(BloccoWeb, APageThatSendsAFileCanBeLeftAtAnyMoment) {
+    ServerProva server;
+    server.pagine[u"/zip"_s] = {"PK", "200 OK", "Content-Disposition: attachment; filename=a.zip\r\n"};
+    FinestraWeb finestra;
+    for (int volta = 0; volta < 16; ++volta) {
+        const QByteArray titolo = "pagina " + QByteArray::number(volta);
+        server.pagine[u"/"_s] = {"<script>location.href = '/zip'; setTimeout(() => document.title = '" + titolo +
+                                 "', " + QByteArray::number(3 * (volta % 8)) + ")</script>"};
+        EXPECT_TRUE(finestra.apri(server.indirizzo(u"/"_s)));
+        EXPECT_TRUE(finestra.attendiTitolo(QString::fromLatin1(titolo)));
+    }
+}
+
 TEST(BloccoWeb, TheMouseOpensNothing) {
     ServerProva server;
     server.pagine[u"/"_s] = {"<title>notizie</title>"};
