@@ -49,14 +49,59 @@ const std::vector<Campo> campi = {
     {2, 17, 20, 5, tra(720, 2280, 20360, 12735), 4, 3960, 2640, 2640, {}},
 };
 
-std::vector<std::vector<QRect>> perRighe(const std::vector<QRect> &posti) {
-    std::vector<std::vector<QRect>> righe;
+using Righe = std::vector<std::vector<QRect>>;
+
+Righe perRighe(const std::vector<QRect> &posti) {
+    Righe righe;
     for (const QRect &posto : posti) {
         if (righe.empty() || righe.back().front().y() != posto.y())
             righe.emplace_back();
         righe.back().push_back(posto);
     }
     return righe;
+}
+
+// Rows one below the other, buttons side by side, all of one size, none over another.
+void controllaTrama(const Campo &campo, int n, const Righe &righe) {
+    const QSize misura = righe.front().front().size();
+    for (std::size_t r = 0; r < righe.size(); ++r) {
+        const bool ultima = r + 1 == righe.size();
+        EXPECT_EQ(righe[r].size(), ultima ? n - r * campo.perRiga : campo.perRiga);
+        if (r > 0) {
+            const int passo = righe[r].front().y() - righe[r - 1].front().y();
+            EXPECT_TRUE(passo >= campo.trameMinima && passo <= campo.trameMassima) << passo;
+            EXPECT_GT(passo, misura.height());
+        }
+        for (std::size_t c = 0; c < righe[r].size(); ++c) {
+            EXPECT_EQ(righe[r][c].size(), misura);
+            if (c == 0)
+                continue;
+            const int passo = righe[r][c].x() - righe[r][c - 1].x();
+            const bool storto = campo.schermo == 2 && n == 6 && r == 1; // 80 twips off on the kiosk too
+            EXPECT_EQ(passo, campo.trama + (storto ? (c == 1 ? 80 : -80) : 0));
+            EXPECT_GT(passo, misura.width());
+        }
+    }
+}
+
+// The edges of the field, and the short last row in its middle or at its left.
+void controllaBordi(const Campo &campo, int n, const Righe &righe) {
+    const QRect primo = righe.front().front();
+    const QRect inFondo = righe.back().back();
+    const int destra = campo.pieno.x() + campo.pieno.width();
+    EXPECT_EQ(primo.topLeft(), campo.pieno.topLeft());
+    if (n >= campo.perRiga) {
+        EXPECT_EQ(righe.front().back().x() + primo.width(), destra);
+    }
+    if (static_cast<int>(righe.size()) == campo.righe) {
+        EXPECT_EQ(inFondo.y() + inFondo.height(), campo.pieno.y() + campo.pieno.height());
+    }
+    const int sinistra = righe.back().front().x();
+    const int mezzo = (sinistra + inFondo.x() + inFondo.width()) / 2;
+    if (campo.centrati.contains(n))
+        EXPECT_LE(std::abs(mezzo - (campo.pieno.x() + destra) / 2), 180);
+    else
+        EXPECT_EQ(sinistra, campo.pieno.x());
 }
 
 class Disposizioni : public testing::TestWithParam<Campo> {};
@@ -67,37 +112,10 @@ TEST_P(Disposizioni, FillTheirFieldRowByRow) {
         SCOPED_TRACE(testing::Message() << "screen " << campo.schermo << ", services " << n);
         const auto posti = disposizionePulsanti(campo.schermo, n);
         ASSERT_EQ(posti.size(), n);
-        const auto righe = perRighe(posti);
+        const Righe righe = perRighe(posti);
         ASSERT_EQ(righe.size(), (n + campo.perRiga - 1) / campo.perRiga);
-        for (std::size_t r = 0; r < righe.size(); ++r) {
-            const bool ultima = r + 1 == righe.size();
-            EXPECT_EQ(righe[r].size(), ultima ? n - r * campo.perRiga : campo.perRiga);
-            EXPECT_EQ(righe[r].front().size(), posti.front().size());
-            if (r > 0) {
-                const int passo = righe[r].front().y() - righe[r - 1].front().y();
-                EXPECT_GE(passo, campo.trameMinima);
-                EXPECT_LE(passo, campo.trameMassima);
-                EXPECT_GT(passo, posti.front().height()) << "rows overlap";
-            }
-            for (std::size_t c = 1; c < righe[r].size(); ++c) {
-                const int passo = righe[r][c].x() - righe[r][c - 1].x();
-                EXPECT_GT(passo, posti.front().width()) << "buttons overlap";
-                EXPECT_EQ(righe[r][c].size(), posti.front().size());
-                const bool storto = campo.schermo == 2 && n == 6 && r == 1; // 80 twips off on the kiosk too
-                EXPECT_EQ(passo, campo.trama + (storto ? (c == 1 ? 80 : -80) : 0));
-            }
-        }
-        const auto &fondo = righe.back();
-        const int mezzo = (fondo.front().x() + fondo.back().x() + fondo.back().width()) / 2;
-        if (campo.centrati.contains(n))
-            EXPECT_LE(std::abs(mezzo - (campo.pieno.x() + campo.pieno.width() / 2)), 180);
-        else
-            EXPECT_EQ(fondo.front().x(), campo.pieno.x());
-        EXPECT_EQ(posti.front().topLeft(), campo.pieno.topLeft());
-        if (n >= campo.perRiga)
-            EXPECT_EQ(righe.front().back().x() + posti.front().width(), campo.pieno.x() + campo.pieno.width());
-        if (static_cast<int>(righe.size()) == campo.righe)
-            EXPECT_EQ(posti.back().y() + posti.back().height(), campo.pieno.y() + campo.pieno.height());
+        controllaTrama(campo, n, righe);
+        controllaBordi(campo, n, righe);
     }
 }
 

@@ -10,8 +10,8 @@ namespace zuvora {
 // The font and colour of one kind of text on the kiosk's screen.
 struct StileTotem {
     QString font;
-    int misura = 10; // points
-    int colore = 0;  // 0x00BBGGRR
+    int misura = 10;        // points
+    int colore = 0;         // 0x00BBGGRR
     bool coloreDato = true; // false when the row has an empty text: the text keeps its own colour
     bool grassetto = false;
     bool italico = false;

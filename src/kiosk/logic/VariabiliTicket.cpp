@@ -3,7 +3,6 @@
 #include "shell/store/Data.h"
 
 #include <QDateTime>
-#include <QLocale>
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -15,8 +14,7 @@ namespace {
 QString conteggioGiorni(const QDateTime &momento) {
     const auto giorni = static_cast<double>(QDate(1899, 12, 30).daysTo(momento.date()));
     const double frazione = momento.time().msecsSinceStartOfDay() / 86'400'000.0;
-    return QLocale::c().toString(static_cast<float>(giorni + frazione), 'f', QLocale::FloatingPointShortest)
-        .remove(u',');
+    return testoDi(static_cast<float>(giorni + frazione), {});
 }
 
 std::optional<QDateTime> momentoDi(const QString &testo) {
@@ -42,18 +40,18 @@ bool dichiara(const QString &tipo, std::initializer_list<QStringView> parti) {
 } // namespace
 
 VariabileTicket variabileDa(const QString &nome, const QString &tipoDichiarato, const Valore &valore) {
-    VariabileTicket variabile{nome, testoDi(valore, u""_s), GenereVariabile::Testo};
+    VariabileTicket variabile{nome, testoDi(valore, u""_s), TipoEtichetta::Testo};
     if (eNull(valore) || dichiara(tipoDichiarato, {u"CURR", u"MONEY"}))
         return variabile;
     if (dichiara(tipoDichiarato, {u"DATE", u"TIME"})) {
         if (const auto momento = momentoDi(variabile.contenuto))
-            return {nome, conteggioGiorni(*momento), GenereVariabile::Data};
+            return {nome, conteggioGiorni(*momento), TipoEtichetta::Data};
         return variabile;
     }
     if (valore.typeId() == QMetaType::Bool)
-        variabile.genere = GenereVariabile::Logico;
+        variabile.tipo = TipoEtichetta::Logico;
     else if (valore.typeId() != QMetaType::QString)
-        variabile.genere = GenereVariabile::Numero;
+        variabile.tipo = TipoEtichetta::Numero;
     return variabile;
 }
 

@@ -1,18 +1,16 @@
 #pragma once
 
+#include "shell/logic/TipoEtichetta.h"
 #include "shell/store/Valore.h"
 
 #include <QList>
 
 namespace zuvora {
 
-// What kind of contents the ticket designer is told a column holds.
-enum class GenereVariabile { Logico, Data, Numero, Testo };
-
 struct VariabileTicket {
     QString nome;
     QString contenuto;
-    GenereVariabile genere = GenereVariabile::Testo;
+    TipoEtichetta tipo = TipoEtichetta::Testo;
 
     bool operator==(const VariabileTicket &) const = default;
 };
