@@ -15,9 +15,7 @@ namespace {
 
 class ProvaScelta : public testing::Test {
 protected:
-    std::unique_ptr<SceltaLayout> apri() {
-        return std::make_unique<SceltaLayout>(i.ambiente, 3, nullptr);
-    }
+    std::unique_ptr<SceltaLayout> apri() { return std::make_unique<SceltaLayout>(i.ambiente, 3, nullptr); }
     // What the designer that comes next was opened on; it is closed at once.
     void attendiTela() {
         guida.quando("Form1", [this](QWidget &w) {
