@@ -1,11 +1,12 @@
 #include "designer/TelaProva.h"
+#include "kit/Fratello.h"
 
 #include "designer/forms/ApriDesigner.h"
 #include "shell/store/EngineError.h"
 
 #include <QDir>
 #include <QLabel>
-#include <sqlite3.h>
+#include <optional>
 
 using namespace zuvora;
 using namespace Qt::Literals::StringLiterals;
@@ -230,16 +231,15 @@ TEST(Tela, UnSalvataggioBloccatoDaUnAltroProgrammaSiRipete) {
     TelaProva tela;
     tela.e("MP1").area.left = 888;
     const QByteArray prima = tela.installazione.contenuto();
-    sqlite3 *altro = nullptr;
-    ASSERT_EQ(sqlite3_open(tela.installazione.archivio().toUtf8().constData(), &altro), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(altro, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    std::optional<Fratello> altro(tela.installazione.archivio());
+    ASSERT_EQ(altro->esegui(u"BEGIN IMMEDIATE"_s), SQLITE_OK);
     QString righe;
     Guida guida;
     guida.messaggio(&righe);
     clicca(*tela.form, "Btn(16)");
     EXPECT_FALSE(righe.contains(u"Memorizzazione effettuata !"_s)) << righe.toStdString();
     EXPECT_EQ(tela.e("MP1").area.left, 888);
-    sqlite3_close(altro);
+    altro.reset();
     EXPECT_EQ(tela.installazione.contenuto(), prima);
     guida.messaggio(&righe);
     clicca(*tela.form, "Btn(16)");
