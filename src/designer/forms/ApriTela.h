@@ -8,7 +8,7 @@ class QWidget;
 
 namespace zuvora {
 
-class DisplayLayout;
+struct Ambiente;
 
 // What the decoration form gives back: the picture's full path, empty for none, and its plane.
 struct SceltaDecorazione {
@@ -25,13 +25,16 @@ struct UsoSfondo {
 };
 
 // The forms of other rooms that the canvas opens, given by whoever opens it. Each shows its form modally over `padre`
-// and returns when it closes. An empty opener stands for a form that isn't there.
+// and returns when it closes.
 struct ApritoriTela {
     // For Image1(indice), 1 to 25; nothing when the user closed the form without a choice.
     std::function<std::optional<SceltaDecorazione>(QWidget *padre, int indice)> decorazione;
     std::function<void(QWidget *padre, const UsoSfondo &uso)> sfondo;
-    // For WB2: gives it a size in `layout` and calls `cambiato` each time it has done so.
-    std::function<void(QWidget *padre, DisplayLayout &layout, const std::function<void()> &cambiato)> anteprimaTG;
 };
+
+// Reads the layout `tabella` and shows it in the designer over `padre`; returns when the designer closes.
+// `risoluzione` as the main panel gives it: 1 to 4, 0 for none chosen. Throws EngineError when the table can't be read.
+void apriTela(const Ambiente &ambiente, QWidget *padre, int risoluzione, const QString &tabella,
+              const ApritoriTela &apritori);
 
 } // namespace zuvora

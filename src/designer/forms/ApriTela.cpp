@@ -1,13 +1,12 @@
-#include "designer/forms/ApriDesigner.h"
+#include "designer/forms/ApriTela.h"
 
 #include "designer/forms/Form1.h"
-#include "designer/logic/ImmaginiQt.h"
 #include "designer/logic/LetturaLayout.h"
 
 namespace zuvora {
 
-void apriDesigner(const Ambiente &ambiente, QWidget *padre, int risoluzione, const QString &tabella,
-                  const ApritoriTela &apritori) {
+void apriTela(const Ambiente &ambiente, QWidget *padre, int risoluzione, const QString &tabella,
+              const ApritoriTela &apritori) {
     DisplayLayout layout(tabella);
     ImmaginiQt immagini;
     const EsitoLettura esito = CaricaLayout(layout, immagini, ambiente.valori.PercorsoApplicazione);
