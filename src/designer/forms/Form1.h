@@ -1,6 +1,6 @@
 #pragma once
 
-#include "designer/forms/ApriTela.h"
+#include "designer/forms/ApritoriTela.h"
 #include "designer/forms/BarraStrumenti.h"
 #include "designer/forms/Contorno.h"
 #include "designer/forms/ElementiTela.h"

@@ -3,7 +3,6 @@
 #include "designer/forms/Form1.h"
 #include "designer/forms/Form2.h"
 #include "designer/logic/ScritturaLayout.h"
-#include "shell/forms/MsgForm.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -117,12 +116,12 @@ void Form1::SalvaLayout() {
         const Messaggio messaggio = messaggioSalva(esito);
         if (esito.riuscito())
             return mostra(messaggio);
-        ancora = chiediConferma(ambiente(), this, messaggio.riga0, messaggio.riga1 + u"\nSalvare di nuovo adesso ?");
+        ancora = conferma(messaggio.riga0, messaggio.riga1 + u"\nSalvare di nuovo adesso ?");
     }
 }
 
 void Form1::mostra(const Messaggio &messaggio) {
-    mostraMessaggio(ambiente(), this, messaggio.riga0, messaggio.riga1);
+    avvisa(messaggio.riga0, messaggio.riga1);
 }
 
 } // namespace zuvora

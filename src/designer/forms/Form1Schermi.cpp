@@ -1,7 +1,6 @@
 // The designer's form among the screens.
 #include "designer/forms/Form1.h"
 
-#include "shell/forms/MsgForm.h"
 #include "shell/host/Piattaforma.h"
 
 #include <QWheelEvent>
@@ -64,7 +63,7 @@ void Form1::VaiSecondoSchermo() {
     const QRect la(QPoint(pixelVicino(posizione.left), pixelVicino(posizione.top)), size());
     const QList<QRect> tutti = schermi(ambiente().piattaforma);
     if (std::ranges::none_of(tutti, [&](const QRect &s) { return s.intersects(la); }))
-        mostra({u"Il secondo schermo non è collegato !"_s, u"Il tasto Esc riporta qui la schermata."_s});
+        avvisa(u"Il secondo schermo non è collegato !"_s, u"Il tasto Esc riporta qui la schermata."_s);
     vai(posizione);
 }
 
