@@ -116,7 +116,7 @@ void Form1::SalvaLayout() {
         const Messaggio messaggio = messaggioSalva(esito);
         if (esito.riuscito())
             return mostra(messaggio);
-        ancora = conferma(messaggio.riga0, messaggio.riga1 + u"\nSalvare di nuovo adesso ?");
+        ancora = conferma(messaggio.riga0, messaggio.riga1 + u"\nSalvare di nuovo adesso ?"_s);
     }
 }
 

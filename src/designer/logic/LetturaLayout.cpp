@@ -20,14 +20,6 @@ constexpr int primaRigaConAvvisi = 33;
 constexpr QStringView sfondoBase = u"ZuvoraSfondiHD/FH_grigio_8post_.jpg";
 constexpr QStringView corniceLibera = u"ZuvoraDecorazioni/Cornici/stondata.gif";
 
-constexpr qsizetype citazioneMassima = 120; // characters
-
-// A text of the database in a sentence: cut in its middle where it would fill the screen.
-QString citazione(const QString &testo) {
-    constexpr qsizetype meta = citazioneMassima / 2;
-    return testo.size() <= citazioneMassima ? testo : testo.left(meta) + u" ... " + testo.right(meta);
-}
-
 class Lettore {
 public:
     Lettore(Recordset &rs, DisplayLayout &layout, CaricatoreImmagini &immagini, const QString &cartella)
@@ -154,9 +146,9 @@ private:
         avvisa(posto,
                e.cornice
                    ? u"La cornice delle decorazioni libere %1 non si trova o non è leggibile."_s.arg(
-                         citazione(percorso))
+                         accorciato(percorso))
                    : u"%1: l'immagine %2 non si trova o non è leggibile. Il percorso resta memorizzato."_s.arg(
-                         e.nomeParlato(), citazione(percorso)));
+                         e.nomeParlato(), accorciato(percorso)));
     }
 
     using Avviso = std::pair<int, QString>; // row it belongs to
