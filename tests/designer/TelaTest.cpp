@@ -242,8 +242,11 @@ TEST(Salva, BloccatoDaUnAltroProgrammaLasciaLaTelaELaTabella) {
 TEST(Salva, UnArchivioInSolaLetturaLoDiceENonPerdeLaTela) {
     TelaProva tela;
     tela.e("MP1").area.left = 999;
+    QFile archivio(tela.installazione.archivio());
+    ASSERT_TRUE(archivio.open(QIODevice::ReadWrite) && archivio.seek(18));
+    archivio.write("\3", 1); // a write version of the future: readable, not writable
+    archivio.close();
     const QByteArray prima = tela.installazione.contenuto();
-    const SolaLettura sola(tela.installazione.archivio());
     QString righe;
     Guida guida;
     guida.messaggio(&righe);

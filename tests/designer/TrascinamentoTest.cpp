@@ -119,7 +119,7 @@ TEST_F(Contorno, GivingUpLeavesTheElementAlone) {
     premi();
     drag.MouseMove(layout, {700, 300}, form);
     drag.interrompi();
-    EXPECT_FALSE(drag.inCorso());
+    EXPECT_FALSE(drag.inContorno());
     EXPECT_EQ(area(), (Area{1500, 3000, 1500, 900}));
     EXPECT_EQ(drag.RettangoloTrascinamento(), CRect(1500, 3000, 3000, 3900));
 }
