@@ -31,8 +31,8 @@ protected:
 
 TEST_F(Proprieta, ClassGetsTheStyleAndNoOtherElementDoes) {
     const std::vector<std::pair<Classe, QStringList>> casi{
-        {Classe::Numeri, ogniTre(0)},      {Classe::Postazione, ogniTre(1)},         {Classe::Servizio, ogniTre(2)},
-        {Classe::Titolo, {u"Text9(0)"_s}}, {Classe::SottoTitolo, {u"Text9(1)"_s}},   {Classe::Data, {u"Text9(2)"_s}},
+        {Classe::Numeri, ogniTre(0)},      {Classe::Postazione, ogniTre(1)},        {Classe::Servizio, ogniTre(2)},
+        {Classe::Titolo, {u"Text9(0)"_s}}, {Classe::SottoTitolo, {u"Text9(1)"_s}},  {Classe::Data, {u"Text9(2)"_s}},
         {Classe::Orario, {u"Text9(3)"_s}}, {Classe::TestoScorrevole, {u"Text2"_s}},
     };
     for (const auto &[classe, elementi] : casi) {

@@ -40,7 +40,8 @@ TEST_F(Strumenti, EveryButtonStandsInItsPlaceAndSaysWhatItDoes) {
     };
     QStringList visti;
     for (const BottoneStrumenti &b : bottoniStrumenti())
-        visti << u"%1 %2 %3 %4|%5|%6"_s.arg(b.indice).arg(b.left).arg(b.top).arg(b.width).arg(b.suggerimento, b.didascalia);
+        visti << u"%1 %2 %3 %4|%5|%6"_s.arg(b.indice).arg(b.left).arg(b.top).arg(b.width).arg(b.suggerimento,
+                                                                                              b.didascalia);
     EXPECT_EQ(visti, attesi);
     EXPECT_EQ(bottoneStrumenti(22)->indice, 22);
     EXPECT_EQ(bottoneStrumenti(11), nullptr);
@@ -174,10 +175,10 @@ TEST(ValoriIniziali, AreThoseOfTheFormsDefinition) {
     for (const auto &[nome, atteso] : casi)
         EXPECT_EQ(detto(layout[DisplayLayout::postoDi(nome)]), atteso) << nome.toStdString();
     const std::pair<QString, Area> riquadri[] = {
-        {u"IM1"_s, {17280, 8160, 9615, 6615}},      {u"MP1"_s, {14280, 4680, 8775, 6135}},
-        {u"WB1"_s, {6600, 9360, 6765, 5055}},       {u"WB2"_s, {14640, 1440, 8775, 5895}},
-        {u"LeNews"_s, {6600, 11400, 7590, 1380}},   {u"YT"_s, {10440, 2280, 6375, 5055}},
-        {u"Image1(25)"_s, {0, 17000, 1905, 1305}},  {u"Pannello1(0)"_s, {1000, 1000, 7005, 6495}},
+        {u"IM1"_s, {17280, 8160, 9615, 6615}},         {u"MP1"_s, {14280, 4680, 8775, 6135}},
+        {u"WB1"_s, {6600, 9360, 6765, 5055}},          {u"WB2"_s, {14640, 1440, 8775, 5895}},
+        {u"LeNews"_s, {6600, 11400, 7590, 1380}},      {u"YT"_s, {10440, 2280, 6375, 5055}},
+        {u"Image1(25)"_s, {0, 17000, 1905, 1305}},     {u"Pannello1(0)"_s, {1000, 1000, 7005, 6495}},
         {u"Pannello1(7)"_s, {1000, 23000, 7005, 6495}}};
     for (const auto &[nome, area] : riquadri)
         EXPECT_EQ(layout[DisplayLayout::postoDi(nome)].area, area) << nome.toStdString();
@@ -185,7 +186,8 @@ TEST(ValoriIniziali, AreThoseOfTheFormsDefinition) {
 }
 
 TEST(Finestra, TheCanvasHasTheSizeOfItsResolution) {
-    const Dimensione attese[] = {{24525, 14115}, {15360, 11520}, {20490, 11520}, {28800, 16200}, {16200, 28800}, {24525, 14115}};
+    const Dimensione attese[] = {{24525, 14115}, {15360, 11520}, {20490, 11520},
+                                 {28800, 16200}, {16200, 28800}, {24525, 14115}};
     for (int r = -1; r < 5; ++r)
         EXPECT_EQ(dimensioneTela(r), attese[r + 1]) << r;
 }

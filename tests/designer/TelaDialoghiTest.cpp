@@ -309,10 +309,10 @@ TEST(Palpito, MostraCioCheStaSottoGliStrumentiENienteAltro) {
     EXPECT_EQ(tela.form->focusWidget(), fuoco);
     const QPoint sottoGliStrumenti(60, 60);
     EXPECT_TRUE(tela.w("SSPanel1").isAncestorOf(tela.form->childAt(sottoGliStrumenti)));
-    const QRgb prima = tela.w("SSPanel1").grab().toImage().pixel(sottoGliStrumenti - QPoint(24, 24));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return tela.form->grab().toImage().pixel(sottoGliStrumenti) != prima; }));
+    const QRgb prima = TelaProva::Vista{tela.w("SSPanel1").grab().toImage()}(sottoGliStrumenti - QPoint(24, 24));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tela.vista()(sottoGliStrumenti) != prima; }));
     EXPECT_TRUE(QTest::qWaitFor([&] { return palpito.isHidden(); }));
-    EXPECT_EQ(tela.form->grab().toImage().pixel(sottoGliStrumenti), prima);
+    EXPECT_EQ(tela.vista()(sottoGliStrumenti), prima);
 }
 
 TEST(Segni, IBottoniDiconoCheCosaSullaTelaCeGia) {

@@ -43,25 +43,25 @@ TEST(Contorno, LElementoSaltaAlRilascioEPrendeLeManiglie) {
 TEST(Contorno, SiVedeSuOgniFondoENonLasciaTracce) {
     TelaProva tela(u"Layout1"_s, {u"UPDATE Layout1 SET PercorsoImmagine=NULL, Visibile=0, ColoreSfondo=8421504"_s,
                                   u"UPDATE Layout1 SET Visibile=1 WHERE DescCampo='MP1'"_s});
-    const QImage prima = tela.form->grab().toImage();
+    const TelaProva::Vista prima = tela.vista();
     const QRect video = tela.rettangolo("MP1");
     const QPoint presa = video.center();
     tela.premi(presa);
     const QPoint scarto(120 - video.left(), 100 - video.top()); // across the toolbox
     tela.muovi(presa + scarto);
-    const QImage durante = tela.form->grab().toImage();
+    const TelaProva::Vista durante = tela.vista();
     for (const QPoint p : {QPoint(120, 300), QPoint(120, 425), QPoint(500, 100), QPoint(60 + video.width(), 300)}) {
         int diversi = 0;
         for (int d = -2; d <= 2; ++d)
             for (const QPoint q : {p + QPoint(d, 0), p + QPoint(0, d)})
-                diversi += qAbs(qGray(durante.pixel(q)) - qGray(prima.pixel(q))) > 60 ? 1 : 0;
+                diversi += qAbs(qGray(durante(q)) - qGray(prima(q))) > 60 ? 1 : 0;
         const bool sulBordo = p.x() == 120 || p.y() == 100;
         EXPECT_EQ(diversi > 0, sulBordo) << p.x() << ',' << p.y();
     }
     tela.muovi(presa);
     tela.rilascia(presa);
     tela.clicca(QPoint(1915, 1075)); // no handles
-    EXPECT_EQ(tela.form->grab().toImage(), prima);
+    EXPECT_EQ(tela.vista().immagine, prima.immagine);
 }
 
 TEST(Contorno, IlCursoreNonEsceDalForm) {
@@ -177,13 +177,13 @@ TEST(Tastiera, EscDuranteUnTrascinamentoRidisegnaIlContorno) {
     const QPoint presa = tela.rettangolo("MP1").center();
     tela.premi(presa);
     tela.muovi(presa + QPoint(-100, -50));
-    const QImage prima = tela.form->grab().toImage();
+    const TelaProva::Vista prima = tela.vista();
     QTest::keyClick(tela.form.get(), Qt::Key_Escape);
     EXPECT_EQ(tela.form->pos(), QPoint(0, 40));
-    const QImage dopo = tela.form->grab().toImage();
+    const TelaProva::Vista dopo = tela.vista();
     const QPoint angolo = tela.rettangolo("MP1").topLeft() + QPoint(-100, -50);
-    EXPECT_NE(prima.pixel(angolo), dopo.pixel(angolo));
-    EXPECT_NE(dopo.pixel(angolo + QPoint(60, 0)), prima.pixel(angolo + QPoint(60, 200)));
+    EXPECT_NE(prima(angolo), dopo(angolo));
+    EXPECT_NE(dopo(angolo + QPoint(60, 0)), prima(angolo + QPoint(60, 200)));
     tela.rilascia(presa + QPoint(-100, -50));
     EXPECT_TRUE(tela.form->isVisible());
 }

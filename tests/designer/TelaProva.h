@@ -75,6 +75,13 @@ public:
         return {widget.mapTo(form.get(), QPoint()), widget.size()};
     }
 
+    // The form as it looks now, by points of the form, whatever the scale.
+    struct Vista {
+        QImage immagine;
+        QRgb operator()(QPoint p) const { return immagine.pixel(p * immagine.devicePixelRatio()); }
+    };
+    Vista vista() const { return {form->grab().toImage()}; }
+
     // The plain messages that come once the form is open.
     std::vector<FintiDialoghi::Box> aspettaBox() {
         std::vector<FintiDialoghi::Box> box;

@@ -1,6 +1,5 @@
 #include "designer/TelaProva.h"
 
-
 #include <QDir>
 #include <QLabel>
 #include <QWheelEvent>
@@ -84,10 +83,10 @@ TEST(Tela, PostiFuoriDalMondoNonFermanoNulla) {
                     u"UPDATE Layout1 SET Visibile=1, \"left\"=-1e9, \"top\"=-1e9, Altezza=2e9, Larghezza=2e9, "
                     "PercorsoImmagine=(SELECT PercorsoImmagine FROM Layout1 WHERE DescCampo='Label2') "
                     "WHERE DescCampo LIKE 'Image1%' OR DescCampo LIKE 'Text9%'"_s});
+    EXPECT_EQ(tela.aspettaBox().size(), 1U); // the sizes that are none
     tela.form->grab();
     tela.trascina(QPoint(900, 500), QPoint(700, 400)); // whatever lies there
-    tela.form->grab();
-    SUCCEED();
+    EXPECT_FALSE(tela.form->grab().isNull());
 }
 
 TEST(Tela, LaPrimaAttivazioneNonSiRipete) {
@@ -136,9 +135,10 @@ TEST(Schermi, UnTopFuoriDaOgniSchermoTornaInVistaELaRigaResta) {
 }
 
 TEST(Schermi, SenzaLaTabellaDelleNotizieIlPostoSiLeggeLoStesso) {
-    TelaProva tela(u"Layout1"_s, {u"UPDATE Configurazione SET MisuraFormLeft=300, MisuraFormTop=450"_s,
-                                  u"ALTER TABLE TG RENAME TO altra"_s},
-                   {}, 3, [](ValoriCondivisi &valori) { valori.PercorsoTG = u"https://prima.example/"_s; });
+    TelaProva tela(
+        u"Layout1"_s,
+        {u"UPDATE Configurazione SET MisuraFormLeft=300, MisuraFormTop=450"_s, u"ALTER TABLE TG RENAME TO altra"_s}, {},
+        3, [](ValoriCondivisi &valori) { valori.PercorsoTG = u"https://prima.example/"_s; });
     EXPECT_EQ(tela.aspettaBox().size(), 1U);
     EXPECT_EQ(tela.form->pos(), QPoint(20, 30));
     EXPECT_EQ(tela.installazione.valori.PercorsoTG, QString());

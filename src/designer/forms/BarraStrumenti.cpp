@@ -71,8 +71,8 @@ protected:
         p.setPen(QPen(tavolozza::bianco, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         const qreal u = fondo.height() / 10;
         const QPointF c = fondo.center();
-        p.drawPolyline(QPolygonF{c + QPointF(-2.2 * u, 0.2 * u), c + QPointF(-0.6 * u, 1.8 * u),
-                                 c + QPointF(2.4 * u, -1.8 * u)});
+        p.drawPolyline(
+            QPolygonF{c + QPointF(-2.2 * u, 0.2 * u), c + QPointF(-0.6 * u, 1.8 * u), c + QPointF(2.4 * u, -1.8 * u)});
     }
 
 private:

@@ -43,8 +43,8 @@ void Form1::raggiungi() {
 // Over the screen of which it covers most.
 void Form1::scorriSchermata(QPoint passo) {
     const QList<QRect> tutti = schermi(ambiente().piattaforma);
-    const auto schermo = std::ranges::max_element(
-        tutti, {}, [this](const QRect &s) { return superficie(s.intersected(geometry())); });
+    const auto schermo =
+        std::ranges::max_element(tutti, {}, [this](const QRect &s) { return superficie(s.intersected(geometry())); });
     if (schermo != tutti.end() && schermo->intersects(geometry()))
         move(scorri(geometry(), *schermo, passo));
 }

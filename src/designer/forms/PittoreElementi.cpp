@@ -87,10 +87,9 @@ void etichetta(QPainter &p, const LayoutElement &e, const QRect &r, bool traspar
     if (grassettoApparente(p.font()))
         scriviIspessito(p, r, allineamento, aCapo, testo);
     else
-        p.drawText(r,
-                   int(allineamento | Qt::AlignTop) | (aCapo ? Qt::TextWordWrap : Qt::TextSingleLine) |
-                       Qt::TextExpandTabs,
-                   testo);
+        p.drawText(
+            r, int(allineamento | Qt::AlignTop) | (aCapo ? Qt::TextWordWrap : Qt::TextSingleLine) | Qt::TextExpandTabs,
+            testo);
     p.restore();
 }
 

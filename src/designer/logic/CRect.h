@@ -32,8 +32,8 @@ public:
     int right() const { return m_right; }
     void setBottom(int valore) { m_bottom = valore; }
     int bottom() const { return m_bottom; }
-    void setWidth(int valore); // moves the right edge
-    int Width() const;         // negative while the edges are crossed
+    void setWidth(int valore);  // moves the right edge
+    int Width() const;          // negative while the edges are crossed
     void setHeight(int valore); // moves the bottom edge
     int Height() const;
 

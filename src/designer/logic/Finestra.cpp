@@ -52,9 +52,8 @@ QString leggiPercorsoTG(const QString &cartella) {
 }
 
 void SalvaPosizioneFinestra(const QString &cartella, PuntoTwips posizione) {
-    scriviRiga(
-        cartella, u"Configurazione"_s,
-        {{u"MisuraFormLeft", singolo(posizione.left)}, {u"MisuraFormTop", singolo(posizione.top)}});
+    scriviRiga(cartella, u"Configurazione"_s,
+               {{u"MisuraFormLeft", singolo(posizione.left)}, {u"MisuraFormTop", singolo(posizione.top)}});
 }
 
 PuntoTwips VaiSecondoSchermo(double larghezzaSchermo) {
@@ -72,7 +71,8 @@ int topRaggiungibile(const QRect &form, const QList<QRect> &prese, const QList<Q
         return form.top();
     // Its screen is the one below or above it, else the first.
     const auto sopra = std::ranges::find_if(schermi, [&](const QRect &s) {
-        return std::ranges::any_of(prese, [&](const QRect &p) { return p.left() <= s.right() && p.right() >= s.left(); });
+        return std::ranges::any_of(prese,
+                                   [&](const QRect &p) { return p.left() <= s.right() && p.right() >= s.left(); });
     });
     const QRect schermo = sopra == schermi.end() ? schermi.first() : *sopra;
     // Brought to the screen's left edge, as Esc does, would something of it show?

@@ -143,12 +143,11 @@ private:
         e.immagineMancante = !percorso.isEmpty() && !m_immagini.carica(percorso);
         if (!e.immagineMancante || (e.cornice && std::exchange(m_corniceSegnalata, true)))
             return;
-        avvisa(posto,
-               e.cornice
-                   ? u"La cornice delle decorazioni libere %1 non si trova o non è leggibile."_s.arg(
-                         accorciato(percorso))
-                   : u"%1: l'immagine %2 non si trova o non è leggibile. Il percorso resta memorizzato."_s.arg(
-                         e.nomeParlato(), accorciato(percorso)));
+        avvisa(posto, e.cornice
+                          ? u"La cornice delle decorazioni libere %1 non si trova o non è leggibile."_s.arg(
+                                accorciato(percorso))
+                          : u"%1: l'immagine %2 non si trova o non è leggibile. Il percorso resta memorizzato."_s.arg(
+                                e.nomeParlato(), accorciato(percorso)));
     }
 
     using Avviso = std::pair<int, QString>; // row it belongs to

@@ -12,23 +12,54 @@ namespace {
 constexpr int stretto = 735;
 
 constexpr std::array bottoni{
-    BottoneStrumenti{0, u" Testo Scorrevole ", {}, 120, 840, stretto, Disegno::TestoScorrevole, Comando::PiazzaElemento, TipoElemento::Text2},
+    BottoneStrumenti{0,
+                     u" Testo Scorrevole ",
+                     {},
+                     120,
+                     840,
+                     stretto,
+                     Disegno::TestoScorrevole,
+                     Comando::PiazzaElemento,
+                     TipoElemento::Text2},
     BottoneStrumenti{1, u" Servizio", u" Pannelli", 120, 240, 1575, Disegno::Servizio, Comando::PiazzaPannello},
-    BottoneStrumenti{2, u"Titolo ", {}, 960, 840, stretto, Disegno::Titolo, Comando::PiazzaElemento, TipoElemento::Text9, 0},
-    BottoneStrumenti{3, u" Sottotitolo ", {}, 120, 1440, stretto, Disegno::Sottotitolo, Comando::PiazzaElemento, TipoElemento::Text9, 1},
-    BottoneStrumenti{4, u" Data ", {}, 960, 1440, stretto, Disegno::Data, Comando::PiazzaElemento, TipoElemento::Text9, 2},
+    BottoneStrumenti{
+        2, u"Titolo ", {}, 960, 840, stretto, Disegno::Titolo, Comando::PiazzaElemento, TipoElemento::Text9, 0},
+    BottoneStrumenti{3,
+                     u" Sottotitolo ",
+                     {},
+                     120,
+                     1440,
+                     stretto,
+                     Disegno::Sottotitolo,
+                     Comando::PiazzaElemento,
+                     TipoElemento::Text9,
+                     1},
+    BottoneStrumenti{
+        4, u" Data ", {}, 960, 1440, stretto, Disegno::Data, Comando::PiazzaElemento, TipoElemento::Text9, 2},
     BottoneStrumenti{5, u" Ora", {}, 1800, 840, stretto, Disegno::Ora, Comando::PiazzaElemento, TipoElemento::Text9, 3},
     BottoneStrumenti{6, u" Sfondo ", {}, 120, 2040, stretto, Disegno::Sfondo, Comando::ApriSfondo},
     BottoneStrumenti{7, u" Colore Sfondo ", {}, 960, 2040, stretto, Disegno::ColoreSfondo, Comando::ApriColoreSfondo},
     BottoneStrumenti{8, u" Decorazioni ", {}, 1800, 1440, stretto, Disegno::Decorazioni, Comando::PiazzaDecorazione},
-    BottoneStrumenti{9, u" Immagini ", {}, 1800, 2040, stretto, Disegno::Immagini, Comando::PiazzaElemento, TipoElemento::IM1},
-    BottoneStrumenti{10, u" Video ", {}, 120, 2640, stretto, Disegno::Video, Comando::PiazzaElemento, TipoElemento::MP1},
-    BottoneStrumenti{12, u" Meteo ", {}, 1800, 2640, stretto, Disegno::Meteo, Comando::PiazzaElemento, TipoElemento::WB1},
-    BottoneStrumenti{14, u" Individua posizione Secondo Schermo ", {}, 960, 2640, stretto, Disegno::SecondoSchermo, Comando::SecondoSchermo},
-    BottoneStrumenti{15, u" Salva Posizione Finestra", {}, 960, 3240, stretto, Disegno::PosizioneFinestra, Comando::SalvaPosizione},
+    BottoneStrumenti{
+        9, u" Immagini ", {}, 1800, 2040, stretto, Disegno::Immagini, Comando::PiazzaElemento, TipoElemento::IM1},
+    BottoneStrumenti{
+        10, u" Video ", {}, 120, 2640, stretto, Disegno::Video, Comando::PiazzaElemento, TipoElemento::MP1},
+    BottoneStrumenti{
+        12, u" Meteo ", {}, 1800, 2640, stretto, Disegno::Meteo, Comando::PiazzaElemento, TipoElemento::WB1},
+    BottoneStrumenti{14,
+                     u" Individua posizione Secondo Schermo ",
+                     {},
+                     960,
+                     2640,
+                     stretto,
+                     Disegno::SecondoSchermo,
+                     Comando::SecondoSchermo},
+    BottoneStrumenti{
+        15, u" Salva Posizione Finestra", {}, 960, 3240, stretto, Disegno::PosizioneFinestra, Comando::SalvaPosizione},
     BottoneStrumenti{16, u" Salva Impostazioni", {}, 1800, 3240, stretto, Disegno::Salva, Comando::Salva},
     BottoneStrumenti{17, u" Chiudi Impostazione Layout ", {}, 120, 3840, 2415, Disegno::Chiudi, Comando::Chiudi},
-    BottoneStrumenti{22, u" PlayList YouTube", {}, 120, 3240, stretto, Disegno::YouTube, Comando::PiazzaElemento, TipoElemento::YT},
+    BottoneStrumenti{
+        22, u" PlayList YouTube", {}, 120, 3240, stretto, Disegno::YouTube, Comando::PiazzaElemento, TipoElemento::YT},
 };
 
 constexpr double larghezzaDecorazione = 1905;
@@ -67,7 +98,8 @@ int piazzati(const DisplayLayout &layout, const BottoneStrumenti &bottone) {
             return false;
         }
     };
-    return static_cast<int>(std::ranges::count_if(layout, [&](const LayoutElement &e) { return e.visibile && suo(e); }));
+    return static_cast<int>(
+        std::ranges::count_if(layout, [&](const LayoutElement &e) { return e.visibile && suo(e); }));
 }
 
 bool piazzaElemento(DisplayLayout &layout, TipoElemento tipo, int indice) {

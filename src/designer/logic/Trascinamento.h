@@ -18,8 +18,8 @@ struct GeometriaForm {
 };
 
 // Everything that follows the mouse, one at a time: the outline of an element that is moved or sized, a panel taken by
-// one of its labels, the toolbox, the form itself. Positions are those of the events, in screen pixels; each move counts
-// from the press, never from the last move.
+// one of its labels, the toolbox, the form itself. Positions are those of the events, in screen pixels; each move
+// counts from the press, never from the last move.
 class Trascinamento {
 public:
     enum class Stato { Fermo = 0, Spostamento = 1, Ridimensionamento = 2, Pannello, Strumenti, Finestra };
@@ -74,11 +74,11 @@ private:
     int m_pannello = 0;
     QPoint m_presa; // outline: the cursor relative to its top left at the press; else the press on the screen
     CRect m_rettangolo;
-    CRect m_prima;             // the outline in twips before the drag
-    PuntoTwips m_inizio;       // where the panel or the toolbox stood at the press
-    PuntoTwips m_vivo;         // where it goes
-    QPoint m_inizioFinestra;   // where the form stood, pixels
-    QPoint m_finestra;         // where it goes
+    CRect m_prima;           // the outline in twips before the drag
+    PuntoTwips m_inizio;     // where the panel or the toolbox stood at the press
+    PuntoTwips m_vivo;       // where it goes
+    QPoint m_inizioFinestra; // where the form stood, pixels
+    QPoint m_finestra;       // where it goes
     bool m_maniglieVisibili = false;
 };
 
