@@ -258,6 +258,17 @@ TEST_F(Figure, AlDoppioDellaScalaNonRestanoRighe) {
     const QImage foglio = dipingi(2);
     EXPECT_EQ(dove(foglio, fondo), QRect(200, 100, 800, 400));
     EXPECT_EQ(quanti(foglio, fondo) + quanti(foglio, 0xFF808000), 1600 * 1200);
+    for (const qreal scala : {1.0, 1.5, 2.0}) {
+        QImage riquadro(QSize(12, 8) * scala, QImage::Format_RGB32);
+        riquadro.setDevicePixelRatio(scala);
+        riquadro.fill(Qt::white);
+        QPainter p(&riquadro);
+        riquadra(p, QRect(0, 0, 12, 8), Qt::black);
+        p.end();
+        for (const QPoint angolo : {riquadro.rect().topLeft(), riquadro.rect().topRight(), riquadro.rect().bottomLeft(),
+                                    riquadro.rect().bottomRight()})
+            EXPECT_EQ(riquadro.pixel(angolo), 0xFF000000) << scala;
+    }
 }
 
 TEST(Posti, SiArrotondanoIBordiNonLeMisure) {

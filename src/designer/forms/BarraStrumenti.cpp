@@ -88,9 +88,8 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override {
         QPainter p(this);
-        p.setPen(tavolozza::testoTenue);
-        p.setBrush(tavolozza::bianco);
-        p.drawRect(rect().adjusted(0, 0, -1, -1));
+        p.fillRect(rect(), tavolozza::bianco);
+        riquadra(p, rect(), tavolozza::testoTenue);
         dipingi(p, Disegno::SpostaFinestra, rect().adjusted(4, 4, -4, -4));
     }
 };
@@ -166,8 +165,7 @@ void BarraStrumenti::paintEvent(QPaintEvent *) {
     p.fillRect(rect(), tavolozza::sfondo);
     const QRect striscia = rettangoloTela(strisciaStrumenti).intersected(rect());
     p.fillRect(striscia, tavolozza::primarioChiaro);
-    p.setPen(tavolozza::testoTenue);
-    p.drawRect(rect().adjusted(0, 0, -1, -1));
+    riquadra(p, rect(), tavolozza::testoTenue);
     dipingi(p, Disegno::Presa, striscia.adjusted(0, 4, -striscia.width() / 3, -4));
 }
 

@@ -115,10 +115,8 @@ void sagoma(QPainter &p, const QRect &r, std::optional<Disegno> segno, const QSt
     p.setClipRect(r, Qt::IntersectClip);
     if (segno)
         p.fillRect(r, QColor(255, 255, 255, 190));
-    p.setPen(QPen(tavolozza::bianco, 1));
-    p.drawRect(r.adjusted(0, 0, -1, -1));
-    p.setPen(QPen(segno ? tavolozza::pericolo : tavolozza::testoTenue, 1, Qt::DashLine));
-    p.drawRect(r.adjusted(0, 0, -1, -1));
+    riquadra(p, r, tavolozza::bianco);
+    riquadra(p, r, segno ? tavolozza::pericolo : tavolozza::testoTenue, Qt::DashLine);
     const int lato = segno ? std::clamp(std::min(r.width(), r.height()) / 3, 0, 48) : 0;
     QFont font(u"Tahoma"_s);
     font.setPixelSize(13);
@@ -170,6 +168,15 @@ QRect rettangoloTela(const Area &a) {
 
 QSize pixelDispositivo(QSize misura, qreal scala) {
     return {qRound(misura.width() * scala), qRound(misura.height() * scala)};
+}
+
+// The pen stands astride its line: half a pixel inside, it covers the edge at every scale.
+void riquadra(QPainter &p, const QRect &r, const QColor &colore, Qt::PenStyle tratto) {
+    p.save();
+    p.setPen(QPen(colore, 1, tratto, Qt::SquareCap, Qt::MiterJoin));
+    p.setBrush(Qt::NoBrush);
+    p.drawRect(QRectF(r).adjusted(0.5, 0.5, -0.5, -0.5));
+    p.restore();
 }
 
 QFont fontTela(const Carattere &c) {

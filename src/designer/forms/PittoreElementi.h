@@ -16,6 +16,8 @@ class ImmaginiTela;
 QRect rettangoloTela(const Area &a);
 // A size on the canvas in the device's own pixels.
 QSize pixelDispositivo(QSize misura, qreal scala);
+// A frame of one pixel along the inner edge of a place, without a gap at any scale.
+void riquadra(QPainter &p, const QRect &r, const QColor &colore, Qt::PenStyle tratto = Qt::SolidLine);
 // The font of an element as the call display shows it: 20 twips to the point, whatever the screen's own resolution.
 // For paint devices of 96 dots per inch.
 QFont fontTela(const Carattere &c);
