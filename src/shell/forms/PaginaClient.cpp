@@ -22,7 +22,7 @@ PaginaClient::PaginaClient(Form &pannello, bool principale)
     NameS1.setAccessibleName(u"Nome della macchina del server"_s);
     for (Edit *campo : {&ipS1, &LaPorta, &NameS1})
         campo->setToolTip(campo->accessibleName());
-    LaPorta.setTastiAmmessi(soloCifre);
+    LaPorta.setFiltro(soloCifre);
     pannello.alClic(SaveIP, [this] { salva(); });
     applicaNominativo(principale);
 }
