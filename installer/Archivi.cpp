@@ -34,6 +34,8 @@ void riempiTutto(Database &db, const Archivio &archivio, const Destinazione &des
     db.esegui(QString::fromUtf8(schemaDi(archivio)));
     for (const Tabella &tabella : archivio.tabelle)
         riempi(db, tabella, destinazione);
+    if (&archivio == &archivioZuvora && !destinazione.notizie.isEmpty())
+        db.eseguiPerRighe(u"UPDATE TG SET PercorsoURL = ?"_s, {{destinazione.notizie}});
     db.esegui(u"COMMIT"_s);
     if (!db.integro())
         throw Guasto{
@@ -56,14 +58,6 @@ void creaArchivio(const Archivio &archivio, const QString &file, const Destinazi
         riempiTutto(db, archivio, destinazione);
     } catch (const EngineError &errore) {
         rilancia(errore, file, destinazione.cartella + u'/' + archivio.file);
-    }
-}
-
-void scegliNotizie(const QString &file, const QString &indirizzo, const QString &cartella) {
-    try {
-        Database::OpenDatabase(file).eseguiPerRighe(u"UPDATE TG SET PercorsoURL = ?"_s, {{indirizzo}});
-    } catch (const EngineError &errore) {
-        rilancia(errore, file, cartella + u'/' + archivioZuvora.file);
     }
 }
 

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 
 namespace zuvora::installa {
 using namespace Qt::Literals::StringLiterals;
@@ -20,6 +21,10 @@ constexpr auto fileElenco = "/.elenco"_L1;
 
 QStringList voci(const QString &cartella) {
     return QDir(cartella).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System, QDir::Name);
+}
+
+bool eArchivio(const QString &voce) {
+    return voce.endsWith(".mdb"_L1, Qt::CaseInsensitive);
 }
 
 bool esiste(const QString &percorso) {
@@ -53,13 +58,15 @@ void rifiutaOccupata(const QString &cartella) {
     if (info.exists() && !info.isDir())
         throw Guasto{u"%1 non è una cartella: indicare una cartella nuova."_s.arg(nativa)};
     const QStringList nostre = avanzi(cartella);
-    for (const QString &voce : voci(cartella)) {
+    QStringList presenti = voci(cartella);
+    std::ranges::stable_partition(presenti, eArchivio); // they say most
+    for (const QString &voce : presenti) {
         if (nostre.contains(voce) || u'/' + voce == fileGuardia || voce == "lost+found"_L1)
             continue;
-        const bool archivio = voce.endsWith(".mdb"_L1, Qt::CaseInsensitive);
-        throw Guasto{(archivio ? u"Nella cartella %1 c'è già un archivio (%2): nulla è stato modificato."_s
-                               : u"Nella cartella %1 c'è già %2: nulla è stato modificato. Indicare una cartella nuova "
-                                 "o vuota."_s)
+        throw Guasto{(eArchivio(voce)
+                          ? u"Nella cartella %1 c'è già un archivio (%2): nulla è stato modificato."_s
+                          : u"Nella cartella %1 c'è già %2: nulla è stato modificato. Indicare una cartella nuova "
+                            "o vuota."_s)
                          .arg(nativa, voce)};
     }
 }

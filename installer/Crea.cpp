@@ -52,12 +52,12 @@ void prepara(const QString &destinazione, const QString &cartella, const Opzioni
     copiaFile(origine, destinazione);
     if (opzioni.esempio)
         scriviEsempio(destinazione, cartella);
+    const QString notizie =
+        opzioni.notizie.isEmpty() ? QString() : indirizzoWeb(opzioni.notizie)->toString(QUrl::FullyEncoded);
     for (const Archivio *archivio : {&archivioTotem, &archivioZuvora}) {
         const QString file = destinazione + u'/' + archivio->file;
         creaCartella(QFileInfo(file).path());
-        creaArchivio(*archivio, file, {cartella, opzioni.esempio});
-        if (archivio == &archivioZuvora && !opzioni.notizie.isEmpty())
-            scegliNotizie(file, indirizzoWeb(opzioni.notizie)->toString(QUrl::FullyEncoded), cartella);
+        creaArchivio(*archivio, file, {cartella, opzioni.esempio, notizie});
     }
 }
 

@@ -9,6 +9,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
@@ -29,8 +30,14 @@ QString motivo(int errore) {
     return frase;
 }
 
+// As the user knows it: without the hidden folder in which an installation is put together.
+QString posto(const QString &file) {
+    static const QRegularExpression preparazione(u"/\\.zuvora-installa-[^/]*"_s);
+    return QDir::toNativeSeparators(QString(file).remove(preparazione));
+}
+
 [[noreturn]] void fallisci(int errore, const QString &azione, const QString &file) {
-    throw Guasto{u"Impossibile %1 %2: %3"_s.arg(azione, QDir::toNativeSeparators(file), motivo(errore))};
+    throw Guasto{u"Impossibile %1 %2: %3"_s.arg(azione, posto(file), motivo(errore))};
 }
 
 void verifica(const std::error_code &errore, const QString &azione, const QString &file) {
