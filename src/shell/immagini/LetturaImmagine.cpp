@@ -53,4 +53,17 @@ QImage leggiImmagine(const QString &percorso, const QSize &massimo, Riduzione ri
     return letta;
 }
 
+QImage leggiRitaglio(const QString &percorso, const QSize &misura) {
+    if (!eFile(percorso))
+        return {};
+    QImageReader lettore(percorso);
+    lettore.setDecideFormatFromContent(true);
+    const QRect ritaglio(QPoint(), misura);
+    // Only where it cuts something off: told of its whole size, a decoder would take another way for nothing.
+    if (const QSize intera = lettore.size(); intera.isValid() && supera(intera, misura))
+        lettore.setClipRect(ritaglio & QRect(QPoint(), intera));
+    const QImage letta = lettore.read();
+    return supera(letta.size(), misura) ? letta.copy(ritaglio & letta.rect()) : letta;
+}
+
 } // namespace zuvora

@@ -21,4 +21,7 @@ enum class Riduzione {
 // can't be read.
 QImage leggiImmagine(const QString &percorso, const QSize &massimo, Riduzione riduzione = Riduzione::Proporzioni);
 
+// The picture's top left corner at the picture's own size, at most `misura` (pixels) of it. Null when it can't be read.
+QImage leggiRitaglio(const QString &percorso, const QSize &misura);
+
 } // namespace zuvora
