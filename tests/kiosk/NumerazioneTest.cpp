@@ -1,6 +1,6 @@
 #include "kiosk/logic/Numerazione.h"
 #include "kiosk/DueArchivi.h"
-#include "kiosk/logic/ArchivioKiosk.h"
+#include "kiosk/logic/ArchivioTotem.h"
 
 namespace zuvora::prova {
 namespace {
