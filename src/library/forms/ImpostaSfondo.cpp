@@ -85,12 +85,14 @@ void apriSfondoLayout(const Ambiente &ambiente, const UsoSfondo &uso, QWidget *p
     ImpostaSfondo(ambiente, ModoSfondo::Layout, uso, padre).mostraModale();
 }
 
-void apriSfondoTotem(const Ambiente &ambiente, const std::function<void(const QString &)> &FF1, QWidget *padre) {
-    const auto imposta = [&FF1](const QString &percorso) {
-        FF1(percorso);
+std::optional<QString> apriSfondoTotem(const Ambiente &ambiente, QWidget *padre) {
+    std::optional<QString> impostato;
+    const auto imposta = [&impostato](const QString &percorso) {
+        impostato = percorso;
         return true;
     };
     ImpostaSfondo(ambiente, ModoSfondo::SfondoTotem, {imposta, {}}, padre).mostraModale();
+    return impostato;
 }
 
 } // namespace zuvora
