@@ -154,7 +154,8 @@ void Impostatotem::scegliPercorso() {
 }
 
 void Impostatotem::scegliSfondo() {
-    apriSfondoTotem(ambiente(), [this](const QString &percorso) { FF1.setText(percorso); }, this);
+    if (const auto percorso = apriSfondoTotem(ambiente(), this))
+        FF1.setText(*percorso);
 }
 
 GruppoFont &Impostatotem::gruppo() {

@@ -10,7 +10,7 @@ namespace {
 
 // With the 2 s that a path may be silent it makes less than the 5 s that the user waits at most.
 constexpr std::chrono::milliseconds attesaApertura{2500};
-constexpr std::chrono::milliseconds attesaBlocco{1000};
+constexpr std::chrono::milliseconds attesaSblocco{1000};
 
 void provaApertura(const QString &archivio, QObject &ricevente, std::function<void(bool)> risposta) {
     chiedi<bool>([archivio] { return totemRaggiungibile(archivio); }, ricevente,
@@ -28,7 +28,7 @@ QString fileTotem(const Percorsi &percorsi, const QString &cartellaTotem, QStrin
 
 bool totemRaggiungibile(const QString &archivio) {
     try {
-        Database totem = Database::OpenDatabase(archivio, attesaBlocco);
+        Database totem = Database::OpenDatabase(archivio, attesaSblocco);
         totem.Execute(u"Select * from [DatiDaStampareIMP]"_s);
     } catch (const EngineError &e) {
         return e.numero() != Errore::PercorsoNonValido && e.numero() != Errore::FileNonTrovato &&
