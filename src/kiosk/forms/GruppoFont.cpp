@@ -42,7 +42,8 @@ GruppoFont::GruppoFont(QWidget *cornice, const Nomi &nomi, const QString &di, in
     for (QWidget *w : {static_cast<QWidget *>(&nome), static_cast<QWidget *>(&misura), static_cast<QWidget *>(&scegli),
                        static_cast<QWidget *>(&colore), static_cast<QWidget *>(&tavolozza)})
         w->setToolTip(w->accessibleName());
-    QObject::connect(&tavolozza, &ColorPicker::scelto, &colore, [this](int bgr) { colore.setText(QString::number(bgr)); });
+    QObject::connect(&tavolozza, &ColorPicker::scelto, &colore,
+                     [this](int bgr) { colore.setText(QString::number(bgr)); });
     QObject::connect(&colore, &QLineEdit::textChanged, &tavolozza, [this] { mostraColore(); });
 }
 

@@ -19,7 +19,6 @@ ImpoRete::ImpoRete(const Ambiente &ambiente_, QWidget *padre)
     alClic(cbt(1), [this] { ScegliCartellaTotem(); });
     alClic(cbt(2), [this] { confermaPercorso(); });
     alClic(cbt(0), [this] { scarica(); });
-    cbt(1).setFocus();
 }
 
 void ImpoRete::attivata() {

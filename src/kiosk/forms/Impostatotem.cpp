@@ -40,7 +40,6 @@ Impostatotem::Impostatotem(const Ambiente &ambiente_, Misura &anteprima, QWidget
     collega();
     m_riga.carica();
     mostra();
-    PRT.setFocus();
 }
 
 void Impostatotem::nomina() {
@@ -123,9 +122,9 @@ void Impostatotem::mostra() {
 ContenutoTotem Impostatotem::contenuto() {
     ContenutoTotem adesso;
     for (const Legame &legame : legami())
-        adesso[legame.campo] = legame.casella != nullptr       ? legame.casella->text()
+        adesso[legame.campo] = legame.casella != nullptr    ? legame.casella->text()
                                : legame.spunta->isChecked() ? u"1"_s
-                                                               : u"0"_s;
+                                                            : u"0"_s;
     adesso[CampoTotem::RisoluzioneTotem] = m_schermo.scelto() < 0 ? QString() : Label2.Caption();
     return adesso;
 }
@@ -164,7 +163,7 @@ GruppoFont &Impostatotem::gruppo() {
 
 void Impostatotem::ScegliFont(const QString &bersaglio) {
     BersaglioFont = bersaglio;
-    if (const auto scelto = ambiente().dialoghi.scegliFont(this, gruppo().font()))
+    if (const auto scelto = ambiente().dialoghi.scegliFont(this))
         gruppo().setFont(*scelto);
 }
 

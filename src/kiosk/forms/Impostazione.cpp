@@ -3,8 +3,7 @@
 #include "kiosk/forms/AttesaTotem.h"
 #include "kiosk/logic/ArchivioTotem.h"
 #include "shell/host/Dialoghi.h"
-
-#include <QKeyEvent>
+#include "shell/host/Tastiera.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -50,11 +49,14 @@ Impostazione::Impostazione(const Ambiente &ambiente_, const QString &cartellaTot
         casella->setSelezionaAlFuoco();
         casella->setSvuotaAppunti(ambiente().piattaforma, Edit::Svuota::AlFuoco);
     }
+    for (int i = 1; i <= serviziNumerati; ++i) {
+        bottoneDi(Modifnr(i), Na1(i));
+        bottoneDi(NumIniz(i), Salvain);
+    }
     alClic(Na1, [this](int servizio) { modificaNumero(servizio); });
     alClic(Salvain, [this] { impostaIniziali(); });
     alClic(PB1_0, [this] { scarica(); });
     leggi();
-    Modifnr(1).setFocus();
 }
 
 // A kiosk that doesn't answer must not freeze the window: it is asked off the thread, and no key or click gets through
@@ -99,19 +101,6 @@ void Impostazione::impostaIniziali() {
         casella->setText(numeroDaScrivere(casella->text()));
     conTotem([numeri = testi(NumIniz)](const QString &archivio) { scriviNumeriIniziali(archivio, numeri); });
     ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, titoloConferma, u"Numerazione impostata !"_s);
-}
-
-// Enter in a box presses the button that writes it.
-void Impostazione::keyPressEvent(QKeyEvent *e) {
-    if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) {
-        for (int i = 1; i <= serviziNumerati; ++i) {
-            if (Modifnr(i).hasFocus())
-                return Na1(i).click();
-            if (NumIniz(i).hasFocus())
-                return Salvain.click();
-        }
-    }
-    Form::keyPressEvent(e);
 }
 
 } // namespace zuvora

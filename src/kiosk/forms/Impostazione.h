@@ -10,11 +10,11 @@ namespace zuvora {
 class Impostazione : public Form {
 public:
     // `cartellaTotem` is the kiosk's folder as the row has it.
-    Impostazione(const Ambiente &ambiente, const QString &cartellaTotem, QWidget *padre, Percorsi percorsi = Percorsi());
+    Impostazione(const Ambiente &ambiente, const QString &cartellaTotem, QWidget *padre,
+                 Percorsi percorsi = Percorsi());
 
 protected:
     bool puoScaricarsi() override { return !m_occupata; }
-    void keyPressEvent(QKeyEvent *e) override;
 
 private:
     template <class F> void conTotem(F lavoro);

@@ -82,9 +82,9 @@ void LayoutTotem::DisponiPulsanti(int schermo) {
     if (servizi == 0)
         avverti(u"Nessun servizio attivo: non ci sono pulsanti da disporre."_s);
     if (const int fuori = fuoriSchermo(schermo, servizi); fuori > 0)
-        avverti(u"Con %1 servizi l'ultima riga di pulsanti esce di %2 pixel sotto il bordo dello schermo."_s
-                    .arg(servizi)
-                    .arg(pixelDa(fuori)));
+        avverti(
+            u"Con %1 servizi l'ultima riga di pulsanti esce di %2 pixel sotto il bordo dello schermo."_s.arg(servizi)
+                .arg(pixelDa(fuori)));
 }
 
 // False when the picture ends the arrangement.
