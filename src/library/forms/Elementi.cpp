@@ -104,11 +104,11 @@ QString Elementi::scegliFile() {
 // Null when the user called it off.
 std::shared_ptr<CopiaPreparata> Elementi::preparaCopia(const QString &origine) {
     const QString temporaneo = postoTemporaneo(CartellaDestinazione, ultimoID(cartella()), FileScelto(origine));
-    return aspettaEsito<std::shared_ptr<CopiaPreparata>>(
-               ambiente(), this, u"Copia del file in corso..."_s,
-               [origine, temporaneo](Avanzamento &a) {
-                   return std::make_shared<CopiaPreparata>(origine, temporaneo, a);
-               })
+    return aspettaEsito<std::shared_ptr<CopiaPreparata>>(ambiente(), this, u"Copia del file in corso..."_s,
+                                                         [origine, temporaneo](Avanzamento &a) {
+                                                             return std::make_shared<CopiaPreparata>(origine,
+                                                                                                     temporaneo, a);
+                                                         })
         .value_or(nullptr);
 }
 

@@ -6,6 +6,7 @@
 #include "shell/disegni/Disegni.h"
 #include "shell/host/Dialoghi.h"
 
+#include <QMouseEvent>
 #include <QTimer>
 #include <utility>
 
@@ -53,6 +54,7 @@ SceltaLayout::SceltaLayout(const Ambiente &ambiente_, int risoluzione, QWidget *
           return std::make_unique<Button>(&GroupBox1, nome, "", Posto{4440, topLinea(i), 375, 285});
       }) {
     disponiLinee();
+    Label1.setAlignment(Qt::AlignLeft | Qt::AlignVCenter); // to the box beside it
     Label2.setReadOnly(true);
     Label2.setFocusPolicy(Qt::ClickFocus);
     riempi();
@@ -115,13 +117,15 @@ void SceltaLayout::attivata() {
 // The name of a line acts like its radio button; a double click opens the layout as well.
 bool SceltaLayout::eventFilter(QObject *oggetto, QEvent *evento) {
     const bool doppio = evento->type() == QEvent::MouseButtonDblClick;
-    if (!doppio && evento->type() != QEvent::MouseButtonRelease)
+    const bool clic = doppio || evento->type() == QEvent::MouseButtonPress;
+    if (!clic || static_cast<QMouseEvent *>(evento)->button() != Qt::LeftButton)
         return false;
     for (int i = 0; i < numeroLayout; ++i)
         if (oggetto == &text1(2 * i))
             RB1(i).setChecked(true);
     if (doppio) // once the click is over: the designer must not open inside it
-        QMetaObject::invokeMethod(this, [this] { proteggi([this] { CaricaLayout(); }); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { proteggi([this] { CaricaLayout(); }); }, Qt::QueuedConnection);
     return false;
 }
 

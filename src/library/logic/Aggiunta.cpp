@@ -13,12 +13,12 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr QStringView prefisso = u".aggiunta-"; // then the ID and a word that is never used again
+constexpr auto prefisso = ".aggiunta-"_L1; // then the ID and a word that is never used again
 
 bool haRiga(const QString &cartella, int Tipo, qlonglong oltreID, const QString &nome) {
     Data dato;
-    Recordset &righe = apri(
-        dato, cartella, u"Select * from Decorazioni where [Tipo]=%1 and [ID]>%2"_s.arg(Tipo).arg(oltreID));
+    Recordset &righe =
+        apri(dato, cartella, u"Select * from Decorazioni where [Tipo]=%1 and [ID]>%2"_s.arg(Tipo).arg(oltreID));
     for (; !righe.Eof(); righe.MoveNext())
         if (testoDi(righe[u"File"].Value(), {}) == nome)
             return true;
@@ -42,8 +42,8 @@ void riparaAggiunta(const QString &cartella, int Tipo, const QDir &categoria, co
 } // namespace
 
 QString postoTemporaneo(const QString &cartellaCategoria, qlonglong ultimoID, const QString &nome) {
-    return cartellaCategoria + prefisso + QString::number(ultimoID) + u'-' + QUuid::createUuid().toString(QUuid::Id128) +
-           u'/' + nome;
+    return cartellaCategoria + prefisso + QString::number(ultimoID) + u'-' +
+           QUuid::createUuid().toString(QUuid::Id128) + u'/' + nome;
 }
 
 qlonglong ultimoID(const QString &PercorsoApplicazione) {

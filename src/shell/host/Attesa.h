@@ -23,8 +23,8 @@ template <class T>
 std::optional<T> aspettaEsito(const Ambiente &ambiente, QWidget *padre, const QString &testo,
                               std::function<T(Avanzamento &)> lavoro) {
     const auto esito = std::make_shared<std::optional<T>>();
-    const bool fatto = aspetta(ambiente, padre, testo,
-                               [esito, lavoro = std::move(lavoro)](Avanzamento &a) { *esito = lavoro(a); });
+    const bool fatto =
+        aspetta(ambiente, padre, testo, [esito, lavoro = std::move(lavoro)](Avanzamento &a) { *esito = lavoro(a); });
     return fatto ? std::move(*esito) : std::optional<T>();
 }
 

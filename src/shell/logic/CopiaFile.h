@@ -23,8 +23,8 @@ Incontro incontroCopia(const QString &origine, const QString &destinazione, cons
 class CopiaPreparata {
     Q_DISABLE_COPY_MOVE(CopiaPreparata)
 public:
-    // Writes the copy to the new file `temporaneo`, in a folder of its own that is made, on the disk of its later place.
-    // It is on the disk when this returns.
+    // Writes the copy to the new file `temporaneo`, in a folder of its own that is made, on the disk of its later
+    // place. It is on the disk when this returns.
     CopiaPreparata(const QString &origine, const QString &temporaneo, Avanzamento &avanzamento);
     ~CopiaPreparata();
 
