@@ -5,6 +5,7 @@
 #include "kiosk/logic/ArchivioTotem.h"
 #include "kiosk/logic/ConfigurazioneTotem.h"
 #include "shell/host/Dialoghi.h"
+#include "shell/host/Piattaforma.h"
 #include "shell/store/Riga.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -17,10 +18,12 @@ const QString titoloMessaggi = u"Zuvora-Messaggio"_s;
 
 } // namespace
 
-VarieImpostaTotem::VarieImpostaTotem(const Ambiente &ambiente_, ApriEtichette etichette, QWidget *padre,
-                                     Percorsi percorsi)
+VarieImpostaTotem::VarieImpostaTotem(const Ambiente &ambiente_, QWidget *padre, Percorsi percorsi,
+                                     ApriEtichette etichette)
     : Form(ambiente_, "VarieImpostaTotem", "Varie impostazioni del Totem....", {6015, 2265}, padre),
       m_apriEtichette(std::move(etichette)), m_percorsi(std::move(percorsi)) {
+    if (!m_apriEtichette)
+        m_apriEtichette = [this] { return creaEtichette(ambiente().piattaforma.cartellaEseguibile()); };
     PRT.setText(leggiRiga(cartella(), tabellaTotem.toString()).testo(colonna(CampoTotem::PercorsoReteTotem).nome));
     PRT.setSolaLettura(u"Il percorso si cambia in Imposta schermata Totem."_s);
     alClic(PB1(2), [this] { conTotem([this] { ImpostaStampa(); }); });
@@ -71,9 +74,13 @@ void VarieImpostaTotem::ImpostaStampa() {
         };
         ticket = alTotem(lettura);
     }
-    if (QString motivo; LL9 == nullptr && (LL9 = m_apriEtichette(motivo)) == nullptr) {
-        ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, titoloMessaggi, motivo);
-        return;
+    if (LL9 == nullptr) {
+        auto [etichette, motivo] = m_apriEtichette();
+        LL9 = std::move(etichette);
+        if (LL9 == nullptr) {
+            ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, titoloMessaggi, motivo);
+            return;
+        }
     }
     LL9->LlDefineVariableStart();
     DefinisciVariabiliTicket(ticket.variabili);

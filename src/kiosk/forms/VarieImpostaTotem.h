@@ -1,7 +1,7 @@
 #pragma once
 
 #include "kiosk/logic/VariabiliTicket.h"
-#include "shell/host/Etichette.h"
+#include "shell/host/ComponenteEtichette.h"
 #include "shell/host/Form.h"
 #include "shell/logic/Percorsi.h"
 
@@ -9,15 +9,16 @@
 
 namespace zuvora {
 
-// Gives the ticket designer, or null and an Italian sentence that says why there is none.
-using ApriEtichette = std::function<std::unique_ptr<Etichette>(QString &motivo)>;
+// Gives the ticket designer, or says why there is none.
+using ApriEtichette = std::function<EsitoComponenteEtichette()>;
 
 // The way to what lies in the kiosk's folder: the ticket's design and the numbering. Whether the kiosk can be reached
 // is tested each time the form comes to the front.
 class VarieImpostaTotem : public Form {
 public:
-    VarieImpostaTotem(const Ambiente &ambiente, ApriEtichette etichette, QWidget *padre,
-                      Percorsi percorsi = Percorsi());
+    // Without `etichette` the component beside the executable serves.
+    VarieImpostaTotem(const Ambiente &ambiente, QWidget *padre, Percorsi percorsi = Percorsi(),
+                      ApriEtichette etichette = {});
 
 protected:
     void attivata() override;
