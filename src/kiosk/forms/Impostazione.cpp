@@ -12,11 +12,12 @@ namespace {
 
 constexpr int primaRiga = 480; // twips
 constexpr int passoRighe = 360;
+constexpr int scartoNomi = 45; // brings the names to the height of the texts in the boxes
 const QString titoloConferma = u"Conferma"_s;
 
 // The n-th line's place in a column.
 Posto sullaRiga(int servizio, Posto colonna) {
-    colonna.top = primaRiga + passoRighe * (servizio - 1);
+    colonna.top += primaRiga + passoRighe * (servizio - 1);
     return colonna;
 }
 
@@ -40,7 +41,7 @@ ColonnaServizi testi(const Schiera<Edit> &caselle) {
 
 Impostazione::Impostazione(const Ambiente &ambiente_, const QString &cartellaTotem, QWidget *padre, Percorsi percorsi)
     : Form(ambiente_, "Impostazione", "Impostazione", {6975, 8175}, padre), m_cartellaTotem(cartellaTotem),
-      m_percorsi(std::move(percorsi)), Label2(colonna<Label>(this, "Label2", {120, 0, 2655, 285})),
+      m_percorsi(std::move(percorsi)), Label2(colonna<Label>(this, "Label2", {120, scartoNomi, 2655, 255})),
       Modifnr(colonna<Edit>(this, "Modifnr", {2880, 0, 975, 285})),
       Na1(colonna<Button>(this, "Na1", {3930, 0, 855, 285}, "Esegui")),
       NumIniz(colonna<Edit>(this, "NumIniz", {5040, 0, 855, 285})) {

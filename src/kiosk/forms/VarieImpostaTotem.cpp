@@ -26,6 +26,7 @@ VarieImpostaTotem::VarieImpostaTotem(const Ambiente &ambiente_, QWidget *padre, 
         m_apriEtichette = [this] { return creaEtichette(ambiente().piattaforma.cartellaEseguibile()); };
     PRT.setText(leggiRiga(cartella(), tabellaTotem.toString()).testo(colonna(CampoTotem::PercorsoReteTotem).nome));
     PRT.setSolaLettura(u"Il percorso si cambia in Imposta schermata Totem."_s);
+    PRT.setFocusPolicy(Qt::ClickFocus);
     alClic(PB1(2), [this] { conTotem([this] { ImpostaStampa(); }); });
     alClic(PB1(3), [this] { conTotem([this] { apriNumerazione(); }); });
     alClic(PB1(0), [this] { scarica(); });

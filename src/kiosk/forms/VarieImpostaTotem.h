@@ -36,13 +36,13 @@ private:
     std::unique_ptr<Etichette> LL9;
     Percorsi m_percorsi;
     int m_prova = 0; // number of the test under way or last done
-    bool m_inProva = false;
+    bool m_inProva = true; // nothing is done before the first test has passed
     bool m_occupata = false; // the kiosk is being asked
     std::function<void()> m_dopoLaProva;
 
     Label Label1{this, "Label1", "Percorso Rete del TOTEM", {120, 120, 5775, 255}};
     Edit PRT{this, "PRT", {120, 405, 5775, 315}};
-    Label Label2{this, "Label2", "", {120, 840, 5775, 255}}; // says that the test is under way
+    Label Label2{this, "Label2", "Verifica del Totem in corso...", {120, 840, 5775, 255}};
     Schiera<Button> PB1{this,
                         "PB1",
                         {{2, "Impostazione Stampa", {120, 1200, 2775, 330}},
