@@ -163,7 +163,6 @@ TEST_F(Aggiunta, UnaFineImprovvisaSiRiparaAllaProssimaApertura) {
         EXPECT_EQ(QFile::exists(categoria + nome), riga) << volta;
         EXPECT_EQ(inAttesa(), QStringList()) << volta;
     }
-    printf("sospese %d %d %d %d\n", sospese[0], sospese[1], sospese[2], sospese[3]);
     EXPECT_GT(sospese[1], 0) << "the kills must hit";
     EXPECT_GT(sospese[2], 0);
 }
