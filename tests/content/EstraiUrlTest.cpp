@@ -1,0 +1,41 @@
+#include "content/logic/EstraiUrl.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+struct Caso {
+    QString codice;
+    std::optional<QString> url; // without the tail
+};
+
+TEST(EstraiUrl, CuttingTheAddressOut) {
+    const Caso casi[] = {
+        {u"<iframe width=\"560\" src=\"https://www.youtube.com/embed/videoseries?list=PLabC\" frameborder=\"0\">"_s,
+         u"https://www.youtube.com/embed/videoseries?list=PLabC"_s},
+        {u"src=\"\" frameborder"_s, u""_s},
+        // The first of each counts, wherever it stands.
+        {u"src=\"a\" src=\"b\" frameborder frameborder"_s, u"a\" src=\"b"_s},
+        // Without "src=" the cut begins at the fifth character: not noticed as wrong.
+        {u"<iframe title=\"x\" frameborder"_s, u"ame title=\"x"_s},
+        {u"1234 frameborder"_s, std::nullopt},
+        {u"123456 frameborder"_s, u""_s},
+        {u"<iframe src=\"https://x/\">"_s, std::nullopt},
+        {u"frameborder=\"0\" src=\"https://x/\""_s, std::nullopt},
+        {u"SRC=\"https://x/\" FRAMEBORDER"_s, std::nullopt},
+        {u"src=frameborder"_s, std::nullopt},
+        {u""_s, std::nullopt},
+    };
+    for (const Caso &caso : casi) {
+        const auto esito = EstraiUrl(caso.codice);
+        ASSERT_EQ(esito.has_value(), caso.url.has_value()) << caso.codice.toStdString();
+        if (esito)
+            EXPECT_EQ(*esito, *caso.url + u"&autoplay=1&autohide=1"_s) << caso.codice.toStdString();
+    }
+}
+
+} // namespace
+} // namespace zuvora
