@@ -100,7 +100,7 @@ Grid::~Grid() = default;
 
 void Grid::lega(Data &dato) {
     m_dato = &dato;
-    dato.seAggiornato([this] { riempi(); });
+    dato.seAggiornato(*this, [this] { riempi(); });
     if (dato.aperto())
         riempi();
 }

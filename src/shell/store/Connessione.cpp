@@ -70,8 +70,8 @@ void Connessione::apri() {
         throw errore(Errore::NonDatabase, Azione::Apertura);
     ignoraLimiteFile();
     // Without CREATE nothing is made; a write-protected file is opened for reading by the engine itself.
-    constexpr int kModo = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
-    const int rc = sqlite3_open_v2(m_percorso.toUtf8().constData(), &m_db, kModo, nullptr);
+    constexpr int modoApertura = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
+    const int rc = sqlite3_open_v2(m_percorso.toUtf8().constData(), &m_db, modoApertura, nullptr);
     if (rc != SQLITE_OK)
         throw errore(rc, Azione::Apertura);
     attendi(m_attesa);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/store/Attesa.h"
 #include "shell/store/Frasi.h"
+#include "shell/store/Limiti.h"
 #include "shell/store/Tipi.h"
 
 #include <QByteArray>
@@ -45,7 +45,7 @@ public:
 
 private:
     friend class Istruzione;
-    static constexpr qsizetype kPronteMassime = 24;
+    static constexpr qsizetype pronteMassime = 24;
     void apri();
     void controlla();
     void scegliGiornale();

@@ -3,6 +3,8 @@
 #include "shell/store/Stato.h"
 
 #include <QDir>
+#include <QPointer>
+#include <vector>
 
 namespace zuvora {
 
@@ -10,7 +12,16 @@ namespace zuvora {
 struct Data::Interno {
     std::unique_ptr<Connessione> connessione;
     zuvora::Recordset recordset{nullptr};
-    std::function<void()> ascoltatore;
+    std::vector<std::pair<QPointer<const QObject>, std::function<void()>>> ascoltatori;
+
+    void avvisa() {
+        std::erase_if(ascoltatori, [](const auto &a) { return a.first.isNull(); });
+        // A list may bind another one, or end one, while it fills itself.
+        const auto presenti = ascoltatori;
+        for (const auto &[lista, ascoltatore] : presenti)
+            if (!lista.isNull())
+                ascoltatore();
+    }
 };
 
 Data::Data() : m_interno(std::make_unique<Interno>()) {}
@@ -18,7 +29,7 @@ Data::Data() : m_interno(std::make_unique<Interno>()) {}
 Data::~Data() = default;
 
 void Data::Refresh() {
-    auto &[connessione, recordset, ascoltatore] = *m_interno;
+    auto &[connessione, recordset, ascoltatori] = *m_interno;
     recordset.m_stato.reset();
     try {
         if (!connessione || !connessione->vale(DatabaseName)) {
@@ -27,13 +38,13 @@ void Data::Refresh() {
         }
         connessione->attendi(attesa);
         recordset.m_stato =
-            std::make_unique<zuvora::Recordset::Stato>(*connessione, apriSorgente(*connessione, RecordSource));
+            std::make_unique<zuvora::Recordset::Stato>(*connessione, apriSorgente(*connessione, RecordSource, limite));
     } catch (...) {
         connessione.reset();
+        m_interno->avvisa();
         throw;
     }
-    if (ascoltatore)
-        ascoltatore();
+    m_interno->avvisa();
 }
 
 bool Data::aperto() const {
@@ -45,8 +56,8 @@ zuvora::Recordset &Data::Recordset() {
     return m_interno->recordset;
 }
 
-void Data::seAggiornato(std::function<void()> ascoltatore) {
-    m_interno->ascoltatore = std::move(ascoltatore);
+void Data::seAggiornato(const QObject &lista, std::function<void()> ascoltatore) {
+    m_interno->ascoltatori.emplace_back(&lista, std::move(ascoltatore));
 }
 
 QString percorsoArchivio(const QString &cartella) {

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "shell/store/Attesa.h"
+#include "shell/store/Limiti.h"
 #include "shell/store/Recordset.h"
 
+#include <QObject>
 #include <QString>
 #include <QStringView>
 #include <functional>
@@ -21,7 +22,8 @@ public:
 
     QString DatabaseName;
     QString RecordSource;
-    std::chrono::milliseconds attesa = kAttesaBlocco; // how long to wait for another program's lock; read by Refresh
+    std::chrono::milliseconds attesa = attesaBlocco; // how long to wait for another program's lock; read by Refresh
+    int limite = righeMassime;                       // how many rows the form can show; read by Refresh
 
     // Opens the record set anew on the two and places it on the first record. On failure throws EngineError and leaves
     // no record set open. Never creates a file.
@@ -29,8 +31,9 @@ public:
     bool aperto() const;
     // The open record set; 3021 before the first Refresh.
     zuvora::Recordset &Recordset();
-    // Called after each successful Refresh, so that a bound list fills itself again.
-    void seAggiornato(std::function<void()> ascoltatore);
+    // Calls `ascoltatore` after each Refresh, so that a bound list fills itself again; after a failed one too, when
+    // nothing is open and the list has to empty itself. Any number of lists; each is forgotten when it goes.
+    void seAggiornato(const QObject &lista, std::function<void()> ascoltatore);
 
 private:
     struct Interno;

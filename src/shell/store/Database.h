@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/store/Attesa.h"
+#include "shell/store/Limiti.h"
 
 #include <QString>
 #include <QStringList>
@@ -23,7 +23,7 @@ class Database {
 public:
     // Opens the file at `percorso`. Throws 3024 when it is missing, 3044 when its folder is, 3343 when it is no
     // database (an empty file included), 3049 when it is damaged.
-    static Database OpenDatabase(const QString &percorso, std::chrono::milliseconds attesa = kAttesaBlocco);
+    static Database OpenDatabase(const QString &percorso, std::chrono::milliseconds attesa = attesaBlocco);
     ~Database();
     Database(Database &&) noexcept;
     Database &operator=(Database &&) noexcept;

@@ -50,4 +50,10 @@ private:
     QByteArray m_what;
 };
 
+// A failure as every window tells it: the sentence, what the window adds to it, the engine's number and own text.
+QString testoErrore(const EngineError &errore, const QString &aggiunta = {});
+
+// A text that came from outside, short enough for a message: its middle gives way to an ellipsis.
+QString accorciato(const QString &testo, int massimo = 160);
+
 } // namespace zuvora

@@ -16,9 +16,9 @@ struct Messaggio {
     Errore numero;
 };
 
-constexpr std::array kMessaggi{Messaggio{u"no such table: ", Errore::TabellaNonTrovata},
-                               Messaggio{u"no such column: ", Errore::ColonnaNonTrovata},
-                               Messaggio{u"duplicate column name: ", Errore::ColonnaGiaPresente}};
+constexpr std::array messaggi{Messaggio{u"no such table: ", Errore::TabellaNonTrovata},
+                              Messaggio{u"no such column: ", Errore::ColonnaNonTrovata},
+                              Messaggio{u"duplicate column name: ", Errore::ColonnaGiaPresente}};
 
 Errore daCodice(int rc, Azione azione, int errnoSistema) {
     const bool scrittura = azione == Azione::Scrittura;
@@ -67,7 +67,7 @@ EngineError Connessione::errore(int rc, Azione azione, const QString &oggetto) c
     Errore numero = daCodice(rc, azione, m_db == nullptr ? 0 : sqlite3_system_errno(m_db));
     if ((rc & 0xFF) == SQLITE_ERROR) {
         numero = Errore::Sintassi;
-        for (const Messaggio &m : kMessaggi)
+        for (const Messaggio &m : messaggi)
             if (dettaglio.startsWith(m.inizio)) {
                 numero = m.numero;
                 contesto.oggetto = dettaglio.mid(m.inizio.size());

@@ -15,7 +15,7 @@ struct Frase {
     QStringView testo; // %1 file name, %2 folder, %3 what was not done, %4 the object concerned
 };
 
-constexpr std::array kFrasi{
+constexpr std::array frasi{
     Frase{Errore::FileNonTrovato,
           u"Il database «%1» non è stato trovato nella cartella «%2». %3 Controllare l'installazione."},
     Frase{Errore::PercorsoNonValido, u"La cartella «%2» del database «%1» non esiste o non è raggiungibile. %3 "
@@ -82,16 +82,15 @@ QString nonFatto(Azione azione) {
 } // namespace
 
 EngineError errore(Errore numero, const Contesto &contesto, const QString &dettaglio) {
-    const auto *frase = std::ranges::find(kFrasi, numero, &Frase::numero);
-    if (frase == kFrasi.end())
-        frase = kFrasi.end() - 1;
+    const auto *frase = std::ranges::find(frasi, numero, &Frase::numero);
+    if (frase == frasi.end())
+        frase = frasi.end() - 1;
     const bool senzaNome = contesto.percorso.isEmpty();
     const QFileInfo file(senzaNome ? QStringLiteral(".") : contesto.percorso);
-    const QString nome = senzaNome ? QStringLiteral("senza nome") : file.fileName();
-    return {numero,
-            riempi(frase->testo,
-                   {nome, QDir::toNativeSeparators(file.absolutePath()), nonFatto(contesto.azione), contesto.oggetto}),
-            dettaglio};
+    const QString nome = senzaNome ? QStringLiteral("senza nome") : accorciato(file.fileName());
+    const QString cartella = accorciato(QDir::toNativeSeparators(file.absolutePath()));
+    return {numero, riempi(frase->testo, {nome, cartella, nonFatto(contesto.azione), accorciato(contesto.oggetto)}),
+            accorciato(dettaglio, 400)};
 }
 
 } // namespace zuvora

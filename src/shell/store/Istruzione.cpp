@@ -20,7 +20,7 @@ Istruzione::~Istruzione() {
         sqlite3_finalize(m_s);
         return;
     }
-    if (pronte.size() >= Connessione::kPronteMassime) {
+    if (pronte.size() >= Connessione::pronteMassime) {
         sqlite3_finalize(*pronte.begin());
         pronte.erase(pronte.begin());
     }

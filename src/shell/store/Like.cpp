@@ -26,16 +26,16 @@ struct Lettore {
 
 private:
     char32_t prendiLungo(unsigned char primo) {
-        constexpr char32_t kGuasto = 0x110000;
+        constexpr char32_t guasto = 0x110000;
         const int seguito = primo >= 0xF0 ? 3 : primo >= 0xE0 ? 2 : 1;
         ++p;
         if (primo < 0xC2 || primo > 0xF4 || fine - p < seguito)
-            return kGuasto + primo;
+            return guasto + primo;
         char32_t c = primo & (0x3FU >> seguito);
         for (int i = 0; i < seguito; ++i) {
             const auto b = static_cast<unsigned char>(p[i]);
             if ((b & 0xC0) != 0x80)
-                return kGuasto + primo;
+                return guasto + primo;
             c = (c << 6) | (b & 0x3FU);
         }
         p += seguito;
@@ -107,9 +107,9 @@ bool simile(std::string_view modello, std::string_view testo, char32_t fuga) {
 }
 
 int installaLike(sqlite3 *db) {
-    constexpr int kModo = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
+    constexpr int modo = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
     for (const int argomenti : {2, 3})
-        if (const int rc = sqlite3_create_function(db, "like", argomenti, kModo, nullptr, likeSql, nullptr, nullptr);
+        if (const int rc = sqlite3_create_function(db, "like", argomenti, modo, nullptr, likeSql, nullptr, nullptr);
             rc != SQLITE_OK)
             return rc;
     return SQLITE_OK;

@@ -101,6 +101,10 @@ int Recordset::RecordCount() const {
     return stato().sorgente.quante();
 }
 
+bool Recordset::tagliato() const {
+    return stato().sorgente.tagliata;
+}
+
 bool Recordset::Bof() const {
     return RecordCount() == 0;
 }

@@ -50,6 +50,7 @@ public:
     Field operator[](QStringView nome); // Fields().Item(nome)
 
     int RecordCount() const;              // 0 when empty; exact from the start
+    bool tagliato() const;                // the source has more rows than the Data object's limit
     bool Bof() const;                     // before the first record (also when empty)
     bool Eof() const;                     // behind the last record (also when empty)
     void MoveFirst();                     // 3021 when empty

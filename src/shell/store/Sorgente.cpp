@@ -65,25 +65,27 @@ void descrivi(Connessione &c, sqlite3_stmt *s, Sorgente &sorgente) {
     sorgente.colonnaChiave = static_cast<int>(trovata - sorgente.colonne.begin());
 }
 
-void apriSelect(Connessione &c, const QString &sql, Sorgente &sorgente) {
+void apriSelect(Connessione &c, const QString &sql, int limite, Sorgente &sorgente) {
     Istruzione i = c.preparaUnica(sql, Azione::Lettura);
     if (sqlite3_column_count(i.grezza()) == 0 || sqlite3_stmt_readonly(i.grezza()) == 0)
         throw c.errore(Errore::Sintassi, Azione::Lettura);
     descrivi(c, i.grezza(), sorgente);
     const int colonne = static_cast<int>(sorgente.colonne.size());
     while (i.avanti()) {
+        if (sorgente.piena(limite))
+            return;
         if (sorgente.aChiavi()) {
             sorgente.chiavi.push_back(i.intero(sorgente.colonnaChiave));
             continue;
         }
-        Riga riga;
+        Valori riga;
         for (int n = 0; n < colonne; ++n)
             riga.append(i.valore(n, sorgente.colonne[static_cast<size_t>(n)].tipo));
         sorgente.righe.push_back(riga);
     }
 }
 
-void apriTabella(Connessione &c, const QByteArray &tabella, Sorgente &sorgente) {
+void apriTabella(Connessione &c, const QByteArray &tabella, int limite, Sorgente &sorgente) {
     sorgente.tabella = tabella;
     const QByteArray chiave = chiaveDi(c, tabella);
     sorgente.chiave = chiave.isEmpty() ? "rowid" : nomeSql(chiave);
@@ -98,8 +100,11 @@ void apriTabella(Connessione &c, const QByteArray &tabella, Sorgente &sorgente) 
     // Ordered, or the engine might walk an index that covers the key.
     Istruzione righe = c.prepara(
         "SELECT " + sorgente.chiave + " FROM " + nomeSql(tabella) + " ORDER BY " + sorgente.chiave, Azione::Lettura);
-    while (righe.avanti())
+    while (righe.avanti()) {
+        if (sorgente.piena(limite))
+            return;
         sorgente.chiavi.push_back(righe.intero(0));
+    }
 }
 
 } // namespace
@@ -111,12 +116,17 @@ QByteArray Sorgente::elencoColonne() const {
     return elenco;
 }
 
-Sorgente apriSorgente(Connessione &c, const QString &testo) {
+bool Sorgente::piena(int limite) {
+    tagliata = quante() >= limite;
+    return tagliata;
+}
+
+Sorgente apriSorgente(Connessione &c, const QString &testo, int limite) {
     Sorgente sorgente;
     sorgente.testo = testo;
     const QString netto = testo.trimmed();
     if (eSql(netto)) {
-        apriSelect(c, testo, sorgente);
+        apriSelect(c, testo, limite, sorgente);
         return sorgente;
     }
     const QString nome = senzaParentesi(netto);
@@ -133,10 +143,10 @@ Sorgente apriSorgente(Connessione &c, const QString &testo) {
         conNumero = i.intero(1) != 0;
     }
     if (conNumero) {
-        apriTabella(c, tabella, sorgente);
+        apriTabella(c, tabella, limite, sorgente);
     } else {
         sorgente.testo = u"SELECT * FROM "_s + QString::fromUtf8(nomeSql(tabella));
-        apriSelect(c, sorgente.testo, sorgente);
+        apriSelect(c, sorgente.testo, limite, sorgente);
     }
     return sorgente;
 }

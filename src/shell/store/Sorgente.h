@@ -14,7 +14,7 @@ struct Colonna {
     TipoColonna tipo = TipoColonna::Libero;
 };
 
-using Riga = QList<Valore>;
+using Valori = QList<Valore>;
 
 // What a record source gave when it was opened: the columns, and either the keys of its rows in their order or, where
 // the rows have no key, a read-only picture of their values.
@@ -24,16 +24,18 @@ struct Sorgente {
     QByteArray chiave;  // what tells its rows apart, as SQL: the key column or the hidden row number
     std::vector<Colonna> colonne;
     int colonnaChiave = -1; // the column that is the key, -1 when none shows it
+    bool tagliata = false;  // there were more rows than asked for
     std::vector<qint64> chiavi;
-    std::vector<Riga> righe; // the picture
+    std::vector<Valori> righe; // the picture
 
     bool aChiavi() const { return !tabella.isEmpty(); }
     int quante() const { return static_cast<int>(aChiavi() ? chiavi.size() : righe.size()); }
     QByteArray elencoColonne() const; // for a select on the table
+    bool piena(int limite);           // no further row is taken; asked when there is one
 };
 
-// 3078, 3265 or 3075 when the text doesn't fit the database.
-Sorgente apriSorgente(Connessione &c, const QString &testo);
+// Takes at most `limite` rows. 3078, 3265 or 3075 when the text doesn't fit the database.
+Sorgente apriSorgente(Connessione &c, const QString &testo, int limite = righeMassime);
 // The place of the first row that matches the criterion, in the order of the source; -1 when none does.
 int trovaPrimo(Connessione &c, const Sorgente &sorgente, const QString &criterio);
 

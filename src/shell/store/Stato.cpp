@@ -6,7 +6,7 @@ namespace zuvora {
 
 namespace {
 
-constexpr int kFinestra = 32; // about what a list shows at once
+constexpr int righeFinestra = 32; // about what a list shows at once
 
 QByteArray posti(int quanti) {
     QByteArray elenco;
@@ -34,20 +34,20 @@ EngineError Recordset::Stato::senzaRecord(Azione azione) const {
     return connessione.errore(Errore::NessunRecord, azione, sorgente.testo);
 }
 
-std::optional<Riga> Recordset::Stato::leggiRiga(qint64 chiave) {
+std::optional<Valori> Recordset::Stato::leggiRiga(qint64 chiave) {
     Istruzione i = connessione.prepara("SELECT " + sorgente.elencoColonne() + " FROM " + nomeSql(sorgente.tabella) +
                                            " WHERE " + sorgente.chiave + "=?1",
                                        Azione::Lettura);
     i.lega(1, chiave);
     if (!i.avanti())
         return std::nullopt;
-    Riga riga;
+    Valori riga;
     for (int n = 0; n < static_cast<int>(sorgente.colonne.size()); ++n)
         riga.append(i.valore(n, sorgente.colonne[static_cast<size_t>(n)].tipo));
     return riga;
 }
 
-const Riga &Recordset::Stato::rigaCorrente() {
+const Valori &Recordset::Stato::rigaCorrente() {
     if (!suRecord())
         throw senzaRecord(Azione::Lettura);
     if (!sorgente.aChiavi())
@@ -61,13 +61,13 @@ const Riga &Recordset::Stato::rigaCorrente() {
 
 void Recordset::Stato::riempiFinestra(int riga) {
     // A few rows before the one asked for, so that a list scrolled upwards has them too.
-    m_inizioFinestra = std::max(0, riga - kFinestra / 4);
-    const int fine = std::min(m_inizioFinestra + kFinestra, sorgente.quante());
-    m_finestra.assign(static_cast<size_t>(fine - m_inizioFinestra), Riga());
+    m_inizioFinestra = std::max(0, riga - righeFinestra / 4);
+    const int fine = std::min(m_inizioFinestra + righeFinestra, sorgente.quante());
+    m_finestra.assign(static_cast<size_t>(fine - m_inizioFinestra), Valori());
     // One statement for all of them: one lock, not one a row. Places without a row stay Null and match none.
     Istruzione i = connessione.prepara("SELECT " + sorgente.chiave + "," + sorgente.elencoColonne() + " FROM " +
                                            nomeSql(sorgente.tabella) + " WHERE " + sorgente.chiave + " IN (" +
-                                           posti(kFinestra) + ")",
+                                           posti(righeFinestra) + ")",
                                        Azione::Lettura);
     const auto primaChiave = sorgente.chiavi.begin() + m_inizioFinestra;
     const auto ultimaChiave = sorgente.chiavi.begin() + fine;
@@ -77,7 +77,7 @@ void Recordset::Stato::riempiFinestra(int riga) {
         const auto k = std::find(primaChiave, ultimaChiave, i.intero(0));
         if (k == ultimaChiave)
             continue;
-        Riga &destinazione = m_finestra[static_cast<size_t>(k - primaChiave)];
+        Valori &destinazione = m_finestra[static_cast<size_t>(k - primaChiave)];
         for (int n = 0; n < static_cast<int>(sorgente.colonne.size()); ++n)
             destinazione.append(i.valore(n + 1, sorgente.colonne[static_cast<size_t>(n)].tipo));
     }

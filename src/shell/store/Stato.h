@@ -19,7 +19,7 @@ struct Recordset::Stato {
     void dimentica();
 
     // The current record's row; 3021 without one, also when another program has deleted it.
-    const Riga &rigaCorrente();
+    const Valori &rigaCorrente();
     Valore daFinestra(int riga, int colonna);
 
     void apri(Modo nuovo); // 3027 where nothing can be written
@@ -37,15 +37,15 @@ struct Recordset::Stato {
     std::vector<std::optional<Valore>> scritti; // by column, while Edit or AddNew is open
 
 private:
-    std::optional<Riga> leggiRiga(qint64 chiave);
+    std::optional<Valori> leggiRiga(qint64 chiave);
     void riempiFinestra(int riga);
     void aggiorna(const QList<int> &colonne);
     void inserisci(const QList<int> &colonne);
 
-    std::optional<Riga> m_riga;
+    std::optional<Valori> m_riga;
     // The rows around the last one that a list asked for; an empty row is one that is gone.
     int m_inizioFinestra = 0;
-    std::vector<Riga> m_finestra;
+    std::vector<Valori> m_finestra;
 };
 
 } // namespace zuvora

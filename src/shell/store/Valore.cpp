@@ -75,8 +75,8 @@ std::optional<Valore> comeIntero(const Valore &v) {
             return Valore(n);
         d = numeroDi(v.toString());
     }
-    constexpr double kLimite = 9.2e18;
-    if (!d || !(std::abs(*d) < kLimite))
+    constexpr double limite = 9.2e18;
+    if (!d || !(std::abs(*d) < limite))
         return std::nullopt;
     return Valore(static_cast<qlonglong>(std::nearbyint(*d))); // halves go to the even neighbour
 }
@@ -135,7 +135,7 @@ TipoColonna tipoColonna(const QByteArray &dichiarato) {
         const char *parte;
         TipoColonna tipo;
     };
-    constexpr std::array kTipi{
+    constexpr std::array tipi{
         Voce{"BOOL", TipoColonna::Booleano}, Voce{"BIT", TipoColonna::Booleano},   Voce{"YESNO", TipoColonna::Booleano},
         Voce{"INT", TipoColonna::Intero},    Voce{"LONG", TipoColonna::Intero},    Voce{"SHORT", TipoColonna::Intero},
         Voce{"BYTE", TipoColonna::Intero},   Voce{"COUNTER", TipoColonna::Intero}, Voce{"REAL", TipoColonna::Reale},
@@ -144,7 +144,7 @@ TipoColonna tipoColonna(const QByteArray &dichiarato) {
     const QByteArray nome = dichiarato.toUpper();
     if (nome.isEmpty())
         return TipoColonna::Libero;
-    for (const Voce &voce : kTipi)
+    for (const Voce &voce : tipi)
         if (nome.contains(voce.parte))
             return voce.tipo;
     return TipoColonna::Testo;

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+#include <QtPlugin>
+#include <memory>
+
+class QWidget;
+
+namespace zuvora {
+
+// What the ticket designer is told about the contents of a variable.
+enum class TipoEtichetta : int {
+    Logico = 0x02000000, // "True" or "False"
+    Data = 0x04000002,   // a count of days, with a fraction for the time; day 0 is 30 December 1899
+    Numero = 0x08000000, // plain decimal, with a point
+    Testo = 0x10000000
+};
+
+// The ticket designer, a component that is loaded at first use. Its three operations are called in the order in which
+// they stand here; what they return is not examined.
+class Etichette {
+public:
+    virtual ~Etichette() = default;
+    // Forgets the variables of the last time.
+    virtual void LlDefineVariableStart() = 0;
+    // Once a column: its name and sample contents.
+    virtual int LlDefineVariableExt(const QString &nome, const QString &contenuto, TipoEtichetta tipo) = 0;
+    // Shows the designer over `finestra` on the project file (native form), which it creates when it isn't there, and
+    // returns when the user is done. Must not throw: it tells its failures itself.
+    virtual int LlDefineLayout(QWidget *finestra, const QString &titolo, int tipoProgetto, const QString &file) = 0;
+};
+
+// The component's root object.
+class FabbricaEtichette {
+public:
+    virtual ~FabbricaEtichette() = default;
+    virtual std::unique_ptr<Etichette> crea() = 0;
+};
+
+} // namespace zuvora
+
+Q_DECLARE_INTERFACE(zuvora::FabbricaEtichette, "zuvora.FabbricaEtichette/1")
