@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/logic/Nomi.h"
+
 #include <QStringView>
 
 namespace zuvora {
@@ -7,6 +9,7 @@ namespace zuvora {
 // The two kinds of playlist, as far as files and rows tell them apart.
 struct TipoPlaylist {
     QStringView estensione; // with its point
+    QStringView parola;
     QStringView modello;    // of the playlist files
     QStringView contenuti;  // patterns of what a playlist lists
     QStringView colonna;    // of Configurazione, for the default
@@ -15,12 +18,13 @@ struct TipoPlaylist {
 };
 
 inline constexpr TipoPlaylist PlaylistFoto{
-    u".zvi", u"*.zvi", u"*.jpg", u"playlistFoto", u"FileImmaginiMancanti.txt", true};
+    u".zvi", u"Foto", u"*.zvi", u"*.jpg", u"playlistFoto", nomi::immaginiMancanti, true};
 inline constexpr TipoPlaylist PlaylistVideo{u".zvv",
+                                            u"Video",
                                             u"*.zvv",
                                             u"*.wmv;*.avi;*.flv;*.mpg;*.mp4",
                                             u"playlistVideo",
-                                            u"FileVideoMancanti.txt",
+                                            nomi::videoMancanti,
                                             false};
 
 } // namespace zuvora

@@ -1,0 +1,65 @@
+#include "content/forms/ImpostaFoto.h"
+
+#include "content/logic/Predefinita.h"
+#include "shell/logic/Domanda.h"
+#include "shell/logic/FileAtomico.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr int massimeCifre = 2;
+
+} // namespace
+
+ImpostaFoto::ImpostaFoto(const Ambiente &ambiente_, QWidget *padre) : FormPlaylist(ambiente_, AspettoFoto, padre) {
+    text1.setFiltro(soloCifre);
+    text1.setMaxLength(massimeCifre);
+    quando(Image1, &AnteprimaImmagine::cambiata, [this] {
+        if (m_tace && !Image1.guasto().isEmpty())
+            Image1.svuota();
+    });
+    proteggi([this] {
+        const QString secondi = leggiSecondi(cartella());
+        text1.setMaxLength(std::max<int>(massimeCifre, static_cast<int>(secondi.size()))); // a stored time stays whole
+        text1.setText(secondi);
+    });
+    quando(text1, &QLineEdit::textEdited, [this] {
+        if (text1.text().size() <= massimeCifre)
+            text1.setMaxLength(massimeCifre);
+    });
+    ElencaPlaylist();
+}
+
+void ImpostaFoto::clicFile(const QString &percorso) {
+    mostra(percorso, false);
+}
+
+void ImpostaFoto::clicVoce(const QString &percorso) {
+    mostra(percorso, true);
+}
+
+// A path on a disk that doesn't answer must not hold the form up: it is asked for first.
+void ImpostaFoto::mostra(const QString &percorso, bool tace) {
+    m_chiesta = percorso;
+    const auto risposta = [this, percorso, tace](std::optional<bool> esiste) {
+        if (percorso != m_chiesta)
+            return;
+        m_tace = tace;
+        if (esiste.value_or(false) || !tace)
+            Image1.mostra(percorso);
+        else
+            Image1.svuota();
+    };
+    chiedi<bool>([percorso] { return FileEsiste(percorso); }, *this, risposta);
+}
+
+bool ImpostaFoto::chiediTempo(std::optional<double> &tempo) {
+    tempo = tempoDaSecondi(text1.text());
+    if (!tempo)
+        avvisa(u"Impostare valore compreso fra 1 e 60"_s);
+    return tempo.has_value();
+}
+
+} // namespace zuvora

@@ -1,0 +1,23 @@
+#include "content/forms/ImpostaVideo.h"
+
+#include "content/forms/AnteprimaVideo.h"
+
+namespace zuvora {
+
+ImpostaVideo::ImpostaVideo(const Ambiente &ambiente_, QWidget *padre) : FormPlaylist(ambiente_, AspettoVideo, padre) {
+    alClic(PushButton1, [this] { anteprimaCartella(); });
+    alClic(PushButton2, [this] { anteprimaPlaylist(); });
+    ElencaPlaylist();
+}
+
+void ImpostaVideo::anteprimaCartella() {
+    if (const QString percorso = File1.percorso(File1.ListIndex()); !percorso.isEmpty())
+        AnteprimaVideo(ambiente(), percorso, this).mostraModale();
+}
+
+void ImpostaVideo::anteprimaPlaylist() {
+    if (haVoci())
+        AnteprimaVideo(ambiente(), voceScelta(), this).mostraModale();
+}
+
+} // namespace zuvora
