@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/logic/TipoEtichetta.h"
+
 #include <QString>
 #include <QtPlugin>
 #include <memory>
@@ -7,14 +9,6 @@
 class QWidget;
 
 namespace zuvora {
-
-// What the ticket designer is told about the contents of a variable.
-enum class TipoEtichetta : int {
-    Logico = 0x02000000, // "True" or "False"
-    Data = 0x04000002,   // a count of days, with a fraction for the time; day 0 is 30 December 1899
-    Numero = 0x08000000, // plain decimal, with a point
-    Testo = 0x10000000
-};
 
 // The ticket designer, a component that is loaded at first use. Its three operations are called in the order in which
 // they stand here; what they return is not examined.

@@ -2,10 +2,9 @@
 
 #include "shell/disegni/Disegni.h"
 #include "shell/disegni/Tavolozza.h"
+#include "shell/host/CarattereCasa.h"
 
 #include <QApplication>
-#include <QFile>
-#include <QFontDatabase>
 #include <QPalette>
 #include <QStyleFactory>
 #include <array>
@@ -14,19 +13,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 namespace {
-
-// Where Tahoma lies when the font system doesn't list it. Only the regular face: the bold file beside it draws regular
-// shapes at bold distances, while Qt's own emboldening of this one looks right.
-constexpr const char *FileTahoma = "/usr/share/wine/fonts/tahoma.ttf";
-
-QFont fontCasa() {
-    if (QFile::exists(QString::fromLatin1(FileTahoma)))
-        QFontDatabase::addApplicationFont(QString::fromLatin1(FileTahoma));
-    QFont font(u"Tahoma"_s);
-    font.setPointSizeF(8.25);
-    font.setStyleHint(QFont::SansSerif);
-    return font;
-}
 
 struct Ruolo {
     QPalette::ColorRole ruolo;
@@ -67,7 +53,7 @@ QPalette paletteCasa() {
 
 void preparaAspetto(QApplication &applicazione) {
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
-    QApplication::setFont(fontCasa());
+    QApplication::setFont(carattereCasa());
     QApplication::setPalette(paletteCasa());
     applicazione.setWindowIcon(icona(Disegno::Zuvora));
 }

@@ -1,0 +1,158 @@
+#include "film/Motore.h"
+
+#include "comune/Uscita.h"
+#include "film/Stazione.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+// The ear hears loudness by ratios.
+float perOrecchio(int percento) {
+    return QAudio::convertVolume(float(percento) / 100, QAudio::LogarithmicVolumeScale, QAudio::LinearVolumeScale);
+}
+
+} // namespace
+
+Motore::Motore(std::shared_ptr<Passaggio> passaggio, int volume)
+    : m_passaggio(std::move(passaggio)), m_volume(volume) {}
+
+// Made on the engine's own thread: Qt's objects belong to the thread that makes them.
+bool Motore::prepara() {
+    const QAudioDevice uscita = uscitaPredefinita();
+    m_notizia.haUscita = !uscita.isNull();
+    m_film = std::make_unique<QVideoSink>();
+    m_lettore = std::make_unique<QMediaPlayer>();
+    if (m_notizia.haUscita) {
+        m_audio = std::make_unique<QAudioOutput>(uscita);
+        m_audio->setVolume(perOrecchio(m_volume));
+        m_lettore->setAudioOutput(m_audio.get());
+    }
+    m_lettore->setVideoSink(m_film.get());
+    connect(m_film.get(), &QVideoSink::videoFrameChanged, this, [this](const QVideoFrame &f) {
+        if (m_passaggio->metti(f))
+            Q_EMIT fotogramma();
+    });
+    connect(m_lettore.get(), &QMediaPlayer::errorOccurred, this,
+            [this](QMediaPlayer::Error, const QString &dettaglio) { sbaglia(dettaglio); });
+    return m_lettore->isAvailable();
+}
+
+void Motore::apriFile(const QString &percorso) {
+    const QFileInfo file(percorso);
+    const QString nome = QDir::toNativeSeparators(percorso);
+    if (!file.exists())
+        guasta(GuastoLettore::FileMancante, u"Il file non si trova: %1"_s.arg(nome));
+    else if (!file.isFile() || !file.isReadable()) // a pipe would be waited for
+        guasta(GuastoLettore::Illeggibile, u"Il file non si può leggere: %1"_s.arg(nome));
+    else
+        apri(QUrl::fromLocalFile(file.absoluteFilePath()));
+}
+
+void Motore::apriFlusso(const QUrl &indirizzo) {
+    m_flusso = true;
+    auto *stazione = new Stazione(this);
+    connect(stazione, &Stazione::trovata, this, &Motore::apri);
+    connect(stazione, &Stazione::mancata, this, &Motore::guasta);
+    stazione->cerca(indirizzo);
+}
+
+void Motore::apri(const QUrl &indirizzo) {
+    if (!prepara()) {
+        guasta(GuastoLettore::Illeggibile, u"Il decodificatore di filmati e suoni non è installato per intero."_s);
+        return;
+    }
+    m_lettore->setSource(indirizzo); // waits
+    if (m_notizia.stato == StatoLettore::Guasto)
+        return;
+    m_notizia.haFilm = m_lettore->hasVideo();
+    if (!m_notizia.haFilm && !m_lettore->hasAudio()) {
+        sbaglia(u"nessuna traccia"_s);
+        return;
+    }
+    // Without an output a sound would never end.
+    if (!m_notizia.haFilm && !m_notizia.haUscita) {
+        guasta(GuastoLettore::SenzaUscita,
+               u"Su questo computer non c'è un'uscita audio: il suono non si può sentire."_s);
+        return;
+    }
+    m_aperto = true;
+    connect(m_lettore.get(), &QMediaPlayer::playbackStateChanged, this, &Motore::aggiorna);
+    connect(m_lettore.get(), &QMediaPlayer::mediaStatusChanged, this, &Motore::aggiorna);
+    connect(m_lettore.get(), &QMediaPlayer::positionChanged, this, &Motore::aggiorna);
+    connect(m_lettore.get(), &QMediaPlayer::durationChanged, this, &Motore::aggiorna);
+    m_lettore->play();
+}
+
+void Motore::aggiorna() {
+    if (m_notizia.stato == StatoLettore::Guasto)
+        return;
+    m_notizia.posizione = m_lettore->position();
+    m_notizia.durata = m_flusso ? 0 : m_lettore->duration();
+    if (m_lettore->mediaStatus() == QMediaPlayer::EndOfMedia) {
+        if (m_flusso) {
+            guasta(GuastoLettore::Interrotto, u"La stazione ha smesso di trasmettere."_s);
+            return;
+        }
+        m_notizia.stato = StatoLettore::Finito;
+        m_notizia.posizione = m_notizia.durata;
+    } else if (m_lettore->playbackState() == QMediaPlayer::PlayingState) {
+        m_notizia.stato = StatoLettore::InCorso;
+    } else if (m_lettore->playbackState() == QMediaPlayer::PausedState) {
+        m_notizia.stato = StatoLettore::InPausa;
+    } else {
+        return; // stopped: the end follows
+    }
+    Q_EMIT notizia(m_notizia);
+}
+
+void Motore::guasta(GuastoLettore guasto, const QString &motivo) {
+    m_notizia.stato = StatoLettore::Guasto;
+    m_notizia.guasto = guasto;
+    m_notizia.motivo = motivo;
+    if (m_lettore != nullptr)
+        m_lettore->pause();
+    Q_EMIT notizia(m_notizia);
+}
+
+void Motore::sbaglia(const QString &dettaglio) {
+    if (m_notizia.stato == StatoLettore::Guasto)
+        return;
+    if (m_aperto)
+        guasta(GuastoLettore::Interrotto, u"La riproduzione si è interrotta (%1)."_s.arg(dettaglio));
+    else if (m_flusso)
+        guasta(GuastoLettore::Illeggibile, u"All'indirizzo non c'è un suono che si possa riprodurre."_s);
+    else
+        guasta(GuastoLettore::Illeggibile, u"Il file non è un filmato né un suono che si possa riprodurre."_s);
+}
+
+void Motore::riprendi() {
+    if (m_aperto && m_notizia.stato != StatoLettore::Guasto)
+        m_lettore->play();
+}
+
+void Motore::pausa() {
+    if (m_aperto && m_notizia.stato == StatoLettore::InCorso)
+        m_lettore->pause();
+}
+
+void Motore::setPosizione(qint64 millisecondi) {
+    if (!m_aperto || m_flusso || m_notizia.stato == StatoLettore::Guasto)
+        return;
+    const bool finito = m_notizia.stato == StatoLettore::Finito;
+    if (finito)
+        m_lettore->play(); // back to the beginning: the end can't be left otherwise
+    m_lettore->setPosition(millisecondi);
+}
+
+void Motore::setVolume(int percento) {
+    m_volume = percento;
+    if (m_audio != nullptr)
+        m_audio->setVolume(perOrecchio(percento));
+}
+
+} // namespace zuvora

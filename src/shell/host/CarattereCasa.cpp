@@ -1,0 +1,78 @@
+#include "shell/host/CarattereCasa.h"
+
+#include <QFile>
+#include <QFontDatabase>
+#include <QtEndian>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr std::array<const char *, 2> FileCarattere = {"/usr/share/wine/fonts/tahoma.ttf",
+                                                       "/usr/share/wine/fonts/tahomabd.ttf"};
+constexpr qsizetype Intestazione = 12; // bytes before the directory of tables
+constexpr qsizetype Voce = 16;         // bytes of one entry of it
+constexpr qsizetype Peso = 4;          // in the table OS/2
+constexpr qsizetype Selezione = 62;
+constexpr quint16 Grassetto = 0x0020;
+constexpr quint16 MisureTipografiche = 0x0080;
+constexpr quint16 QuasiGrassetto = 600;
+
+quint16 leggi(const QByteArray &dati, qsizetype posto) {
+    return qFromBigEndian<quint16>(dati.constData() + posto);
+}
+
+void scrivi(QByteArray &dati, qsizetype posto, quint16 valore) {
+    qToBigEndian(valore, dati.data() + posto);
+}
+
+// Where the table OS/2 begins; -1 when there is none that can be read whole.
+qsizetype tabellaOs2(const QByteArray &file) {
+    if (file.size() < Intestazione)
+        return -1;
+    const int voci = leggi(file, 4);
+    for (qsizetype voce = Intestazione; voce < Intestazione + voci * Voce && voce + Voce <= file.size(); voce += Voce)
+        if (QByteArrayView(file).sliced(voce, 4) == "OS/2") {
+            const auto inizio = qsizetype{qFromBigEndian<quint32>(file.constData() + voce + 8)};
+            return inizio + Selezione + 2 <= file.size() ? inizio : -1;
+        }
+    return -1;
+}
+
+void carica(const char *percorso) {
+    QFile file(QString::fromLatin1(percorso));
+    if (file.open(QIODevice::ReadOnly))
+        QFontDatabase::addApplicationFontFromData(carattereCorretto(file.readAll()));
+}
+
+} // namespace
+
+QByteArray carattereCorretto(QByteArray file) {
+    const qsizetype os2 = tabellaOs2(file);
+    if (os2 < 0)
+        return file;
+    quint16 selezione = leggi(file, os2 + Selezione) & ~MisureTipografiche;
+    if ((selezione & Grassetto) != 0) {
+        selezione &= ~Grassetto;
+        scrivi(file, os2 + Peso, QuasiGrassetto);
+    }
+    scrivi(file, os2 + Selezione, selezione);
+    return file;
+}
+
+QFont carattereCasa() {
+    static const bool caricato = [] {
+        for (const char *percorso : FileCarattere)
+            carica(percorso);
+        return true;
+    }();
+    Q_UNUSED(caricato)
+    QFont font(u"Tahoma"_s);
+    font.setPointSizeF(8.25);
+    font.setStyleHint(QFont::SansSerif);
+    return font;
+}
+
+} // namespace zuvora

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QByteArray>
+#include <QFont>
+
+namespace zuvora {
+
+// Tahoma 8.25, from the file of the platform where its font system doesn't list it. Loads the font on the first call.
+QFont carattereCasa();
+
+// A TrueType file made ready for the program's texts; data that are no such file come back unchanged.
+//
+// The platform's Tahoma asks for its typographic ascent, which leaves a quarter of a line out: text stands too high and
+// two lines collide. Without that flag the ascent of the horizontal header holds, the one that the places of all
+// controls and layouts were made for. The bold file has bold distances but regular shapes; said to be a little less
+// than bold, it has its strokes thickened by the font system as a regular one has.
+QByteArray carattereCorretto(QByteArray file);
+
+} // namespace zuvora

@@ -1,0 +1,193 @@
+#include "kiosk/logic/ArchivioTotem.h"
+#include "kiosk/DueArchivi.h"
+#include "kiosk/logic/Aspetto.h"
+
+#include <QDate>
+
+namespace zuvora::prova {
+namespace {
+
+class Totem : public DueArchivi {
+protected:
+    void SetUp() override {
+        DueArchivi::SetUp();
+        esegui(zuvora(),
+               u"INSERT INTO ConfigurazioneTotem VALUES(2,'/totem','/s.jpg','Titolo','Tahoma','36','255',1,0,"
+               "'Verdana','18','0',0,1,'Courier','20','65280',1,1,1,0);"
+               "INSERT INTO Servizi(ID,Servizio,ServizioAttivo) VALUES(1,'Cassa',1),(2,'Esami',0),(3,NULL,1)"_s);
+    }
+    void imposta(const QString &assegni) { esegui(zuvora(), u"UPDATE ConfigurazioneTotem SET "_s + assegni); }
+    QString riga() { return esegui(zuvora(), u"SELECT * FROM ConfigurazioneTotem"_s).value(0); }
+    // All boxes as the load left them.
+    static QStringList mostrati(const ArchivioTotem &a) {
+        QStringList testi;
+        for (std::size_t i = 0; i < colonneTotem.size(); ++i)
+            testi << a.contenuto()[static_cast<CampoTotem>(i)];
+        return testi;
+    }
+};
+
+constexpr QStringView piena = u"2|/totem|/s.jpg|Titolo|Tahoma|36|255|1|0|Verdana|18|0|0|1|Courier|20|65280|1|1|1|0";
+constexpr QStringView prima = u"|||||Arial|10|0|0|0|Arial|10|0|0|0|Arial|10|0|0|0|0|0";
+
+TEST_F(Totem, EveryColumnGoesToItsBoxAndBack) {
+    ArchivioTotem a(cartella());
+    a.carica();
+    EXPECT_FALSE(a.guasto());
+    EXPECT_EQ(mostrati(a).join(u'|'), piena.toString());
+    EXPECT_EQ(a.servizi(), (QStringList{u"Cassa"_s, u""_s}));
+
+    // Every box gets a value of its own; the row must hold them column by column.
+    ContenutoTotem adesso;
+    const QStringList valori = u"1|/q|/r|T|A|1|11|0|1|B|2|22|1|0|C|3|33|0|0|0|1"_s.split(u'|');
+    for (std::size_t i = 0; i < colonneTotem.size(); ++i)
+        adesso[static_cast<CampoTotem>(i)] = valori[static_cast<int>(i)];
+    a.salva(adesso);
+    EXPECT_EQ(riga(), valori.join(u'|'));
+}
+
+TEST_F(Totem, ColumnsAreFoundInAnySpelling) {
+    for (const auto &[da, a] : {std::pair{u"RisoluzioneTotem"_s, u"Risoluzionetotem"_s},
+                                {u"FontForecolorTitolo"_s, u"FontForecolortitolo"_s},
+                                {u"FontBoldTitolo"_s, u"FontBoldTItolo"_s},
+                                {u"FontData"_s, u"Fontdata"_s},
+                                {u"FontForecolorData"_s, u"FontForeColordata"_s},
+                                {u"FontItalic"_s, u"Fontitalic"_s}})
+        esegui(zuvora(), u"ALTER TABLE ConfigurazioneTotem RENAME COLUMN %1 TO %2"_s.arg(da, a));
+    ArchivioTotem archivio(cartella());
+    archivio.carica();
+    EXPECT_EQ(mostrati(archivio).join(u'|'), piena.toString());
+    archivio.salva(archivio.contenuto());
+    EXPECT_EQ(riga(), piena.toString());
+}
+
+TEST_F(Totem, NullShowsAnEmptyBoxButASizeItsFirstValue) {
+    imposta(u"RisoluzioneTotem=NULL,SfondoTotem=NULL,FontTitolo=NULL,FontSizeTitolo=NULL,FontForecolorTitolo=NULL,"
+            "FontBoldTitolo=NULL,DataVisibile=NULL"_s);
+    ArchivioTotem a(cartella());
+    a.carica();
+    EXPECT_EQ(a.contenuto()[CampoTotem::RisoluzioneTotem], u""_s);
+    EXPECT_EQ(a.contenuto()[CampoTotem::SfondoTotem], u""_s);
+    EXPECT_EQ(a.contenuto()[CampoTotem::FontTitolo], u""_s);
+    EXPECT_EQ(a.contenuto()[CampoTotem::FontSizeTitolo], u"10"_s);
+    EXPECT_EQ(a.contenuto()[CampoTotem::FontForecolorTitolo], u""_s);
+    EXPECT_EQ(a.contenuto()[CampoTotem::FontBoldTitolo], u"0"_s);
+    EXPECT_EQ(a.contenuto()[CampoTotem::DataVisibile], u"0"_s);
+}
+
+TEST_F(Totem, AScreenThatIsNoneOfTheFourStaysUntilOneIsChosen) {
+    for (const QString &stored : {u"7"_s, u"NULL"_s, u"-1"_s}) {
+        imposta(u"RisoluzioneTotem="_s + stored);
+        ArchivioTotem a(cartella());
+        a.carica();
+        ContenutoTotem adesso = a.contenuto();
+        EXPECT_EQ(adesso[CampoTotem::RisoluzioneTotem], u""_s);
+        adesso[CampoTotem::TitoloTotem] = u"nuovo"_s;
+        a.salva(adesso);
+        EXPECT_EQ(esegui(zuvora(), u"SELECT RisoluzioneTotem, TitoloTotem FROM ConfigurazioneTotem"_s).value(0),
+                  stored + u"|nuovo"_s);
+    }
+}
+
+TEST_F(Totem, WithoutServicesTheLoadStopsAndTheSaveKeepsWhatWasNotShown) {
+    esegui(zuvora(), u"UPDATE Servizi SET ServizioAttivo=0"_s);
+    ArchivioTotem a(cartella());
+    a.carica();
+    EXPECT_FALSE(a.guasto());
+    EXPECT_EQ(mostrati(a).join(u'|'), u"2|/totem|||Arial|10|0|0|0|Arial|10|0|0|0|Arial|10|0|0|0|0|0"_s);
+    ContenutoTotem adesso = a.contenuto();
+    a.salva(adesso);
+    EXPECT_EQ(riga(), piena.toString());
+
+    adesso[CampoTotem::FontTitolo] = u"Verdana"_s;
+    adesso[CampoTotem::PercorsoReteTotem] = u""_s;
+    adesso[CampoTotem::DataVisibile] = u"1"_s;
+    a.salva(adesso);
+    const QString dopo = u"2||/s.jpg|Titolo|Verdana|36|255|1|0|Verdana|18|0|0|1|Courier|20|65280|1|1|1|1"_s;
+    EXPECT_EQ(riga(), dopo);
+    // What was written once belongs to the form: taken back, it is written back.
+    adesso[CampoTotem::FontTitolo] = u"Arial"_s;
+    a.salva(adesso);
+    EXPECT_EQ(riga(), QString(dopo).replace(u"Titolo|Verdana"_s, u"Titolo|Arial"_s));
+}
+
+TEST_F(Totem, AFileThatGoesDuringTheLoadEmptiesThePathInTheBoxAlone) {
+    ArchivioTotem a(cartella());
+    a.caricaInizio();
+    ASSERT_TRUE(a.caricaServizi());
+    ASSERT_TRUE(QFile::rename(zuvora(), zuvora() + u"x"_s));
+    a.caricaResto();
+    ASSERT_TRUE(a.guasto());
+    EXPECT_EQ(a.guasto()->numero(), Errore::FileNonTrovato);
+    EXPECT_EQ(a.contenuto()[CampoTotem::PercorsoReteTotem], u""_s);
+    EXPECT_EQ(a.contenuto()[CampoTotem::FontTitolo], u"Arial"_s);
+    ASSERT_TRUE(QFile::rename(zuvora() + u"x"_s, zuvora()));
+    a.salva(a.contenuto());
+    EXPECT_EQ(riga(), piena.toString());
+}
+
+TEST_F(Totem, AnotherFailureThereLeavesThePath) {
+    ArchivioTotem a(cartella());
+    a.caricaInizio();
+    ASSERT_TRUE(a.caricaServizi());
+    esegui(zuvora(), u"ALTER TABLE ConfigurazioneTotem RENAME TO Altra"_s);
+    a.caricaResto();
+    ASSERT_TRUE(a.guasto());
+    EXPECT_EQ(a.contenuto()[CampoTotem::PercorsoReteTotem], u"/totem"_s);
+}
+
+TEST_F(Totem, AnOlderDatabaseGainsItsTwoColumns) {
+    for (const bool entrambe : {true, false}) {
+        esegui(zuvora(), u"ALTER TABLE ConfigurazioneTotem DROP COLUMN DataVisibile"_s);
+        if (entrambe)
+            esegui(zuvora(), u"ALTER TABLE ConfigurazioneTotem DROP COLUMN TestoVisibile"_s);
+        ArchivioTotem a(cartella());
+        a.carica();
+        EXPECT_FALSE(a.guasto());
+        EXPECT_EQ(mostrati(a).join(u'|'),
+                  QString(piena.toString()).replace(u"|1|1|1|0"_s, entrambe ? u"|1|1|0|0"_s : u"|1|1|1|0"_s));
+        EXPECT_EQ(esegui(zuvora(), u"SELECT name, type FROM pragma_table_info('ConfigurazioneTotem') "
+                                   "WHERE name LIKE '%Visibile' ORDER BY name DESC"_s),
+                  (QStringList{u"TestoVisibile|BOOLEAN"_s, u"DataVisibile|BOOLEAN"_s}));
+        imposta(u"TestoVisibile=1"_s);
+    }
+}
+
+TEST_F(Totem, AMissingOldColumnEndsTheLoadWithTheBoxesFilledSoFar) {
+    esegui(zuvora(), u"ALTER TABLE ConfigurazioneTotem DROP COLUMN FontData"_s);
+    ArchivioTotem a(cartella());
+    a.carica();
+    ASSERT_TRUE(a.guasto());
+    EXPECT_EQ(a.guasto()->numero(), Errore::ColonnaNonTrovata);
+    EXPECT_EQ(a.contenuto()[CampoTotem::FontTitolo], u"Tahoma"_s);
+    EXPECT_EQ(a.contenuto()[CampoTotem::FontSize], u"10"_s);
+}
+
+TEST_F(Totem, WithoutItsRowNothingOpensAndNothingIsWritten) {
+    esegui(zuvora(), u"DELETE FROM ConfigurazioneTotem"_s);
+    ArchivioTotem a(cartella());
+    EXPECT_EQ(numeroErrore([&] { a.carica(); }), 3021);
+    EXPECT_EQ(numeroErrore([&] { leggiAspetto(cartella()); }), 3021);
+}
+
+TEST_F(Totem, TheLookIsTheStoredRow) {
+    imposta(u"FontSize='19,5',FontForecolorData=NULL,FontSizeTitolo='grande',FontForecolor='',FontSizeData='1e30',"
+            "FontTitolo=NULL"_s);
+    const AspettoTotem aspetto = leggiAspetto(cartella());
+    EXPECT_EQ(aspetto.stilePulsanti.misura, 20);
+    EXPECT_FALSE(aspetto.stilePulsanti.coloreDato);
+    EXPECT_EQ(aspetto.stileData.colore, 0);
+    EXPECT_EQ(aspetto.stileTitolo.font, u"Arial"_s);
+    EXPECT_EQ(aspetto.stileTitolo.colore, 255);
+    EXPECT_TRUE(aspetto.stileTitolo.grassetto);
+    EXPECT_EQ(aspetto.rifiutati, (QStringList{u"FontSizeTitolo"_s, u"FontSizeData"_s}));
+    EXPECT_EQ(aspetto.stileTitolo.misura, 10);
+}
+
+TEST(DataTotem, IsInItalianWords) {
+    EXPECT_EQ(dataInParole(QDate(2018, 3, 5)), u"lunedì 05 marzo 2018"_s);
+    EXPECT_EQ(dataInParole(QDate(2026, 11, 29)), u"domenica 29 novembre 2026"_s);
+}
+
+} // namespace
+} // namespace zuvora::prova
