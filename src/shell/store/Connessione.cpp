@@ -1,8 +1,8 @@
 #include "shell/store/Connessione.h"
 
+#include "shell/store/Disco.h"
 #include "shell/store/Like.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <csignal>
 #include <sqlite3.h>
@@ -21,18 +21,13 @@ void ignoraLimiteFile() {
 #endif
 }
 
-// The file itself, or the only one whose name differs by case; the path as given when there is neither.
+// The path as the disk spells it; as given when nothing is there.
 QString trovaFile(const QString &percorso) {
     if (percorso.isEmpty())
         return percorso;
-    const QFileInfo file(percorso);
-    if (file.exists())
-        return file.absoluteFilePath();
-    const QStringList nomi = file.absoluteDir().entryList(QDir::Files);
-    for (const QString &nome : nomi)
-        if (nome.compare(file.fileName(), Qt::CaseInsensitive) == 0)
-            return file.absoluteDir().filePath(nome);
-    return file.absoluteFilePath();
+    const QString assoluto = QFileInfo(percorso).absoluteFilePath();
+    const QString trovato = trovaSenzaCaso(DiscoLocale(), assoluto);
+    return trovato.isEmpty() ? assoluto : trovato;
 }
 
 } // namespace

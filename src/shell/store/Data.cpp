@@ -1,5 +1,6 @@
 #include "shell/store/Data.h"
 
+#include "shell/store/NomiFile.h"
 #include "shell/store/Stato.h"
 
 #include <QDir>
@@ -61,15 +62,7 @@ void Data::seAggiornato(const QObject &lista, std::function<void()> ascoltatore)
 }
 
 QString percorsoArchivio(const QString &cartella) {
-    const QDir dir(cartella);
-    QString nome = NomeArchivio.toString();
-    if (!dir.exists(nome)) {
-        // Filters of a folder listing don't tell upper from lower case.
-        const QStringList simili = dir.entryList({nome}, QDir::Files);
-        if (!simili.isEmpty())
-            nome = simili.constFirst();
-    }
-    return QDir::toNativeSeparators(dir.filePath(nome));
+    return QDir::toNativeSeparators(QDir(cartella).filePath(nomi::archivio.toString()));
 }
 
 zuvora::Recordset &apri(Data &dato, const QString &cartella, const QString &sorgente) {

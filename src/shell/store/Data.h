@@ -5,7 +5,6 @@
 
 #include <QObject>
 #include <QString>
-#include <QStringView>
 #include <functional>
 #include <memory>
 
@@ -40,10 +39,7 @@ private:
     std::unique_ptr<Interno> m_interno;
 };
 
-inline constexpr QStringView NomeArchivio = u"Zuvora.mdb";
-
-// The path of the settings database in the application folder, in the platform's form. A file whose name differs only
-// in case is found too.
+// The path of the settings database in the application folder, in the platform's form.
 QString percorsoArchivio(const QString &cartella);
 
 // The three steps that begin every access to the settings database: file, source, refresh.
