@@ -1,5 +1,5 @@
-#include "content/logic/ControlloPlaylist.h"
 #include "content/logic/Playlist.h"
+#include "content/logic/ControlloPlaylist.h"
 #include "kit/InstallazioneProva.h"
 
 #include <QDir>

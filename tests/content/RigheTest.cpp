@@ -15,7 +15,9 @@ namespace zuvora {
 namespace {
 
 struct RigheContenuto : testing::Test {
-    QVariant configurazione(const QString &colonna) { return i.valore(u"SELECT "_s + colonna + u" FROM Configurazione"_s); }
+    QVariant configurazione(const QString &colonna) {
+        return i.valore(u"SELECT "_s + colonna + u" FROM Configurazione"_s);
+    }
     InstallazioneProva i;
 };
 
@@ -49,7 +51,8 @@ TEST_F(RigheContenuto, AStationIsAddedAndChanged) {
     salvaRadio(elenco, {u"Due"_s, u"http://b/"_s}, true);
     Data4.Refresh();
     salvaRadio(Data4.Recordset(), {u"DUE"_s, u"http://c/"_s}, false);
-    EXPECT_EQ(i.righe(u"SELECT NomeRadio, PercorsoURL FROM radio"_s), (QStringList{u"Uno|http://a/"_s, u"DUE|http://c/"_s}));
+    EXPECT_EQ(i.righe(u"SELECT NomeRadio, PercorsoURL FROM radio"_s),
+              (QStringList{u"Uno|http://a/"_s, u"DUE|http://c/"_s}));
 }
 
 TEST_F(RigheContenuto, TitlesAreFoundAgain) {
@@ -57,8 +60,11 @@ TEST_F(RigheContenuto, TitlesAreFoundAgain) {
     Data Data1;
     Recordset &elenco = apri(Data1, i.cartella(), ElencoYouTube.toString());
     aggiungiYouTube(elenco, u"L'ORO DI ROMA"_s, u"https://x/"_s);
-    const std::pair<QString, bool> casi[] = {
-        {u"L'ORO DI ROMA"_s, true}, {u"l'oro di roma"_s, true}, {u"L?ORO*"_s, true}, {u"L'ORO"_s, false}, {u"'"_s, false}};
+    const std::pair<QString, bool> casi[] = {{u"L'ORO DI ROMA"_s, true},
+                                             {u"l'oro di roma"_s, true},
+                                             {u"L?ORO*"_s, true},
+                                             {u"L'ORO"_s, false},
+                                             {u"'"_s, false}};
     for (const auto &[titolo, presente] : casi)
         EXPECT_EQ(titoloPresente(i.cartella(), titolo), presente) << titolo.toStdString();
     salvaPredefinitaYouTube(i.cartella(), u"https://x/"_s);
@@ -68,17 +74,18 @@ TEST_F(RigheContenuto, TitlesAreFoundAgain) {
 TEST_F(RigheContenuto, TheTownIsTheWholeAddress) {
     const IndirizzoMeteo indirizzo(u"https://meteo.example"_s);
     salvaMeteo(i.cartella(), indirizzo, u"3012"_s);
-    EXPECT_EQ(configurazione(u"meteo"_s),
-              u"https://meteo.example/box/previsioni.php?citta=3012&type=day2&width=450&ico=swf1&lang=ita&days=5&font=Arial"
-              "&fontsize=12&bg=FFFFFF&fg=000000&bgtitle=0099FF&fgtitle=FFFFFF&bgtab=F0F0F0&fglink=1773C2"_s);
+    EXPECT_EQ(
+        configurazione(u"meteo"_s),
+        u"https://meteo.example/box/previsioni.php?citta=3012&type=day2&width=450&ico=swf1&lang=ita&days=5&font=Arial"
+        "&fontsize=12&bg=FFFFFF&fg=000000&bgtitle=0099FF&fgtitle=FFFFFF&bgtab=F0F0F0&fglink=1773C2"_s);
     EXPECT_EQ(leggiMeteo(i.cartella()).MeteoCode, u"3012"_s);
     i.esegui(u"UPDATE Configurazione SET MeteoCode=NULL"_s);
     EXPECT_EQ(leggiMeteo(i.cartella()).MeteoCode, u"0000"_s);
     i.esegui(u"UPDATE Configurazione SET meteo=NULL, MeteoCode='77'"_s);
     EXPECT_EQ(leggiMeteo(i.cartella()).meteo, std::nullopt);
     EXPECT_EQ(leggiMeteo(i.cartella()).MeteoCode, u"0000"_s);
-    const std::pair<QString, bool> codici[] = {{u"0000"_s, false}, {u""_s, false},     {u"abc"_s, false},
-                                               {u"12ab"_s, true},  {u" 7"_s, true},    {u"0,5"_s, false},
+    const std::pair<QString, bool> codici[] = {{u"0000"_s, false}, {u""_s, false},      {u"abc"_s, false},
+                                               {u"12ab"_s, true},  {u" 7"_s, true},     {u"0,5"_s, false},
                                                {u"-3"_s, true},    {u"0000001"_s, true}};
     for (const auto &[codice, vale] : codici)
         EXPECT_EQ(eCodiceComune(codice), vale) << codice.toStdString();
@@ -95,7 +102,8 @@ TEST_F(RigheContenuto, TownsByTheirBeginning) {
     };
     EXPECT_EQ(trovati(u"l'aquila"_s), u"L'Aquila"_s);
     EXPECT_EQ(trovati(u"zzz"_s), QString());
-    EXPECT_TRUE(trovati(u""_s).startsWith(u"Abano"_s) || trovati(u""_s).startsWith(u"Abb"_s)) << trovati(u""_s).toStdString();
+    EXPECT_TRUE(trovati(u""_s).startsWith(u"Abano"_s) || trovati(u""_s).startsWith(u"Abb"_s))
+        << trovati(u""_s).toStdString();
 }
 
 TEST_F(RigheContenuto, MusicAndTicker) {
@@ -111,8 +119,8 @@ TEST_F(RigheContenuto, MusicAndTicker) {
 }
 
 TEST_F(RigheContenuto, TheDefaultAndItsTime) {
-    const std::pair<QString, std::optional<double>> tempi[] = {{u"60"_s, 60000.0}, {u"61"_s, {}},     {u"0"_s, {}},
-                                                               {u""_s, {}},        {u"1"_s, 1000.0}, {u"2,5"_s, 2500.0}};
+    const std::pair<QString, std::optional<double>> tempi[] = {
+        {u"60"_s, 60000.0}, {u"61"_s, {}}, {u"0"_s, {}}, {u""_s, {}}, {u"1"_s, 1000.0}, {u"2,5"_s, 2500.0}};
     for (const auto &[secondi, tempo] : tempi)
         EXPECT_EQ(tempoDaSecondi(secondi), tempo) << secondi.toStdString();
     const std::pair<QVariant, QString> mostrati[] = {

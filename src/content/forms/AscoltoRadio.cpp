@@ -74,8 +74,9 @@ void AscoltoRadio::ascolta(const VoceRadio &voce) {
     m_voce = voce;
     m_nome->setText(voce.NomeRadio);
     if (!indirizzoWeb(voce.PercorsoURL)) {
-        mostra(u"Interrotto"_s, u"L'indirizzo non è quello di una stazione: deve cominciare con http:// o https://\n\n%1"_s
-                                    .arg(voce.PercorsoURL));
+        mostra(u"Interrotto"_s,
+               u"L'indirizzo non è quello di una stazione: deve cominciare con http:// o https://\n\n%1"_s.arg(
+                   voce.PercorsoURL));
         return;
     }
     mostra(u"Collegamento in corso…"_s, voce.PercorsoURL);

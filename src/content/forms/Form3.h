@@ -32,7 +32,10 @@ private:
     Grid grid{this,
               "grid",
               {6960, 120, 4500, 5340},
-              {{"Codice", "Codice", 720}, {"Comune", "Comune", 0}, {"Provincia", "Provincia", 820}, {"Regione", "Regione", 1100}}};
+              {{"Codice", "Codice", 720},
+               {"Comune", "Comune", 0},
+               {"Provincia", "Provincia", 820},
+               {"Regione", "Regione", 1100}}};
     Button CBT_3{this, "CBT(3)", "Prova Comune Tabella", {6960, 5760, 1935, 330}};
     Button CBT_2{this, "CBT(2)", "&Salva Comune", {8880, 5760, 1215, 330}};
     Button CBT_0{this, "CBT(0)", "C&hiudi", {10080, 5760, 1095, 330}};

@@ -32,8 +32,7 @@ FormPlaylist::FormPlaylist(const Ambiente &ambiente_, const AspettoPlaylist &a, 
       Drive1(this, "Drive1", {1320, 720, 1935, 315}), Dir1(this, "Dir1", a.Dir1), File1(this, "File1", a.File1),
       m_scelta(Drive1, Dir1, File1, m_tipo.contenuti.toString()), Command6(this, "Command6", "&Salva", a.Command6),
       SalvaNuovo(this, "SalvaNuovo", "&Salva in nuovo file", a.SalvaNuovo),
-      command1(this, "command1", a.aggiungi, a.command1),
-      Command10(this, "Command10", a.aggiungiTutti, a.Command10),
+      command1(this, "command1", a.aggiungi, a.command1), Command10(this, "Command10", a.aggiungiTutti, a.Command10),
       Label2_1(this, "Label2(1)", "Files presenti nella playlist selezionata", {120, 4200, 6240, 255}),
       List2(this, "List2", {120, 4560, 6255, 2415}),
       Label2_0(this, "Label2(0)", "Files di impostazione presenti", {6480, 4200, 3240, 255}),
@@ -107,7 +106,8 @@ void FormPlaylist::CaricaPlaylist() {
     List2.setVoci(letta.righe);
     if (!letta.righe.isEmpty())
         List2.setListIndex(0);
-    m_controllo.chiedi(letta.righe, [this](const QStringList &mancanti) { proteggi([&] { segnalaMancanti(mancanti); }); });
+    m_controllo.chiedi(letta.righe,
+                       [this](const QStringList &mancanti) { proteggi([&] { segnalaMancanti(mancanti); }); });
 }
 
 void FormPlaylist::segnalaMancanti(const QStringList &mancanti) {

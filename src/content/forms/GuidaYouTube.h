@@ -28,11 +28,10 @@ private:
                    {480, 2040, 8385, 255}};
     Label Label4_1{this, "Label4(1)", "SELEZIONARE CODICE INCORPORAMENTO PLAYLIST", {240, 2580, 8625, 255}};
     Label Label5_3{this, "Label5(3)", "- Accedere al proprio account Youtube", {480, 2880, 8385, 255}};
-    Label Label5_4{
-        this,
-        "Label5(4)",
-        "-Selezionare fra Playlist presenti nella barra in alto facendo clic sul NOME della Playlist.",
-        {480, 3180, 8385, 255}};
+    Label Label5_4{this,
+                   "Label5(4)",
+                   "-Selezionare fra Playlist presenti nella barra in alto facendo clic sul NOME della Playlist.",
+                   {480, 3180, 8385, 255}};
     Label Label5_5{this, "Label5(5)", "-Clic su \"condividi\"", {480, 3480, 8385, 255}};
     Label Label5_6{this, "Label5(6)", "-Clic su tasto \"codice da incorporare\"", {480, 3780, 8385, 255}};
     Label Label5_7{this,

@@ -34,8 +34,7 @@ Riproduttore::Riproduttore(QWidget *padre, const char *nome, const Posto &posto,
       m_volume(new QSlider(Qt::Horizontal, this)), m_nome(new QLabel(this)) {
     costruisci();
     connect(m_pausa, &QPushButton::clicked, this, &Riproduttore::alterna);
-    connect(m_posizione, &QSlider::sliderMoved, this,
-            [this](int ms) { m_lettore->setPosizione(Lettore::Tempo(ms)); });
+    connect(m_posizione, &QSlider::sliderMoved, this, [this](int ms) { m_lettore->setPosizione(Lettore::Tempo(ms)); });
     connect(m_posizione, &QSlider::actionTriggered, this,
             [this] { m_lettore->setPosizione(Lettore::Tempo(m_posizione->sliderPosition())); });
     connect(m_volume, &QSlider::valueChanged, this, [this](int percento) {
@@ -138,7 +137,8 @@ void Riproduttore::alterna() {
 
 void Riproduttore::aggiorna() {
     const StatoLettore stato = m_lettore ? m_lettore->stato() : StatoLettore::Vuoto;
-    const bool aperto = stato == StatoLettore::InCorso || stato == StatoLettore::InPausa || stato == StatoLettore::Finito;
+    const bool aperto =
+        stato == StatoLettore::InCorso || stato == StatoLettore::InPausa || stato == StatoLettore::Finito;
     m_pausa->setText(suona() ? u"&Pausa"_s : u"Ri&produci"_s);
     m_pausa->setEnabled(aperto);
     m_posizione->setEnabled(aperto && m_lettore->durata() > 0ms);

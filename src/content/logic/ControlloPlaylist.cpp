@@ -52,7 +52,8 @@ struct ControlloPlaylist::Lavoro {
     void percorri() {
         for (qsizetype i = corrente; i < righe.size() && !congedato; corrente = ++i) {
             const QString &riga = righe.at(i);
-            const bool muta = std::any_of(mute.begin(), mute.end(), [&](const QString &m) { return riga.startsWith(m); });
+            const bool muta =
+                std::any_of(mute.begin(), mute.end(), [&](const QString &m) { return riga.startsWith(m); });
             sorti[static_cast<std::size_t>(i)] = !muta && esiste(riga) ? Sorte::Presente : Sorte::Mancante;
         }
     }

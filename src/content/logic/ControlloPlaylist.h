@@ -13,7 +13,7 @@ namespace zuvora {
 // beyond the limit counts as missing, and so does what lies in the same folder; a thread that hangs on it is let go.
 class ControlloPlaylist {
 public:
-    using Domanda = std::function<bool(const QString &)>;       // called on a thread of its own
+    using Domanda = std::function<bool(const QString &)>;      // called on a thread of its own
     using AllaFine = std::function<void(const QStringList &)>; // what is missing, in order
 
     explicit ControlloPlaylist(Domanda esiste, std::chrono::milliseconds limite = std::chrono::seconds(2));
