@@ -1,8 +1,6 @@
 #include "content/forms/ImpostaFoto.h"
 
 #include "content/logic/Predefinita.h"
-#include "shell/logic/Domanda.h"
-#include "shell/logic/FileAtomico.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -13,7 +11,8 @@ constexpr int massimeCifre = 2;
 
 } // namespace
 
-ImpostaFoto::ImpostaFoto(const Ambiente &ambiente_, QWidget *padre) : FormPlaylist(ambiente_, AspettoFoto, padre) {
+ImpostaFoto::ImpostaFoto(const Ambiente &ambiente_, QWidget *padre, const Percorsi &percorsi)
+    : FormPlaylist(ambiente_, AspettoFoto, padre, percorsi) {
     text1.setFiltro(soloCifre);
     text1.setMaxLength(massimeCifre);
     quando(Image1, &AnteprimaImmagine::cambiata, [this] {
@@ -43,16 +42,15 @@ void ImpostaFoto::clicVoce(const QString &percorso) {
 // A path on a disk that doesn't answer must not hold the form up: it is asked for first.
 void ImpostaFoto::mostra(const QString &percorso, bool tace) {
     m_chiesta = percorso;
-    const auto risposta = [this, percorso, tace](std::optional<bool> esiste) {
+    percorsi().chiedi(percorso, *this, [this, percorso, tace](const Percorsi::Esame &esame) {
         if (percorso != m_chiesta)
             return;
         m_tace = tace;
-        if (esiste.value_or(false) || !tace)
-            Image1.mostra(percorso);
+        if (esame.specie != Specie::Manca)
+            Image1.mostra(esame.percorso);
         else
-            Image1.svuota();
-    };
-    chiedi<bool>([percorso] { return FileEsiste(percorso); }, *this, risposta);
+            Image1.svuota(tace ? QString() : u"File non trovato"_s);
+    });
 }
 
 bool ImpostaFoto::chiediTempo(std::optional<double> &tempo) {

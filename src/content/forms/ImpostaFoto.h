@@ -2,13 +2,14 @@
 
 #include "content/forms/FormPlaylist.h"
 #include "shell/host/AnteprimaImmagine.h"
+#include "shell/logic/Percorsi.h"
 
 namespace zuvora {
 
 // Playlists of images, with the time that each stays on the screen.
 class ImpostaFoto : public FormPlaylist {
 public:
-    ImpostaFoto(const Ambiente &ambiente, QWidget *padre);
+    ImpostaFoto(const Ambiente &ambiente, QWidget *padre, const Percorsi &percorsi = Percorsi());
 
 protected:
     void clicFile(const QString &percorso) override;

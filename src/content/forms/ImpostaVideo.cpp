@@ -4,7 +4,8 @@
 
 namespace zuvora {
 
-ImpostaVideo::ImpostaVideo(const Ambiente &ambiente_, QWidget *padre) : FormPlaylist(ambiente_, AspettoVideo, padre) {
+ImpostaVideo::ImpostaVideo(const Ambiente &ambiente_, QWidget *padre, const Percorsi &percorsi)
+    : FormPlaylist(ambiente_, AspettoVideo, padre, percorsi) {
     alClic(PushButton1, [this] { anteprimaCartella(); });
     alClic(PushButton2, [this] { anteprimaPlaylist(); });
     ElencaPlaylist();
@@ -17,7 +18,7 @@ void ImpostaVideo::anteprimaCartella() {
 
 void ImpostaVideo::anteprimaPlaylist() {
     if (haVoci())
-        AnteprimaVideo(ambiente(), voceScelta(), this).mostraModale();
+        AnteprimaVideo(ambiente(), percorsi().nativo(voceScelta()).value_or(voceScelta()), this).mostraModale();
 }
 
 } // namespace zuvora

@@ -18,7 +18,7 @@ PaginaRadio::PaginaRadio(const Apertura &apertura) : Pagina(apertura, "RadioBox"
 }
 
 void PaginaRadio::riempi() {
-    apri(Data4, cartella(), ElencoRadio.toString());
+    zuvora::apri(Data4, cartella(), ElencoRadio.toString());
 }
 
 std::optional<VoceRadio> PaginaRadio::scelta() {

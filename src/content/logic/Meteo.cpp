@@ -3,6 +3,8 @@
 #include "shell/logic/Numeri.h"
 #include "shell/store/Riga.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
@@ -26,7 +28,8 @@ MeteoScelto leggiMeteo(const QString &cartella) {
 }
 
 bool eCodiceComune(QStringView codice) {
-    return numeroIniziale(codice) != 0;
+    static const QRegularExpression iniziale(uR"(^\s*([+-]?\d*\.?\d*))"_s);
+    return iniziale.match(codice.toString()).captured(1).toDouble() != 0;
 }
 
 void salvaMeteo(const QString &cartella, const IndirizzoMeteo &indirizzo, const QString &codice) {

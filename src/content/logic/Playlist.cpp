@@ -13,7 +13,7 @@ bool haEstensione(const TipoPlaylist &tipo, const QString &percorso) {
 }
 
 QString conEstensione(const TipoPlaylist &tipo, const QString &percorso) {
-    return percorso.endsWith(tipo.estensione, Qt::CaseInsensitive) ? percorso : percorso + tipo.estensione;
+    return percorso.endsWith(tipo.estensione, Qt::CaseInsensitive) ? percorso : percorso + tipo.estensione.toString();
 }
 
 bool eContenuto(const TipoPlaylist &tipo, const QString &percorso) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/logic/Nomi.h"
+#include "shell/store/NomiFile.h"
 
 #include <QStringView>
 
