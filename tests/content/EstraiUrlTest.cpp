@@ -22,7 +22,7 @@ TEST(EstraiUrl, CuttingTheAddressOut) {
         // Without "src=" the cut begins at the fifth character: not noticed as wrong.
         {u"<iframe title=\"x\" frameborder"_s, u"ame title=\"x"_s},
         {u"1234 frameborder"_s, std::nullopt},
-        {u"123456 frameborder"_s, u""_s},
+        {u"12345 frameborder"_s, u""_s},
         {u"<iframe src=\"https://x/\">"_s, std::nullopt},
         {u"frameborder=\"0\" src=\"https://x/\""_s, std::nullopt},
         {u"SRC=\"https://x/\" FRAMEBORDER"_s, std::nullopt},
@@ -32,8 +32,9 @@ TEST(EstraiUrl, CuttingTheAddressOut) {
     for (const Caso &caso : casi) {
         const auto esito = EstraiUrl(caso.codice);
         ASSERT_EQ(esito.has_value(), caso.url.has_value()) << caso.codice.toStdString();
-        if (esito)
+        if (esito) {
             EXPECT_EQ(*esito, *caso.url + u"&autoplay=1&autohide=1"_s) << caso.codice.toStdString();
+        }
     }
 }
 
