@@ -1,10 +1,9 @@
 #include "film/LettoreQt.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
+#include "comune/Fili.h"
+
 #include <QThread>
 #include <algorithm>
-#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -15,38 +14,6 @@ namespace {
 constexpr auto LimiteFile = 8s;
 constexpr auto LimiteFlusso = 12s;
 constexpr auto LimiteSilenzio = 10s; // of a station that was playing
-constexpr auto AttesaFine = 500ms;   // for all engines together, when the program ends
-
-// The threads of the engines, also of those let go. Used on the window's thread only.
-std::vector<QThread *> &fili() {
-    static std::vector<QThread *> elenco;
-    return elenco;
-}
-
-void togliFiniti() {
-    std::erase_if(fili(), [](QThread *filo) {
-        if (!filo->isFinished())
-            return false;
-        delete filo;
-        return true;
-    });
-}
-
-// One that still hangs when the program ends is left behind: to wait for it would hold the program up.
-void attendiFili() {
-    const QDeadlineTimer fine(AttesaFine);
-    for (QThread *filo : fili())
-        filo->wait(fine);
-    togliFiniti();
-}
-
-QThread *nuovoFilo() {
-    static const bool registrata = (qAddPostRoutine(attendiFili), true);
-    Q_UNUSED(registrata)
-    togliFiniti();
-    fili().push_back(new QThread);
-    return fili().back();
-}
 
 } // namespace
 
