@@ -2,6 +2,7 @@
 
 #include "installer/Archivi.h"
 #include "installer/Contenuto.h"
+#include "installer/Esempio.h"
 #include "installer/File.h"
 #include "installer/Guasto.h"
 
@@ -134,6 +135,8 @@ void prepara(const QString &destinazione, const QString &cartella, const Opzioni
     if (opzioni.conProgramma)
         copiaProgramma(origine, destinazione);
     copiaFile(origine, destinazione);
+    if (opzioni.esempio)
+        scriviEsempio(destinazione, cartella);
     for (const Archivio *archivio : {&archivioTotem, &archivioZuvora}) {
         const QString file = destinazione + u'/' + archivio->file;
         creaCartella(QFileInfo(file).path());
