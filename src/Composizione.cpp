@@ -1,5 +1,7 @@
 #include "Composizione.h"
 
+#include "content/forms/PaginaMusica.h"
+#include "content/forms/PaginaScorrevole.h"
 #include "library/forms/ApriTela.h"
 #include "library/forms/Elementi.h"
 #include "library/forms/SceltaLayout.h"
@@ -39,8 +41,8 @@ std::vector<VoceMenu> vociDelPannello() {
         {"PB1(7)", 1800, "  Gestione Layout FrontEnd", invariato, tutte, sceltaLayout},
         {"PushButton1", 2160, "  DinDon", u"Gestione Din Don", tutte, nulla},
         {"Position", 2520, "  Posizione", u"Posizione Schermi", tutte, pagina<PaginaPosizione>},
-        {"PB1(5)", 2880, "  &Musica cartella (MP3)", u"Musica -MP3", tutte, nulla},
-        {"Command0", 3240, "  Testo Scorrevole", u"Testo Scorrevole", tutte, nulla},
+        {"PB1(5)", 2880, "  &Musica cartella (MP3)", u"Musica -MP3", tutte, pagina<PaginaMusica>},
+        {"Command0", 3240, "  Testo Scorrevole", u"Testo Scorrevole", tutte, pagina<PaginaScorrevole>},
         {"PB1(4)", 3600, "   Imposta &Immagini", u"Impostazione Immagini", tutte, nulla},
         {"PB1(3)", 3960, "  Imposta &Video", u"Impostazione Video", tutte, nulla},
         {"PushButton2", 4320, "  Decorazioni", u"Gestione Decorazioni", tutte, form<Elementi>},

@@ -1,3 +1,4 @@
+#include "content/logic/CorniceFilmato.h"
 #include "content/logic/EstraiUrl.h"
 
 #include <gtest/gtest.h>
@@ -34,6 +35,34 @@ TEST(EstraiUrl, CuttingTheAddressOut) {
         ASSERT_EQ(esito.has_value(), caso.url.has_value()) << caso.codice.toStdString();
         if (esito) {
             EXPECT_EQ(*esito, *caso.url + u"&autoplay=1&autohide=1"_s) << caso.codice.toStdString();
+        }
+    }
+}
+
+TEST(CorniceFilmato, OnlyForFilmsOfYouTube) {
+    const QUrl sito(u"https://www.zuvora.example/"_s);
+    const struct {
+        QString indirizzo;
+        const char *src; // null: shown by itself
+        const char *provenienza;
+    } casi[] = {
+        {u"https://www.youtube.com/embed/videoseries?list=PL1&autoplay=1"_s,
+         "src=\"https://www.youtube.com/embed/videoseries?list=PL1&amp;autoplay=1\"", "https://www.zuvora.example/"},
+        {u"http://www.youtube-nocookie.com/embed/x"_s, "src=\"http://www.youtube-nocookie.com/embed/x\"",
+         "http://www.zuvora.example/"},
+        {u"//www.youtube.com/embed/x"_s, "src=\"https://www.youtube.com/embed/x\"", "https://www.zuvora.example/"},
+        {u"https://www.youtube.com/x\"><script>"_s, "src=\"https://www.youtube.com/x%22%3E%3Cscript%3E\"",
+         "https://www.zuvora.example/"},
+        {u"https://notyoutube.com/embed/x"_s, nullptr, nullptr},
+        {u"https://www.youtube.com.example/x"_s, nullptr, nullptr},
+        {u"senza indirizzo"_s, nullptr, nullptr},
+    };
+    for (const auto &caso : casi) {
+        const auto cornice = corniceFilmato(caso.indirizzo, sito);
+        ASSERT_EQ(cornice.has_value(), caso.src != nullptr) << caso.indirizzo.toStdString();
+        if (cornice) {
+            EXPECT_TRUE(cornice->html.contains(QLatin1StringView(caso.src))) << cornice->html.toStdString();
+            EXPECT_EQ(cornice->provenienza, QUrl(QString::fromLatin1(caso.provenienza)));
         }
     }
 }

@@ -15,8 +15,8 @@ constexpr int massimoCodice = 1000;
 
 } // namespace
 
-youtube::youtube(const Ambiente &ambiente_, QWidget *padre)
-    : Form(ambiente_, "youtube", "Impostazione playlists di YouTube", {9300, 5640}, padre) {
+youtube::youtube(const Ambiente &ambiente_, const QUrl &sito, QWidget *padre)
+    : Form(ambiente_, "youtube", "Impostazione playlists di YouTube", {9300, 5640}, padre), m_sito(sito) {
     Titolo.setMaxLength(massimoTitolo);
     Titolo.setMaiuscole(true);
     Titolo.setSoloDigitato();
@@ -98,7 +98,7 @@ Valore youtube::urlCorrente() {
 
 void youtube::anteprima() {
     if (const Valore url = urlCorrente(); !eNull(url))
-        P1(ambiente(), testoDi(url, {}), this).mostraModale();
+        P1(ambiente(), testoDi(url, {}), m_sito, this).mostraModale();
 }
 
 void youtube::predefinita() {

@@ -6,12 +6,15 @@
 #include "shell/host/Grid.h"
 #include "shell/store/Data.h"
 
+#include <QUrl>
+
 namespace zuvora {
 
 // Keeps the playlists of YouTube: takes the address out of an embed code and stores it under a title.
 class youtube : public Form {
 public:
-    youtube(const Ambiente &ambiente, QWidget *padre);
+    // `sito`: where the previews are told they are shown.
+    youtube(const Ambiente &ambiente, const QUrl &sito, QWidget *padre);
 
 private:
     void nuova();
@@ -23,6 +26,7 @@ private:
     void mostraGuida(bool aperta);
     Valore urlCorrente(); // Null without rows
 
+    QUrl m_sito;
     Data Data1;
 
     GroupBox GB1{this, "GB1", "", {120, 0, 3855, 3615}};
