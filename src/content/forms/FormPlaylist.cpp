@@ -51,6 +51,7 @@ FormPlaylist::FormPlaylist(const Ambiente &ambiente_, const AspettoPlaylist &a, 
       Command89(this, "Command89", "Seleziona come Predefinito!", {6360, 7080, 2415, 330}),
       Command5(this, "Command5", "C&hiudi", {8760, 7080, 975, 330}) {
     Label1_1.setAbbrevia(true);
+    Command6.setRuolo(Ruolo::Principale);
     Command89.setToolTip(QString::fromUtf8(Suggerimento));
     EliminaFile.setRuolo(Ruolo::Distruttivo);
     File1.setAccessibleName(u"File della cartella"_s);

@@ -17,6 +17,7 @@ GestioneRadio::GestioneRadio(const Ambiente &ambiente_, Data &Data4, const std::
     text1_0.setSelezionaAlFuoco();
     text1_1.setSelezionaAlFuoco();
     text1_1.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    CBT_1.setRuolo(Ruolo::Principale);
     alClic(CBT_1, [this] { salva(); });
     alClic(ctButton2_0, [this] { scarica(); });
     text1_0.setFocus();

@@ -9,6 +9,8 @@ namespace zuvora {
 
 PaginaMusica::PaginaMusica(const Apertura &apertura) : Pagina(apertura, "BoxImpostazioni(5)") {
     alClic(CBT_2, [this] { ScegliCartella(); });
+    Salva5.setRuolo(Ruolo::Principale);
+    FE1_1.setAlignment(Qt::AlignLeft | Qt::AlignTop);
     alClic(Salva5, [this] { salva(); });
 }
 

@@ -10,6 +10,7 @@ namespace zuvora {
 PaginaRadio::PaginaRadio(const Apertura &apertura) : Pagina(apertura, "RadioBox") {
     GridRadio.setAccessibleName(u"Stazioni radio"_s);
     GridRadio.lega(Data4);
+    btnRadio(2).setRuolo(Ruolo::Distruttivo);
     alClic(btnRadio(3), [this] { gestisci({}); });
     alClic(btnRadio(1), [this] { modifica(); });
     alClic(btnRadio(2), [this] { cancella(); });

@@ -12,6 +12,7 @@ PaginaScorrevole::PaginaScorrevole(const Apertura &apertura) : Pagina(apertura, 
     Text1.setAccessibleName(u"Prova testo scorrevole"_s);
     quando(Timer1, &QTimer::timeout, [this] { scorri(); });
     alClic(PushButton3, [this] { prova(); });
+    salva6.setRuolo(Ruolo::Principale);
     alClic(salva6, [this] { salva(); });
 }
 

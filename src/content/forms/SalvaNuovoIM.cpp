@@ -30,6 +30,7 @@ SalvaNuovoIM::SalvaNuovoIM(const Ambiente &ambiente_, const TipoPlaylist &tipo, 
     FE.setSoloDigitato();
     FE.setSvuotaAppunti(ambiente().piattaforma, Edit::Svuota::AdOgniTasto);
     FE.setAccessibleName(u"Nome del file"_s);
+    PushButton1.setRuolo(Ruolo::Principale);
     alClic(PushButton1, [this] { salva(); });
     alClic(Command5, [this] { scarica(); });
     FE.setFocus();

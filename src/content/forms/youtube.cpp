@@ -31,6 +31,8 @@ youtube::youtube(const Ambiente &ambiente_, const QUrl &sito, QWidget *padre)
     alClic(BTN(2), [this] { mostraGuida(true); });
     alClic(GB2.PushButton1, [this] { mostraGuida(false); });
     alClic(Predefinito, [this] { predefinita(); });
+    Confermaannulla(0).setRuolo(Ruolo::Principale);
+    BTN01(1).setRuolo(Ruolo::Distruttivo);
     alClic(Confermaannulla(0), [this] { ok(); });
     alClic(Confermaannulla(1), [this] { azzera(); });
     alClic(chiudibtn, [this] { scarica(); });
