@@ -1,7 +1,10 @@
 #include "Composizione.h"
 
+#include "content/forms/Form3.h"
 #include "content/forms/PaginaMusica.h"
+#include "content/forms/PaginaRadio.h"
 #include "content/forms/PaginaScorrevole.h"
+#include "content/forms/youtube.h"
 #include "library/forms/ApriTela.h"
 #include "library/forms/Elementi.h"
 #include "library/forms/SceltaLayout.h"
@@ -25,6 +28,13 @@ void mostraSceltaLayout(const Apertura &a) {
 }
 const ApriForm sceltaLayout = mostraSceltaLayout;
 
+const ApriForm meteo = [](const Apertura &a) {
+    Form3(a.ambiente, QStringLiteral(ZUVORA_HOST_METEO), a.padre).mostraModale();
+};
+const ApriForm playlistYouTube = [](const Apertura &a) {
+    youtube(a.ambiente, QUrl(QStringLiteral(ZUVORA_SITO)), a.padre).mostraModale();
+};
+
 constexpr bool soloPrincipale = true;
 constexpr bool tutte = false;
 constexpr auto invariato = std::nullopt; // the title stays as it was
@@ -46,10 +56,10 @@ std::vector<VoceMenu> vociDelPannello() {
         {"PB1(4)", 3600, "   Imposta &Immagini", u"Impostazione Immagini", tutte, nulla},
         {"PB1(3)", 3960, "  Imposta &Video", u"Impostazione Video", tutte, nulla},
         {"PushButton2", 4320, "  Decorazioni", u"Gestione Decorazioni", tutte, form<Elementi>},
-        {"Command1", 4680, "  Imposta Meteo", u"Impostazione Meteo", tutte, nulla},
+        {"Command1", 4680, "  Imposta Meteo", u"Impostazione Meteo", tutte, meteo},
         {"PB1(1)", 5040, "  Modulo Vocale (TTS)", u"Modulo Vocale", tutte, nulla},
-        {"PB1(6)", 5400, "  Gestione &Radio", u"Gestione Radio", tutte, nulla},
-        {"PB1(11)", 6120, "  PlayList di &YouTube", u"Playlist YouTube", tutte, nulla},
+        {"PB1(6)", 5400, "  Gestione &Radio", u"Gestione Radio", tutte, pagina<PaginaRadio>},
+        {"PB1(11)", 6120, "  PlayList di &YouTube", u"Playlist YouTube", tutte, playlistYouTube},
         {"PB1(12)", 6480, "  Imposta schermata Totem", invariato, soloPrincipale, nulla},
         {"PB1(13)", 6840, "  Varie impostazioni Totem", invariato, soloPrincipale, nulla},
     };

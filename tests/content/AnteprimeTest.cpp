@@ -3,8 +3,8 @@
 #include "content/forms/AnteprimaRadio.h"
 #include "content/forms/AnteprimaVideo.h"
 #include "content/forms/SalvaNuovoIM.h"
-#include "kit/FintiDialoghi.h"
 #include "kit/FintaPiattaforma.h"
+#include "kit/FintiDialoghi.h"
 #include "kit/InstallazioneProva.h"
 #include "web/ServerProva.h"
 

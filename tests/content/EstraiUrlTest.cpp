@@ -1,5 +1,5 @@
-#include "content/logic/CorniceFilmato.h"
 #include "content/logic/EstraiUrl.h"
+#include "content/logic/CorniceFilmato.h"
 
 #include <gtest/gtest.h>
 

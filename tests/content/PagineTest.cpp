@@ -25,7 +25,9 @@ template <class P> struct PaginaAperta {
 };
 
 struct ProvaPagine : testing::Test {
-    QString riga(const QString &colonna) { return i.valore(u"SELECT "_s + colonna + u" FROM Configurazione"_s).toString(); }
+    QString riga(const QString &colonna) {
+        return i.valore(u"SELECT "_s + colonna + u" FROM Configurazione"_s).toString();
+    }
     InstallazioneProva i;
 };
 

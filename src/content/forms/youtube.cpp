@@ -11,7 +11,6 @@ namespace zuvora {
 namespace {
 
 constexpr int massimoTitolo = 50; // characters
-constexpr int massimoCodice = 1000;
 
 } // namespace
 
@@ -21,8 +20,6 @@ youtube::youtube(const Ambiente &ambiente_, const QUrl &sito, QWidget *padre)
     Titolo.setMaiuscole(true);
     Titolo.setSoloDigitato();
     Titolo.setSvuotaAppunti(ambiente().piattaforma, Edit::Svuota::AlFuoco);
-    Codice.setMaiuscole(true);
-    Codice.setMassimo(massimoCodice);
     grid.setAccessibleName(u"Playlist di YouTube"_s);
     grid.lega(Data1);
     alClic(BTN01(0), [this] { nuova(); });

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "content/forms/EditCodice.h"
 #include "content/forms/GuidaYouTube.h"
-#include "shell/host/Edit.h"
 #include "shell/host/Form.h"
 #include "shell/host/Grid.h"
 #include "shell/store/Data.h"
@@ -31,7 +31,7 @@ private:
 
     GroupBox GB1{this, "GB1", "", {120, 0, 3855, 3615}};
     Label Label1_1{&GB1, "Label1(1)", "Inserire qui codice di incorporamento YouTube", {120, 160, 3495, 255}};
-    EditMultilinea Codice{&GB1, "Codice", {120, 400, 3495, 1815}};
+    EditCodice Codice{&GB1, "Codice", {120, 400, 3495, 1815}, 1000};
     Label Label1_0{&GB1, "Label1(0)", "Inserire qui titolo della Playlist YouTube", {120, 2400, 3495, 255}};
     Edit Titolo{&GB1, "Titolo", {120, 2640, 3495, 255}};
     Label Label2{&GB1, "Label2", "", {120, 3120, 1455, 255}};

@@ -29,11 +29,11 @@ std::optional<CorniceFilmato> corniceFilmato(const QString &indirizzo, const QUr
         return std::nullopt;
     QUrl provenienza = sito;
     provenienza.setScheme(url->scheme());
-    const QString html = u"<!doctype html><html><head><meta name=\"referrer\" content=\"origin\">"
-                         "<style>html,body,iframe{margin:0;border:0;width:100%;height:100%;overflow:hidden;"
-                         "background:#000}</style></head><body><iframe src=\"%1\" allow=\"autoplay; encrypted-media; "
-                         "fullscreen\"></iframe></body></html>"_s.arg(
-                             QString::fromLatin1(url->toEncoded()).toHtmlEscaped());
+    const QString html =
+        u"<!doctype html><html><head><meta name=\"referrer\" content=\"origin\">"
+        "<style>html,body,iframe{margin:0;border:0;width:100%;height:100%;overflow:hidden;"
+        "background:#000}</style></head><body><iframe src=\"%1\" allow=\"autoplay; encrypted-media; "
+        "fullscreen\"></iframe></body></html>"_s.arg(QString::fromLatin1(url->toEncoded()).toHtmlEscaped());
     return CorniceFilmato{html, provenienza};
 }
 
