@@ -106,6 +106,7 @@ private:
                                        dimensioneTela(risoluzione - 1), nullptr);
         form->avvisaAllApertura(esito.testo());
         form->show();
+        QCoreApplication::processEvents(); // the activation comes once the loop runs
     }
     void invia(QEvent::Type tipo, QPoint p, Qt::MouseButton b, Qt::MouseButtons premuti) {
         m_premuti = premuti;
