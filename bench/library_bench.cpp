@@ -54,6 +54,7 @@ public:
     QSize schermo() const override { return m_monitor.schermo(); }
     void svuotaAppunti() override {}
     bool apriNelBrowser(const QUrl &) override { return false; }
+    bool apriFile(const QString &) override { return false; }
 
 private:
     NessunMonitor m_monitor;

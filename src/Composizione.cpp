@@ -1,6 +1,8 @@
 #include "Composizione.h"
 
 #include "content/forms/Form3.h"
+#include "content/forms/ImpostaFoto.h"
+#include "content/forms/ImpostaVideo.h"
 #include "content/forms/PaginaMusica.h"
 #include "content/forms/PaginaRadio.h"
 #include "content/forms/PaginaScorrevole.h"
@@ -53,8 +55,8 @@ std::vector<VoceMenu> vociDelPannello() {
         {"Position", 2520, "  Posizione", u"Posizione Schermi", tutte, pagina<PaginaPosizione>},
         {"PB1(5)", 2880, "  &Musica cartella (MP3)", u"Musica -MP3", tutte, pagina<PaginaMusica>},
         {"Command0", 3240, "  Testo Scorrevole", u"Testo Scorrevole", tutte, pagina<PaginaScorrevole>},
-        {"PB1(4)", 3600, "   Imposta &Immagini", u"Impostazione Immagini", tutte, nulla},
-        {"PB1(3)", 3960, "  Imposta &Video", u"Impostazione Video", tutte, nulla},
+        {"PB1(4)", 3600, "   Imposta &Immagini", u"Impostazione Immagini", tutte, form<ImpostaFoto>},
+        {"PB1(3)", 3960, "  Imposta &Video", u"Impostazione Video", tutte, form<ImpostaVideo>},
         {"PushButton2", 4320, "  Decorazioni", u"Gestione Decorazioni", tutte, form<Elementi>},
         {"Command1", 4680, "  Imposta Meteo", u"Impostazione Meteo", tutte, meteo},
         {"PB1(1)", 5040, "  Modulo Vocale (TTS)", u"Modulo Vocale", tutte, nulla},
