@@ -41,7 +41,7 @@ void scriviEsempio(const QString &destinazione, const QString &cartella) {
         const bool elenco = relativo.endsWith(".zvi"_L1) || relativo.endsWith(".zvv"_L1);
         const QByteArray contenuto = origine.readAll();
         creaCartella(QFileInfo(destinazione + relativo).path());
-        scriviFile(destinazione + relativo, elenco ? playlist(contenuto, cartella) : contenuto);
+        scriviNuovo(destinazione + relativo, elenco ? playlist(contenuto, cartella) : contenuto);
     }
 }
 
