@@ -1,6 +1,5 @@
 #include "Composizione.h"
 
-#include "library/forms/ApriTela.h"
 #include "library/forms/Elementi.h"
 #include "library/forms/SceltaLayout.h"
 #include "pannello/forms/PaginaClient.h"
@@ -16,10 +15,7 @@ template <class F> const ApriForm form = [](const Apertura &a) { F(a.ambiente, a
 template <class P> const ApriPagina pagina = [](const Apertura &a) { return std::make_unique<P>(a); };
 
 void mostraSceltaLayout(const Apertura &a) {
-    const auto carica = [&a](const QString &tabella, QWidget *padre) {
-        apriTela(a.ambiente, a.risoluzione, tabella, padre);
-    };
-    SceltaLayout(a.ambiente, carica, a.padre).mostraModale();
+    SceltaLayout(a.ambiente, a.risoluzione, a.padre).mostraModale();
 }
 const ApriForm sceltaLayout = mostraSceltaLayout;
 
