@@ -19,10 +19,6 @@ const QColor coloreMargine(0x9a, 0xb4, 0xcc);
 const QColor coloreScelta(0x1f, 0x5f, 0xa8);
 const QColor coloreBloccato(0x80, 0x80, 0x80);
 
-QRect normale(const QRect &area) {
-    return {area.topLeft(), QSize(std::max(area.width(), 1), std::max(area.height(), 1))};
-}
-
 } // namespace
 
 Foglio::Foglio(Progetto &progetto, QWidget *padre) : QAbstractScrollArea(padre), m_progetto(progetto) {
