@@ -49,7 +49,7 @@ void Foglio::setZoom(int percento) {
 }
 
 void Foglio::adatta() {
-    const double libera = viewport()->width() - righello - 2 * bordo;
+    const double libera = width() - verticalScrollBar()->sizeHint().width() - righello - 2 * bordo - 4;
     setZoom(static_cast<int>(libera * decimiPerPollice * 100 / (logicalDpiX() * double(m_progetto.carta().larghezza))));
 }
 
