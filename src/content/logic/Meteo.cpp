@@ -3,8 +3,6 @@
 #include "shell/logic/Numeri.h"
 #include "shell/store/Riga.h"
 
-#include <QRegularExpression>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
@@ -28,8 +26,7 @@ MeteoScelto leggiMeteo(const QString &cartella) {
 }
 
 bool eCodiceComune(QStringView codice) {
-    static const QRegularExpression iniziale(uR"(^\s*([+-]?\d*\.?\d*))"_s);
-    return iniziale.match(codice.toString()).captured(1).toDouble() != 0;
+    return Val(codice.toString()) != 0;
 }
 
 void salvaMeteo(const QString &cartella, const IndirizzoMeteo &indirizzo, const QString &codice) {
