@@ -1,7 +1,7 @@
 // The program's own start in the installation whose folder is the first argument.
 #include "Composizione.h"
 #include "PrimaPittura.h"
-#include "shell/forms/Avvio.h"
+#include "pannello/forms/Avvio.h"
 #include "shell/host/QtDialoghi.h"
 #include "shell/host/QtPiattaforma.h"
 #include "shell/host/Stile.h"
@@ -31,5 +31,5 @@ int main(int argc, char *argv[]) {
     QtDialoghi dialoghi;
     InCartella piattaforma("zuvora-misura-avvio", QString::fromLocal8Bit(argc > 1 ? argv[1] : "."));
     const Ambiente ambiente{valori, dialoghi, piattaforma};
-    return eseguiProgramma(ambiente, apritoriDelPannello(), QUrl(QStringLiteral("https://www.zuvora.example/")));
+    return eseguiProgramma(ambiente, vociDelPannello(), QUrl(QStringLiteral("https://www.zuvora.example/")));
 }

@@ -21,11 +21,21 @@ if(ZUVORA_SANITIZER)
   target_link_options(zuvora_opzioni INTERFACE ${flag_sanitizer})
 endif()
 
-# zuvora_libreria(name LINK targets... SOURCES files...): a room's target. The include root is src/, so that an
-# include names its room ("shell/store/Data.h").
+# zuvora_radice(name): an include root of the target's own, which holds nothing but its folder under src/, so that an
+# include names its room ("shell/store/Data.h") and finds only the rooms that the target links.
+function(zuvora_radice nome)
+  set(radice ${CMAKE_BINARY_DIR}/radici/${nome})
+  file(RELATIVE_PATH stanza ${PROJECT_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
+  get_filename_component(sopra ${radice}/${stanza} DIRECTORY)
+  file(MAKE_DIRECTORY ${sopra})
+  file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${radice}/${stanza} SYMBOLIC)
+  target_include_directories(${nome} PUBLIC ${radice})
+endfunction()
+
+# zuvora_libreria(name LINK targets... SOURCES files...): the logic or the forms of a room, in the folder that calls it.
 function(zuvora_libreria nome)
   cmake_parse_arguments(A "" "" "SOURCES;LINK" ${ARGN})
   add_library(${nome} STATIC ${A_SOURCES})
-  target_include_directories(${nome} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  zuvora_radice(${nome})
   target_link_libraries(${nome} PUBLIC ${A_LINK} PRIVATE zuvora_opzioni)
 endfunction()

@@ -3,28 +3,54 @@
 #include "library/forms/ApriTela.h"
 #include "library/forms/Elementi.h"
 #include "library/forms/SceltaLayout.h"
+#include "pannello/forms/PaginaClient.h"
+#include "pannello/forms/PaginaPosizione.h"
+#include "pannello/forms/PaginaRisoluzioni.h"
 
 namespace zuvora {
 namespace {
 
-void apriSceltaLayout(SplasModule &pannello) {
-    const auto carica = [&pannello](const QString &tabella, QWidget *padre) {
-        apriTela(pannello.ambiente(), pannello.risoluzione(), tabella, padre);
-    };
-    SceltaLayout(pannello.ambiente(), carica, &pannello).mostraModale();
-}
+// A form that needs nothing but what every form is given.
+template <class F> const ApriForm form = [](const Apertura &a) { F(a.ambiente, a.padre).mostraModale(); };
 
-template <class F> void apriForm(SplasModule &pannello) {
-    F(pannello.ambiente(), &pannello).mostraModale();
+template <class P> const ApriPagina pagina = [](const Apertura &a) { return std::make_unique<P>(a); };
+
+void mostraSceltaLayout(const Apertura &a) {
+    const auto carica = [&a](const QString &tabella, QWidget *padre) {
+        apriTela(a.ambiente, a.risoluzione, tabella, padre);
+    };
+    SceltaLayout(a.ambiente, carica, a.padre).mostraModale();
 }
+const ApriForm sceltaLayout = mostraSceltaLayout;
+
+constexpr bool soloPrincipale = true;
+constexpr bool tutte = false;
+constexpr auto invariato = std::nullopt; // the title stays as it was
+constexpr std::monostate nulla;
 
 } // namespace
 
-Apritori apritoriDelPannello() {
-    Apritori apritori;
-    apritori.form["PB1(7)"] = apriSceltaLayout;
-    apritori.form["PushButton2"] = apriForm<Elementi>;
-    return apritori;
+std::vector<VoceMenu> vociDelPannello() {
+    return {
+        {"PB1(2)", 720, "  Gestione Servizi", invariato, soloPrincipale, nulla},
+        {"PB1(9)", 1080, "  &Risoluzione Video (monitor/TV)", u"Risoluzione Video (Monitor/TV)", tutte,
+         pagina<PaginaRisoluzioni>},
+        {"PB1(10)", 1440, "  Impostazione Clie&nt", u"Modalità Client", tutte, pagina<PaginaClient>},
+        {"PB1(7)", 1800, "  Gestione Layout FrontEnd", invariato, tutte, sceltaLayout},
+        {"PushButton1", 2160, "  DinDon", u"Gestione Din Don", tutte, nulla},
+        {"Position", 2520, "  Posizione", u"Posizione Schermi", tutte, pagina<PaginaPosizione>},
+        {"PB1(5)", 2880, "  &Musica cartella (MP3)", u"Musica -MP3", tutte, nulla},
+        {"Command0", 3240, "  Testo Scorrevole", u"Testo Scorrevole", tutte, nulla},
+        {"PB1(4)", 3600, "   Imposta &Immagini", u"Impostazione Immagini", tutte, nulla},
+        {"PB1(3)", 3960, "  Imposta &Video", u"Impostazione Video", tutte, nulla},
+        {"PushButton2", 4320, "  Decorazioni", u"Gestione Decorazioni", tutte, form<Elementi>},
+        {"Command1", 4680, "  Imposta Meteo", u"Impostazione Meteo", tutte, nulla},
+        {"PB1(1)", 5040, "  Modulo Vocale (TTS)", u"Modulo Vocale", tutte, nulla},
+        {"PB1(6)", 5400, "  Gestione &Radio", u"Gestione Radio", tutte, nulla},
+        {"PB1(11)", 6120, "  PlayList di &YouTube", u"Playlist YouTube", tutte, nulla},
+        {"PB1(12)", 6480, "  Imposta schermata Totem", invariato, soloPrincipale, nulla},
+        {"PB1(13)", 6840, "  Varie impostazioni Totem", invariato, soloPrincipale, nulla},
+    };
 }
 
 } // namespace zuvora

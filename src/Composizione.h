@@ -1,10 +1,12 @@
 #pragma once
 
-#include "shell/forms/SplasModule.h"
+#include "pannello/forms/VoceMenu.h"
+
+#include <vector>
 
 namespace zuvora {
 
-// What each button of the main panel opens: the one list that knows every form.
-Apritori apritoriDelPannello();
+// The buttons of the main panel's menu and what each opens: the one table that knows every form.
+std::vector<VoceMenu> vociDelPannello();
 
 } // namespace zuvora

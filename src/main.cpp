@@ -1,6 +1,6 @@
 // The program: look, platform and dialogs, then the forms of the composition.
 #include "Composizione.h"
-#include "shell/forms/Avvio.h"
+#include "pannello/forms/Avvio.h"
 #include "shell/host/QtDialoghi.h"
 #include "shell/host/QtPiattaforma.h"
 #include "shell/host/Stile.h"
@@ -16,5 +16,5 @@ int main(int argc, char *argv[]) {
     QtDialoghi dialoghi;
     QtPiattaforma piattaforma("zuvora-modulo-impostazione");
     const Ambiente ambiente{valori, dialoghi, piattaforma};
-    return eseguiProgramma(ambiente, apritoriDelPannello(), QUrl(QStringLiteral(ZUVORA_SITO)));
+    return eseguiProgramma(ambiente, vociDelPannello(), QUrl(QStringLiteral(ZUVORA_SITO)));
 }

@@ -4,6 +4,7 @@
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
 #include "library/forms/SceltaLayout.h"
+#include "pannello/forms/SplasModule.h"
 
 #include <QDir>
 #include <QTest>
@@ -81,7 +82,7 @@ TEST(ApriTela, LaMisuraDelRiquadroNotizieTornaSullaTelaESiSalva) {
 
 TEST(ApriTela, IlPannelloApreSelezioneECatalogo) {
     InstallazioneProva i;
-    SplasModule pannello(i.ambiente, apritoriDelPannello(), QUrl());
+    SplasModule pannello(i.ambiente, vociDelPannello(), QUrl());
     Guida guida;
     guida.premi("SceltaLayout", "PB1(0)");
     clicca(pannello, "PB1(7)");

@@ -1,6 +1,6 @@
 #include "library/logic/Decorazioni.h"
-#include "library/logic/CopiaFile.h"
 #include "library/logic/Sfondi.h"
+#include "shell/logic/CopiaFile.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,5 +1,5 @@
 // The start of the program, orderly and not.
-#include "shell/forms/Avvio.h"
+#include "pannello/forms/Avvio.h"
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
 

@@ -56,7 +56,7 @@ TEST_F(ConForm, IlCampoPrendeIlNomeDallEtichetta) {
 }
 
 TEST_F(ConForm, TastiNonAmmessiCadono) {
-    form.Campo.setTastiAmmessi(soloCifre);
+    form.Campo.setFiltro(soloCifre);
     QTest::keyClicks(&form.Campo, u"a1 b2-3x"_s);
     QTest::keyClick(&form.Campo, Qt::Key_Backspace);
     EXPECT_EQ(form.Campo.text(), u"12"_s);

@@ -1,7 +1,7 @@
 #include "kit/FintaPiattaforma.h"
-#include "shell/logic/Configurazione.h"
+#include "pannello/logic/Configurazione.h"
+#include "pannello/logic/Versione.h"
 #include "shell/logic/Numeri.h"
-#include "shell/logic/Versione.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
-#include "shell/forms/MsgForm.h"
+#include "shell/host/MsgForm.h"
 
 using namespace Qt::Literals::StringLiterals;
 

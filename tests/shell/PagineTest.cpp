@@ -1,7 +1,8 @@
 // The panel's own pages: resolutions, position, client.
+#include "Composizione.h"
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
-#include "shell/forms/SplasModule.h"
+#include "pannello/forms/SplasModule.h"
 
 #include <QRadioButton>
 #include <QTest>
@@ -16,7 +17,7 @@ namespace {
 struct Pagine : testing::Test {
     InstallazioneProva prova;
     Guida guida;
-    SplasModule pannello{prova.ambiente, {}, QUrl(u"https://www.zuvora.example/"_s)};
+    SplasModule pannello{prova.ambiente, vociDelPannello(), QUrl(u"https://www.zuvora.example/"_s)};
     QWidget &apriPagina(const char *bottone, const char *pagina) {
         clicca(pannello, bottone);
         return trova<QWidget>(pannello, pagina);

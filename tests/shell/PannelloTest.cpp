@@ -1,10 +1,10 @@
+#include "Composizione.h"
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
-#include "shell/forms/FormUscita.h"
-#include "shell/forms/MsgForm.h"
-#include "shell/forms/Pagina.h"
-#include "shell/forms/SplasModule.h"
-#include "shell/forms/VociMenu.h"
+#include "pannello/forms/FormUscita.h"
+#include "pannello/forms/SplasModule.h"
+#include "shell/host/MsgForm.h"
+#include "shell/host/Pagina.h"
 
 #include <QRadioButton>
 #include <QTest>
@@ -22,8 +22,8 @@ struct Pannello : testing::Test {
     InstallazioneProva prova;
     Guida guida;
     std::unique_ptr<SplasModule> pannello;
-    SplasModule &apriPannello(Apritori apritori = {}) {
-        pannello = std::make_unique<SplasModule>(prova.ambiente, std::move(apritori), Sito);
+    SplasModule &apriPannello(std::vector<VoceMenu> voci = vociDelPannello()) {
+        pannello = std::make_unique<SplasModule>(prova.ambiente, std::move(voci), Sito);
         pannello->show();
         return *pannello;
     }
@@ -65,19 +65,20 @@ TEST_F(Pannello, TuttoNull) {
     for (const char *nome : SoloPrincipale)
         EXPECT_FALSE(trova<QPushButton>(*pannello, nome).isEnabled()) << nome;
     int attivi = 0;
-    for (const VoceMenu &voce : vociMenu())
+    const auto voci = vociDelPannello();
+    for (const VoceMenu &voce : voci)
         attivi += trova<QPushButton>(*pannello, voce.nome).isEnabled() ? 1 : 0;
-    EXPECT_EQ(attivi, int(vociMenu().size()) - int(std::size(SoloPrincipale)));
+    EXPECT_EQ(attivi, int(voci.size()) - int(std::size(SoloPrincipale)));
 }
 
 TEST_F(Pannello, OgniVoceApreIlSuoESoloChiHaUnTitoloLoCambia) {
     QStringList aperti;
-    Apritori apritori;
-    for (const VoceMenu &voce : vociMenu())
-        apritori.form[voce.nome] = [&, nome = QByteArray(voce.nome)](SplasModule &p) {
-            aperti << QString::fromLatin1(nome) + u'=' + trova<QLabel>(p, "Comando").text();
-        };
-    apriPannello(apritori);
+    auto voci = vociDelPannello();
+    for (VoceMenu &voce : voci)
+        voce.apri = ApriForm([&, nome = QByteArray(voce.nome)](const Apertura &a) {
+            aperti << QString::fromLatin1(nome) + u'=' + trova<QLabel>(*a.padre, "Comando").text();
+        });
+    apriPannello(voci);
     pannello->setComando(u"prima"_s);
     clicca(*pannello, "PB1(7)");
     EXPECT_EQ(testo("Comando"), u"prima"_s);
@@ -114,10 +115,13 @@ TEST_F(Pannello, UnaPaginaAllaVolta) {
 }
 
 TEST_F(Pannello, FunzioneNonAncoraDisponibileLoDice) {
-    apriPannello();
+    auto voci = vociDelPannello();
+    voci.front().apri = std::monostate{};
+    voci.front().soloPrincipale = false;
+    apriPannello(voci);
     QString righe;
     guida.messaggio(&righe);
-    clicca(*pannello, "Command1");
+    clicca(*pannello, voci.front().nome);
     EXPECT_TRUE(righe.startsWith(u"Questa funzione non è ancora disponibile"_s));
 }
 
@@ -126,7 +130,6 @@ TEST_F(Pannello, UscitaNegataLasciaLaPaginaAperta) {
     clicca(*pannello, "Position");
     guida.premi("FormUscita", "cbt(1)");
     clicca(*pannello, "PB1(0)");
-    EXPECT_EQ(prova.valori.RispostaUscita, RispostaResta);
     guida.quando("FormUscita", [](QWidget &form) {
         EXPECT_TRUE(didascalieTagliate(form).isEmpty());
         EXPECT_TRUE(campiSenzaNome(form).isEmpty()) << campiSenzaNome(form).join(u' ').toStdString();
@@ -146,7 +149,6 @@ TEST_F(Pannello, UscitaConfermataChiudeLeAltreForm) {
     altra.show();
     guida.premi("FormUscita", "cbt(0)");
     clicca(*pannello, "PB1(0)");
-    EXPECT_EQ(prova.valori.RispostaUscita, RispostaEsci);
     EXPECT_FALSE(pannello->isVisible());
     EXPECT_FALSE(altra.isVisible());
 }
@@ -211,15 +213,15 @@ TEST(Messaggi, RigheERisposte) {
         QString riga1;
         bool domanda;
         int bottone; // -1: closed by the frame
-        int risposta;
+        bool confermata;
     } casi[] = {
-        {QString(), false, 0, RispostaResta},
-        {u"seconda riga"_s, true, 1, RispostaConferma},
-        {u"seconda riga"_s, true, 0, RispostaResta},
+        {QString(), false, 0, false},
+        {u"seconda riga"_s, true, 1, true},
+        {u"seconda riga"_s, true, 0, false},
         {u"Il database «Zuvora.mdb» è bloccato da un altro programma: la riga 37 di 70 non è stata scritta. Chiudere "
          u"l'altro programma e salvare di nuovo."_s,
-         true, 0, RispostaResta},
-        {QString(), true, -1, RispostaResta}};
+         true, 0, false},
+        {QString(), true, -1, false}};
     for (const auto &caso : casi) {
         Guida guida;
         guida.quando("MsgForm", [&](QWidget &form) {
@@ -235,11 +237,10 @@ TEST(Messaggi, RigheERisposte) {
         });
         if (caso.domanda) {
             EXPECT_EQ(chiediConferma(prova.ambiente, nullptr, u"Cancello voce selezionata ?"_s, caso.riga1),
-                      caso.risposta == RispostaConferma);
+                      caso.confermata);
         } else {
             mostraMessaggio(prova.ambiente, nullptr, u"Salvataggio effettuato !"_s, caso.riga1);
         }
-        EXPECT_EQ(prova.valori.RispostaMessaggio, caso.risposta);
     }
 }
 

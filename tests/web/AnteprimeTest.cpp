@@ -1,8 +1,8 @@
 // The two forms that show a page, driven with the real component and without it.
+#include "content/forms/P1.h"
 #include "designer/forms/AnteprimaTGOnline.h"
 #include "kit/FintiDialoghi.h"
 #include "kit/Guida.h"
-#include "shell/forms/P1.h"
 #include "web/FinestraWeb.h"
 #include "web/ServerProva.h"
 

@@ -1,7 +1,5 @@
 #include "designer/forms/AnteprimaTGOnline.h"
 
-#include "shell/forms/MsgForm.h"
-
 #include <QResizeEvent>
 #include <QScreen>
 #include <cmath>
@@ -92,7 +90,7 @@ void AnteprimaTGOnline::accetta() {
         return;
     }
     const Messaggio rifiuto = AnteprimaTG::rifiuto();
-    mostraMessaggio(ambiente(), this, rifiuto.riga0, rifiuto.riga1);
+    avvisa(rifiuto.riga0, rifiuto.riga1);
 }
 
 } // namespace zuvora

@@ -4,7 +4,6 @@
 #include "designer/logic/Classi.h"
 #include "designer/logic/ImmaginiQt.h"
 #include "designer/logic/ScritturaLayout.h"
-#include "shell/forms/MsgForm.h"
 #include "shell/host/Dialoghi.h"
 #include "shell/host/Piattaforma.h"
 
@@ -211,7 +210,7 @@ void Form1::SalvaPosizioneFinestra() {
 }
 
 void Form1::mostra(const Messaggio &messaggio) {
-    mostraMessaggio(ambiente(), this, messaggio.riga0, messaggio.riga1);
+    avvisa(messaggio.riga0, messaggio.riga1);
 }
 
 void Form1::nonDisponibile() {

@@ -1,7 +1,7 @@
 #include "designer/logic/Finestra.h"
 
 #include "designer/logic/NumeriSingoli.h"
-#include "shell/logic/Configurazione.h"
+#include "shell/logic/Risoluzioni.h"
 #include "shell/store/Data.h"
 
 namespace zuvora {

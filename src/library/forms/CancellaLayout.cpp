@@ -1,7 +1,6 @@
 #include "library/forms/CancellaLayout.h"
 
 #include "library/logic/CopiaLogica.h"
-#include "shell/forms/MsgForm.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -23,7 +22,7 @@ CancellaLayout::CancellaLayout(const Ambiente &ambiente_, const QString &numero,
 
 void CancellaLayout::conferma() {
     const EsitoCopia esito = RipristinaLayout(cartella(), Label3.Caption());
-    mostraMessaggio(ambiente(), this, esito.messaggio.riga0, esito.messaggio.riga1);
+    avvisa(esito.messaggio.riga0, esito.messaggio.riga1);
     if (esito.completo)
         scarica(); // after a failure the form stays, to try again
 }

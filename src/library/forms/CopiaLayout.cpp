@@ -2,7 +2,6 @@
 
 #include "library/logic/CopiaLogica.h"
 #include "library/logic/SceltaLogica.h"
-#include "shell/forms/MsgForm.h"
 
 namespace zuvora {
 namespace {
@@ -63,7 +62,7 @@ void CopiaLayout::copia() {
     ImpostaSorgente();
     ImpostaDestinazione();
     const EsitoCopia esito = copiaLayout(cartella(), LayoutSorgente, LayoutDestinazione);
-    mostraMessaggio(ambiente(), this, esito.messaggio.riga0, esito.messaggio.riga1);
+    avvisa(esito.messaggio.riga0, esito.messaggio.riga1);
 }
 
 } // namespace zuvora

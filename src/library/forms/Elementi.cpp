@@ -1,11 +1,10 @@
 #include "library/forms/Elementi.h"
 
-#include "library/forms/AnteprimaImmagini.h"
-#include "library/forms/ImmagineIllegibile.h"
-#include "library/logic/CopiaFile.h"
 #include "library/logic/Decorazioni.h"
-#include "shell/forms/MsgForm.h"
+#include "shell/host/AnteprimaImmagini.h"
 #include "shell/host/Dialoghi.h"
+#include "shell/host/ImmagineIllegibile.h"
+#include "shell/logic/CopiaFile.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -53,15 +52,15 @@ void Elementi::elimina() {
     if (grid.Rows() == 0)
         return;
     if (ePreimpostata(Data1.Recordset()[u"ID"].Value())) {
-        mostraMessaggio(ambiente(), this, u"Impossibile cancellare Immagini"_s, u"preimpostate nel software !"_s);
+        avvisa(u"Impossibile cancellare Immagini"_s, u"preimpostate nel software !"_s);
         return;
     }
-    if (!chiediConferma(ambiente(), this, u"Cancello immagine evidenziata ?"_s))
+    if (!conferma(u"Cancello immagine evidenziata ?"_s))
         return;
     Data1.Recordset().Delete();
     Data1.Refresh();
     mostraRiga();
-    mostraMessaggio(ambiente(), this, u"Immagine cancellata !"_s);
+    avvisa(u"Immagine cancellata !"_s);
 }
 
 void Elementi::aggiungi() {
@@ -74,16 +73,15 @@ void Elementi::aggiungi() {
         return;
     // Asked before anything is written: a no leaves neither a row nor a changed file.
     const Incontro incontro = incontroCopia(origine, CartellaDestinazione);
-    if (incontro == Incontro::Diverso &&
-        !chiediConferma(ambiente(), this, u"Il file esiste già nella cartella."_s, u"Sostituirlo ?"_s))
+    if (incontro == Incontro::Diverso && !conferma(u"Il file esiste già nella cartella."_s, u"Sostituirlo ?"_s))
         return;
     const Valore ID = aggiungiDecorazione(Data1.Recordset(), nome, TipoCategoria);
     const QString guasto = incontro == Incontro::LoStesso ? QString() : copiaFile(origine, CartellaDestinazione);
     mostraAggiunta(ID);
     if (guasto.isEmpty())
-        mostraMessaggio(ambiente(), this, u"Memorizzazione e Copia effettuate !"_s);
+        avvisa(u"Memorizzazione e Copia effettuate !"_s);
     else
-        mostraMessaggio(ambiente(), this, u"Controllare la procedura ed eseguirla nuovamente !"_s, guasto);
+        avvisa(u"Controllare la procedura ed eseguirla nuovamente !"_s, guasto);
 }
 
 void Elementi::mostraAggiunta(const Valore &ID) {

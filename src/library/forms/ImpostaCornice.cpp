@@ -1,8 +1,8 @@
 #include "library/forms/ImpostaCornice.h"
 
-#include "library/forms/ImmagineIllegibile.h"
 #include "library/logic/Decorazioni.h"
-#include "shell/forms/MsgForm.h"
+#include "shell/host/ImmagineIllegibile.h"
+#include "shell/host/MsgForm.h"
 
 using namespace Qt::Literals::StringLiterals;
 

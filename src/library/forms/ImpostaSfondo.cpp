@@ -1,8 +1,7 @@
 #include "library/forms/ImpostaSfondo.h"
 
-#include "library/forms/ImmagineIllegibile.h"
 #include "library/logic/Sfondi.h"
-#include "shell/forms/MsgForm.h"
+#include "shell/host/ImmagineIllegibile.h"
 #include "shell/host/Piattaforma.h"
 
 #include <QDir>
@@ -45,7 +44,7 @@ void ImpostaSfondo::cambiaDisco() {
     if (Dir1.setPath(Drive1.Drive()))
         return;
     Drive1.setDrive(Dir1.Path());
-    mostraMessaggio(ambiente(), this, u"Il disco scelto non è disponibile !"_s);
+    avvisa(u"Il disco scelto non è disponibile !"_s);
 }
 
 void ImpostaSfondo::cambiaCartella() {
@@ -72,16 +71,14 @@ void ImpostaSfondo::imposta() {
     const QString risultato =
         totem ? percorsoDiRete(SfondoScelto, ambiente().piattaforma.nomeMacchina()) : SfondoScelto;
     if (!m_uso.imposta(risultato))
-        mostraMessaggio(ambiente(), this, u"Impossibile caricare l'immagine scelta !"_s,
-                        u"Lo sfondo resta quello di prima."_s);
+        avvisa(u"Impossibile caricare l'immagine scelta !"_s, u"Lo sfondo resta quello di prima."_s);
 }
 
 void ImpostaSfondo::elimina() {
     if (m_uso.elimina)
         m_uso.elimina();
     else
-        mostraMessaggio(ambiente(), this, u"Nessun Layout aperto: lo sfondo del Totem"_s,
-                        u"si elimina dalla sua schermata."_s);
+        avvisa(u"Nessun Layout aperto: lo sfondo del Totem"_s, u"si elimina dalla sua schermata."_s);
 }
 
 void apriSfondoLayout(const Ambiente &ambiente, const UsoSfondo &uso, QWidget *padre) {

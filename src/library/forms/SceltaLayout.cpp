@@ -3,7 +3,6 @@
 #include "library/forms/CancellaLayout.h"
 #include "library/forms/CopiaLayout.h"
 #include "shell/disegni/Disegni.h"
-#include "shell/forms/MsgForm.h"
 #include "shell/host/Dialoghi.h"
 
 #include <QTimer>
@@ -150,7 +149,7 @@ void SceltaLayout::carica() {
 }
 
 void SceltaLayout::mostra(const Messaggio &messaggio) {
-    mostraMessaggio(ambiente(), this, messaggio.riga0, messaggio.riga1);
+    avvisa(messaggio.riga0, messaggio.riga1);
 }
 
 } // namespace zuvora

@@ -1,16 +1,10 @@
 #include "shell/host/Form.h"
 
-#include "shell/host/Dialoghi.h"
-#include "shell/store/EngineError.h"
-
 #include <QAbstractItemView>
 #include <QCloseEvent>
 #include <QPlainTextEdit>
 #include <limits>
-#include <new>
 #include <utility>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 namespace {
@@ -60,7 +54,8 @@ void nominaCampi(QWidget *form) {
 }
 
 Form::Form(const Ambiente &ambiente, const char *nome, const char *didascalia, const Misura &interno, QWidget *padre)
-    : QDialog(padre, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint), m_ambiente(ambiente) {
+    : QDialog(padre, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      Schermata(ambiente, static_cast<QWidget &>(*this)) {
     setObjectName(QString::fromUtf8(nome));
     setWindowTitle(QString::fromUtf8(didascalia));
     setMisuraInterna(interno);
@@ -113,22 +108,6 @@ void Form::showEvent(QShowEvent *e) {
     m_attiva = true;
     nominaCampi(this);
     proteggi([this] { attivata(); });
-}
-
-void Form::segnalaErrore() {
-    QString testo;
-    try {
-        throw;
-    } catch (const EngineError &e) {
-        testo = e.frase();
-        if (!e.dettaglio().isEmpty())
-            testo += u"\n\n(Errore %1: %2)"_s.arg(e.Number()).arg(e.dettaglio());
-    } catch (const std::bad_alloc &) {
-        testo = u"Memoria insufficiente: l'operazione non è stata eseguita."_s;
-    } catch (const std::exception &e) {
-        testo = u"L'operazione non è stata completata.\n\n(%1)"_s.arg(QString::fromUtf8(e.what()));
-    }
-    m_ambiente.dialoghi.messaggio(this, Dialoghi::Icona::Critica, u"Zuvora-Messaggio"_s, testo);
 }
 
 } // namespace zuvora

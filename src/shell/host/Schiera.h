@@ -8,6 +8,8 @@
 #include <stdexcept>
 #include <vector>
 
+class QWidget;
+
 namespace zuvora {
 
 // A control array: controls of one name that are told apart by an index. Indices may have gaps. One handler serves all

@@ -1,0 +1,30 @@
+#include "pannello/forms/AAAggiorna.h"
+
+#include "pannello/logic/Versione.h"
+
+namespace zuvora {
+
+AAAggiorna::AAAggiorna(const Ambiente &ambiente_, const QString &versione, QWidget *padre)
+    : Form(ambiente_, "AAAggiorna", "Aggiornamento software  -  Zuvora", {5775, 3210}, padre),
+      text1("text1", 0, 0, [this](int, const char *nome) {
+          return std::make_unique<Edit>(this, nome, Posto{3240, 795, 975, 285}, "3.0.0");
+      }) {
+    QFont titolo = font();
+    titolo.setPointSizeF(12);
+    titolo.setBold(true);
+    Label3(0).setFontBase(titolo);
+    text1(0).setText(versione);
+    text1(0).setReadOnly(true);
+    alClic(command1(0), [this] { aggiorna(); });
+    alClic(command1(5), [this] { scarica(); });
+}
+
+void AAAggiorna::aggiorna() {
+    if (!versioneConosciuta(text1(0).text()))
+        return;
+    AggiornaArchivio(cartella());
+    scriviVersioneCorrente(Data1, cartella());
+    scarica();
+}
+
+} // namespace zuvora

@@ -1,0 +1,55 @@
+#include "pannello/forms/PaginaClient.h"
+
+#include "pannello/logic/Configurazione.h"
+#include "shell/host/Piattaforma.h"
+#include "shell/logic/Numeri.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr int Altezza = 4335;
+constexpr int TopAperta = 1680;
+
+} // namespace
+
+PaginaClient::PaginaClient(const Apertura &apertura) : Pagina(apertura, "BoxImpostazioni(1)", Altezza, TopAperta) {
+    ipS1.setAccessibleName(u"Indirizzo del server"_s);
+    LaPorta.setAccessibleName(u"Porta di ascolto del server"_s);
+    NameS1.setAccessibleName(u"Nome della macchina del server"_s);
+    for (Edit *campo : {&ipS1, &LaPorta, &NameS1})
+        campo->setToolTip(campo->accessibleName());
+    LaPorta.setFiltro(soloCifre);
+    alClic(SaveIP, [this] { salva(); });
+    PaginaClient::applicaPrincipale(apertura.principale);
+}
+
+void PaginaClient::applicaPrincipale(bool principale) {
+    GroupBox1.setVisible(principale);
+    SaveIP.setVisible(principale);
+}
+
+void PaginaClient::riempi() {
+    const DatiServer server = leggiDatiServer(Data99, cartella());
+    LaPorta.setText(server.porta);
+    (server.tipo == TipoChiamata::Automatica ? XZ_0 : XZ_1).setChecked(true);
+    const Piattaforma &piattaforma = ambiente().piattaforma;
+    ipS1.setText(piattaforma.indirizzoLocale());
+    NameS1.setText(piattaforma.nomeMacchina());
+}
+
+void PaginaClient::salva() {
+    if (!eNumerico(LaPorta.text())) {
+        avvisa(u"Inserire porta di ascolto Server !"_s);
+        return;
+    }
+    DatiServer server{ipS1.text(), NameS1.text(), LaPorta.text(), std::nullopt};
+    if (XZ_0.isChecked())
+        server.tipo = TipoChiamata::Automatica;
+    if (XZ_1.isChecked())
+        server.tipo = TipoChiamata::Selettiva;
+    salvaDatiServer(Data99, cartella(), server);
+}
+
+} // namespace zuvora

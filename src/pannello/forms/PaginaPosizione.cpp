@@ -1,0 +1,38 @@
+#include "pannello/forms/PaginaPosizione.h"
+
+#include "shell/host/Piattaforma.h"
+
+namespace zuvora {
+namespace {
+
+constexpr int LeftPrimo = 840;
+constexpr int LeftSecondo = 3600;
+
+} // namespace
+
+PaginaPosizione::PaginaPosizione(const Apertura &apertura) : Pagina(apertura, "BoxImpostazioni(4)") {
+    QFont cifra = font();
+    cifra.setPointSizeF(16);
+    cifra.setBold(true);
+    for (Label *numero : {&Label1_4, &Label1_3}) {
+        numero->setFontBase(cifra);
+        numero->setAlignment(Qt::AlignCenter);
+    }
+    alClic(PosSchermo, [this](int indice) { scegli(indice == 0 ? Schermo::Primo : Schermo::Secondo); });
+}
+
+void PaginaPosizione::riempi() {
+    segna(leggiSchermo(Data99, cartella()));
+}
+
+void PaginaPosizione::scegli(Schermo schermo) {
+    const int larghezza = twipsDa(ambiente().piattaforma.schermo().width());
+    salvaSchermo(Data99, cartella(), schermo, larghezza);
+    segna(schermo);
+}
+
+void PaginaPosizione::segna(Schermo schermo) {
+    Image4.setLeft(schermo == Schermo::Primo ? LeftPrimo : LeftSecondo);
+}
+
+} // namespace zuvora

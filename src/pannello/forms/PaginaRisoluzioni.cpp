@@ -1,0 +1,65 @@
+#include "pannello/forms/PaginaRisoluzioni.h"
+
+#include "pannello/logic/Configurazione.h"
+#include "shell/host/Piattaforma.h"
+#include "shell/logic/Risoluzioni.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr Posto PostiRB1[] = {
+    {1440, 720, 3000, 255}, {1440, 960, 3000, 255}, {1440, 1200, 3000, 255}, {1440, 1440, 3480, 255}};
+constexpr int LeftUnMonitor = 1680;
+constexpr int LeftPrimo = 600;
+constexpr int LeftSecondo = 2760;
+
+QString misureDi(const clsMonitor &m) {
+    return QString::number(m.Width) + u" x "_s + QString::number(m.Height);
+}
+
+} // namespace
+
+PaginaRisoluzioni::PaginaRisoluzioni(const Apertura &apertura)
+    : Pagina(apertura, "BoxImpostazioni(0)"), m_scelta(apertura.cambiaRisoluzione), m_risoluzione(apertura.risoluzione),
+      RB1("RB1", 0, int(Risoluzioni.size()) - 1, [this](int i, const char *nome) {
+          const QByteArray didascalia = Risoluzioni[std::size_t(i)].didascalia.toUtf8();
+          return std::make_unique<RadioButton>(this, nome, didascalia.constData(), PostiRB1[i]);
+      }) {
+    if (m_risoluzione > 0)
+        RB1(m_risoluzione - 1).setChecked(true);
+    alClic(RB1, [this](int indice) { scegli(indice); });
+}
+
+void PaginaRisoluzioni::scegli(int indice) {
+    try {
+        salvaRisoluzione(Data1, cartella(), indice + 1);
+    } catch (...) {
+        // The buttons go on showing what is stored. Only an auto-exclusive group of none can't be shown again.
+        if (m_risoluzione > 0)
+            RB1(m_risoluzione - 1).setChecked(true);
+        throw;
+    }
+    m_risoluzione = indice + 1;
+    m_scelta(m_risoluzione);
+}
+
+void PaginaRisoluzioni::riempi() {
+    const clsMonitors elenco(ambiente().piattaforma.monitor());
+    const auto &monitors = elenco.Monitors();
+    const bool uno = monitors.size() == 1;
+    QMonitor.setCaption(QString::number(monitors.size()));
+    Image2.setLeft(uno ? LeftUnMonitor : LeftPrimo);
+    Image3.setLeft(uno ? LeftUnMonitor : LeftSecondo);
+    const bool due = monitors.size() == 2;
+    // With three or more monitors the two lines can't name them all: they stay empty.
+    RisM1.setCaption(uno || due ? misureDi(monitors[0]) : QString());
+    L1.setCaption(uno || due ? QString::number(monitors[0].left) : QString());
+    RisM2.setCaption(due ? misureDi(monitors[1]) : QString());
+    L2.setCaption(due ? QString::number(monitors[1].left) : QString());
+    for (Label *seconda : {&Label7(2), &RisM2, &L2})
+        seconda->setVisible(!uno);
+}
+
+} // namespace zuvora
