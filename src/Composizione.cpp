@@ -1,5 +1,7 @@
 #include "Composizione.h"
 
+#include "calling/forms/GruppoPostazioni.h"
+#include "calling/forms/UtentiServizi.h"
 #include "library/forms/ApriTela.h"
 #include "library/forms/Elementi.h"
 #include "library/forms/SceltaLayout.h"
@@ -23,6 +25,15 @@ void mostraSceltaLayout(const Apertura &a) {
 }
 const ApriForm sceltaLayout = mostraSceltaLayout;
 
+// The types of the workstations stand on the page of the server's data, below them.
+std::unique_ptr<Pagina> creaPaginaClient(const Apertura &a) {
+    auto pagina = std::make_unique<PaginaClient>(a);
+    auto postazioni = std::make_unique<GruppoPostazioni>(*pagina);
+    postazioni.release(); // the page's from here on
+    return pagina;
+}
+const ApriPagina paginaClient = creaPaginaClient;
+
 constexpr bool soloPrincipale = true;
 constexpr bool tutte = false;
 constexpr auto invariato = std::nullopt; // the title stays as it was
@@ -32,10 +43,10 @@ constexpr std::monostate nulla;
 
 std::vector<VoceMenu> vociDelPannello() {
     return {
-        {"PB1(2)", 720, "  Gestione Servizi", invariato, soloPrincipale, nulla},
+        {"PB1(2)", 720, "  Gestione Servizi", invariato, soloPrincipale, form<UtentiServizi>},
         {"PB1(9)", 1080, "  &Risoluzione Video (monitor/TV)", u"Risoluzione Video (Monitor/TV)", tutte,
          pagina<PaginaRisoluzioni>},
-        {"PB1(10)", 1440, "  Impostazione Clie&nt", u"Modalità Client", tutte, pagina<PaginaClient>},
+        {"PB1(10)", 1440, "  Impostazione Clie&nt", u"Modalità Client", tutte, paginaClient},
         {"PB1(7)", 1800, "  Gestione Layout FrontEnd", invariato, tutte, sceltaLayout},
         {"PushButton1", 2160, "  DinDon", u"Gestione Din Don", tutte, nulla},
         {"Position", 2520, "  Posizione", u"Posizione Schermi", tutte, pagina<PaginaPosizione>},

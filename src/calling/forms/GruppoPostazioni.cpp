@@ -32,7 +32,7 @@ struct GruppoPostazioni::Linea {
               const bool primo = Index % 2 == 0;
               auto bottone = std::make_unique<RadioButton>(padre, nomeTipo, primo ? "SG" : "ST",
                                                            nelBlocco(postazione, primo ? 1260 : 1860, 570));
-              bottone->setAccessibleName(nome + u", " + bottone->text());
+              bottone->setAccessibleName(nome + u", "_s + bottone->text());
               return bottone;
           }) {}
 
@@ -49,6 +49,8 @@ GruppoPostazioni::GruppoPostazioni(Pagina &pagina)
         m_pagina.quando(linea.gruppo, &GruppoRadio::cambiato, [this](int Index) { imposta(Index); });
     }
 }
+
+GruppoPostazioni::~GruppoPostazioni() = default;
 
 void GruppoPostazioni::showEvent(QShowEvent *e) {
     GroupBox::showEvent(e);

@@ -11,6 +11,7 @@ namespace zuvora {
 class GruppoPostazioni : public GroupBox {
 public:
     explicit GruppoPostazioni(Pagina &pagina);
+    ~GruppoPostazioni() override;
 
 protected:
     void showEvent(QShowEvent *e) override;
