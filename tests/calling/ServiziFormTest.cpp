@@ -111,8 +111,9 @@ TEST_F(ProvaServizi, UnaRigaSiLibera) {
         guida.messaggio(&domanda, risposta);
         clicca(*form, "ctButton2(2)");
         EXPECT_EQ(domanda, u"Cancello voce selezionata ?"_s);
-        if (risposta == 0)
+        if (risposta == 0) {
             EXPECT_EQ(riga(1), prima);
+        }
     }
     EXPECT_EQ(i.righe(u"SELECT ID, Servizio, ServizioAttivo, Percorsofoto FROM Servizi WHERE ID=1"_s),
               i.righe(u"SELECT 1, 'Nessun Servizio', 0, ''"_s));
