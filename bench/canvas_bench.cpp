@@ -58,8 +58,8 @@ DisplayLayout layoutPieno(int visibili) {
         if (e.tipo != TipoElemento::Image1)
             continue;
         e.area.width = e.area.height = 2400;
-        layout.PercorsiDecorazione[std::size_t(e.indice)] = file.at((e.indice * 7) % file.size());
-        layout.impostaPiano(e.indice, e.indice % 2 == 0);
+        e.immagine = file.at((e.indice * 7) % file.size());
+        layout.setPiano(e.indice, e.indice % 2 == 0);
     }
     layout.Label2() = QStringLiteral(ZUVORA_DATI "/ZuvoraSfondiHD/FH_grigio_8post_.jpg");
     return layout;
@@ -106,6 +106,8 @@ void immagini(benchmark::State &stato) {
     for (auto _ : stato) {
         ImmaginiQt nuove;
         for (const LayoutElement &e : layout)
+            nuove.prepara(e.immagine);
+        for (const LayoutElement &e : layout)
             if (!e.immagine.isEmpty())
                 benchmark::DoNotOptimize(nuove.carica(e.immagine));
     }
@@ -124,17 +126,47 @@ void pittura(benchmark::State &stato) {
     }
 }
 
-void apertura(benchmark::State &stato) {
-    Banco banco;
+// Twenty-five photos and a background as people add them, decorations of the size at which a photo stands on a screen.
+void fotografie(const Banco &banco) {
+    QImage foto(1600, 1200, QImage::Format_RGB32);
+    for (int y = 0; y < foto.height(); ++y)
+        for (int x = 0; x < foto.width(); ++x)
+            foto.setPixel(x, y, qRgb(x * y % 251, (x + 3 * y) % 256, (x ^ y) % 256));
+    DisplayLayout layout = layoutPieno(righeLayout);
+    for (LayoutElement &e : layout) {
+        if (e.tipo != TipoElemento::Image1)
+            continue;
+        e.immagine = banco.cartella.filePath(u"%1.jpg"_s.arg(e.indice));
+        e.area.width = 4800;
+        e.area.height = 3600;
+        foto.save(e.immagine, "JPG", 85);
+    }
+    SalvaLayout(layout, banco.cartella.path());
+}
+
+// From the table to the painted form. `fili`: how many threads decode and stretch.
+void apri(benchmark::State &stato, int fili, bool foto) {
+    const Banco banco;
+    if (foto)
+        fotografie(banco);
     for (auto _ : stato) {
         DisplayLayout layout(u"Layout1"_s);
-        ImmaginiQt nuove;
+        ImmaginiQt nuove({1920, 1920}, fili);
         CaricaLayout(layout, nuove, banco.cartella.path());
         Form1 form(banco.ambiente, layout, nuove, {}, dimensioneTela(2), nullptr);
         form.show();
         form.repaint();
         QCoreApplication::processEvents();
     }
+}
+
+template <bool foto> void apertura(benchmark::State &stato) {
+    apri(stato, QThread::idealThreadCount(), foto);
+    stato.counters["limite"] = 0.65;
+}
+
+template <bool foto> void aperturaUnFilo(benchmark::State &stato) {
+    apri(stato, 1, foto);
 }
 
 // Counts the paintings of the outline.
@@ -207,13 +239,16 @@ double minimo(const std::vector<double> &v) {
 }
 
 void comune(benchmark::internal::Benchmark *b) {
-    b->Unit(benchmark::kMillisecond)->Repetitions(5)->ComputeStatistics("min", minimo);
+    b->Unit(benchmark::kMillisecond)->UseRealTime()->Repetitions(5)->ComputeStatistics("min", minimo);
 }
 
 BENCHMARK(righe)->Name("Tela/righe")->Apply(comune);
 BENCHMARK(immagini)->Name("Tela/immagini")->Apply(comune);
 BENCHMARK(pittura)->Name("Tela/pittura")->Apply(comune);
-BENCHMARK(apertura)->Name("Tela/apertura")->Apply(comune);
+BENCHMARK(apertura<false>)->Name("Tela/apertura/nostro")->Apply(comune);
+BENCHMARK(aperturaUnFilo<false>)->Name("Tela/apertura/metro")->Apply(comune);
+BENCHMARK(apertura<true>)->Name("Tela/aperturaFoto/nostro")->Apply(comune);
+BENCHMARK(aperturaUnFilo<true>)->Name("Tela/aperturaFoto/metro")->Apply(comune);
 BENCHMARK(mossa)->Name("Tela/mossa")->Arg(10)->Arg(righeLayout)->Apply(comune);
 BENCHMARK(pannello)->Name("Tela/pannello")->Apply(comune);
 

@@ -4,7 +4,6 @@
 #include "designer/logic/LetturaLayout.h"
 #include "designer/logic/Righe.h"
 #include "designer/logic/ScritturaLayout.h"
-#include "designer/logic/ValoriElemento.h"
 #include "library/logic/CopiaLogica.h"
 
 #include <QFile>
@@ -83,9 +82,8 @@ void cambia(DisplayLayout &layout) {
         e.area.top += 15;
         e.coloreSfondo += 1;
         e.didascalia = QString::number(e.area.top);
+        e.immagine += u'x';
     }
-    for (QString &percorso : layout.PercorsiDecorazione)
-        percorso += u'x';
 }
 
 void salvaNostro(benchmark::State &stato) {

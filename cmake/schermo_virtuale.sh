@@ -19,9 +19,10 @@ for _ in $(seq 100); do
     [ -s "$numeri" ] && break
     sleep 0.1
 done
+[ -s "$numeri" ] || { echo "Lo schermo virtuale (Xvfb) non si avvia." >&2; exit 1; }
 export DISPLAY=":$(cat "$numeri")"
 
-QT_QPA_PLATFORM=xcb "$programma" &
+env -u WAYLAND_DISPLAY QT_QPA_PLATFORM=xcb "$programma" &
 figlio=$!
 finestra=
 for _ in $(seq 150); do

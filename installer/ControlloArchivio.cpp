@@ -1,8 +1,9 @@
 #include "installer/ControlloArchivio.h"
 
+#include "shell/store/EngineError.h"
+
 #include <QFile>
 #include <QFileInfo>
-#include <sqlite3.h>
 
 namespace zuvora::installa {
 using namespace Qt::Literals::StringLiterals;
@@ -31,18 +32,18 @@ QString difettoDelFile(const QString &percorso) {
 
 const QString danneggiato = u"l'archivio è danneggiato: ripristinarlo da una copia"_s;
 
-QString frase(const ErroreSqlite &errore) {
-    if (errore.codice == SQLITE_READONLY_ROLLBACK)
+QString frase(const EngineError &errore) {
+    switch (errore.numero()) {
+    case Errore::SolaLettura:
         return u"una scrittura è rimasta a metà: avviare il programma per ripristinare l'archivio"_s;
-    switch (errore.codice & 0xff) {
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
+    case Errore::GiaAperto:
+    case Errore::Bloccato:
         return u"l'archivio è occupato da un altro programma: chiuderlo e riprovare"_s;
-    case SQLITE_NOTADB:
-    case SQLITE_CORRUPT:
+    case Errore::NonDatabase:
+    case Errore::FileDanneggiato:
         return danneggiato;
     default:
-        return u"l'archivio non si può leggere (%1)"_s.arg(errore.testo);
+        return u"l'archivio non si può leggere (%1)"_s.arg(errore.dettaglio());
     }
 }
 
@@ -67,12 +68,12 @@ bool ControlloArchivio::ha(QLatin1StringView tabella, QLatin1StringView colonna)
     return m_colonne.value(QString(tabella).toLower()).contains(QString(colonna).toLower());
 }
 
-void ControlloArchivio::controlla(const std::function<void(Sqlite &)> &altro) {
+void ControlloArchivio::controlla(const std::function<void(Database &)> &altro) {
     if (!m_db)
         return;
     try {
         altro(*m_db);
-    } catch (const ErroreSqlite &errore) {
+    } catch (const EngineError &errore) {
         segnala(frase(errore));
     }
 }
@@ -84,38 +85,38 @@ void ControlloArchivio::controlla() {
         return;
     }
     try {
-        Sqlite db = Sqlite::solaLettura(m_file);
+        Database db = Database::apriInLettura(m_file);
         if (db.integro())
             m_db.emplace(std::move(db));
         else
             segnala(danneggiato);
-    } catch (const ErroreSqlite &errore) {
+    } catch (const EngineError &errore) {
         segnala(frase(errore));
     }
-    controlla([this](Sqlite &db) {
-        for (const QStringList &tabella : db.leggi(u"SELECT name FROM sqlite_master WHERE type = 'table'"_s))
-            for (const QStringList &colonna : db.leggi(sqlColonne(tabella.first())))
+    controlla([this](Database &db) {
+        for (const QStringList &tabella : db.leggiTesti(u"SELECT name FROM sqlite_master WHERE type = 'table'"_s))
+            for (const QStringList &colonna : db.leggiTesti(sqlColonne(tabella.first())))
                 m_colonne[tabella.first().toLower()] += colonna.first().toLower();
-        Sqlite modello = Sqlite::inMemoria();
-        modello.esegui(schemaDi(m_archivio));
+        Database modello = Database::inMemoria();
+        modello.esegui(QString::fromUtf8(schemaDi(m_archivio)));
         for (const Tabella &tabella : m_archivio.tabelle)
             controllaTabella(tabella, modello);
     });
 }
 
-void ControlloArchivio::controllaTabella(const Tabella &tabella, Sqlite &modello) {
+void ControlloArchivio::controllaTabella(const Tabella &tabella, Database &modello) {
     if (!m_colonne.contains(QString(tabella.nome).toLower())) {
         segnala(u"manca la tabella %1"_s.arg(tabella.nome));
         return;
     }
-    for (const QStringList &colonna : modello.leggi(sqlColonne(QString(tabella.nome))))
+    for (const QStringList &colonna : modello.leggiTesti(sqlColonne(QString(tabella.nome))))
         if (!ha(tabella.nome, QLatin1StringView(colonna.first().toLatin1())))
             segnala(u"nella tabella %1 manca la colonna %2"_s.arg(tabella.nome, colonna.first()));
     controllaRighe(tabella);
 }
 
 void ControlloArchivio::controllaRighe(const Tabella &tabella) {
-    const int righe = m_db->leggi(u"SELECT count(*) FROM [%1]"_s.arg(tabella.nome)).first().first().toInt();
+    const int righe = m_db->leggiTesti(u"SELECT count(*) FROM [%1]"_s.arg(tabella.nome)).first().first().toInt();
     if (righe < tabella.minimo || (tabella.massimo != senzaLimite && righe > tabella.massimo))
         segnala(u"righe della tabella %1: %2 invece di %3"_s.arg(tabella.nome).arg(righe).arg(attese(tabella)));
 }

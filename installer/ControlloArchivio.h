@@ -1,7 +1,7 @@
 #pragma once
 
 #include "installer/Contenuto.h"
-#include "installer/Sqlite.h"
+#include "shell/store/Database.h"
 
 #include <QHash>
 #include <QSet>
@@ -20,21 +20,21 @@ public:
     void controlla();
     // Runs a further check on the open database; not at all when the database can't be read. Failures of the engine
     // become findings.
-    void controlla(const std::function<void(Sqlite &)> &altro);
+    void controlla(const std::function<void(Database &)> &altro);
 
     bool ha(QLatin1StringView tabella, QLatin1StringView colonna) const;
     void segnala(const QString &difetto); // adds a finding on this database
     const QStringList &difetti() const { return m_difetti; }
 
 private:
-    void controllaTabella(const Tabella &tabella, Sqlite &modello);
+    void controllaTabella(const Tabella &tabella, Database &modello);
     void controllaRighe(const Tabella &tabella);
 
     const Archivio &m_archivio;
     QString m_file;
     QStringList m_difetti;
     QHash<QString, QSet<QString>> m_colonne; // by table, all in lower case
-    std::optional<Sqlite> m_db;              // set once the engine's own check has passed
+    std::optional<Database> m_db;            // set once the engine's own check has passed
 };
 
 } // namespace zuvora::installa

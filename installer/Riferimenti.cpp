@@ -36,11 +36,12 @@ QString nativo(const QString &percorso) {
     return QDir::toNativeSeparators(percorso);
 }
 
-void controllaRiferimento(ControlloArchivio &zuvora, Sqlite &db, const Riferimento &r) {
+void controllaRiferimento(ControlloArchivio &zuvora, Database &db, const Riferimento &r) {
     if (!zuvora.ha(r.tabella, r.colonna))
         return;
     int riga = 0;
-    for (const QStringList &valori : db.leggi(u"SELECT [%1] FROM [%2] ORDER BY rowid"_s.arg(r.colonna, r.tabella))) {
+    for (const QStringList &valori :
+         db.leggiTesti(u"SELECT [%1] FROM [%2] ORDER BY rowid"_s.arg(r.colonna, r.tabella))) {
         ++riga;
         const QString &valore = valori.first();
         if (valore.isEmpty() || valore == nessunoSfondo)
@@ -54,7 +55,7 @@ void controllaRiferimento(ControlloArchivio &zuvora, Sqlite &db, const Riferimen
 }
 
 // The pictures of the product can't be removed from the catalogue, and the user's rows begin behind them.
-void controllaPredefinite(ControlloArchivio &zuvora, Sqlite &db, const QSet<QString> &presenti) {
+void controllaPredefinite(ControlloArchivio &zuvora, Database &db, const QSet<QString> &presenti) {
     const Csv csv = leggiCsv(righeDi("Decorazioni"_L1), u"Decorazioni"_s);
     qsizetype mancanti = 0;
     for (const QStringList &riga : csv.righe)
@@ -63,17 +64,18 @@ void controllaPredefinite(ControlloArchivio &zuvora, Sqlite &db, const QSet<QStr
         zuvora.segnala(u"tabella Decorazioni: immagini preimpostate mancanti: %1"_s.arg(mancanti));
     if (!zuvora.ha("sqlite_sequence"_L1, "seq"_L1))
         return;
-    const QList<QStringList> ultima = db.leggi(u"SELECT max(seq) FROM sqlite_sequence WHERE name = 'Decorazioni'"_s);
+    const QList<QStringList> ultima =
+        db.leggiTesti(u"SELECT max(seq) FROM sqlite_sequence WHERE name = 'Decorazioni'"_s);
     if (ultima.first().first().toInt() < ultimaDecorazione)
         zuvora.segnala(
             u"tabella Decorazioni: le immagini aggiunte non inizierebbero da %1"_s.arg(ultimaDecorazione + 1));
 }
 
-void controllaCatalogo(ControlloArchivio &zuvora, Sqlite &db, const QString &cartella) {
+void controllaCatalogo(ControlloArchivio &zuvora, Database &db, const QString &cartella) {
     if (!zuvora.ha("Decorazioni"_L1, "File"_L1) || !zuvora.ha("Decorazioni"_L1, "Tipo"_L1))
         return;
     QSet<QString> presenti;
-    for (const QStringList &riga : db.leggi(u"SELECT ID, File, Tipo FROM Decorazioni ORDER BY ID"_s)) {
+    for (const QStringList &riga : db.leggiTesti(u"SELECT ID, File, Tipo FROM Decorazioni ORDER BY ID"_s)) {
         presenti += riga.at(0);
         const QLatin1StringView categoria = cartellaDecorazioni(riga.at(2).toInt());
         const QString file = u"%1/ZuvoraDecorazioni/%2/%3"_s.arg(cartella, categoria, riga.at(1));
@@ -86,14 +88,14 @@ void controllaCatalogo(ControlloArchivio &zuvora, Sqlite &db, const QString &car
 }
 
 // The folder of the kiosk as the row has it; empty when it is not set.
-QString percorsoTotem(Sqlite &db) {
-    const QList<QStringList> righe = db.leggi(u"SELECT PercorsoReteTotem FROM ConfigurazioneTotem LIMIT 1"_s);
+QString percorsoTotem(Database &db) {
+    const QList<QStringList> righe = db.leggiTesti(u"SELECT PercorsoReteTotem FROM ConfigurazioneTotem LIMIT 1"_s);
     return righe.isEmpty() ? QString() : righe.first().first();
 }
 } // namespace
 
 void controllaRiferimenti(ControlloArchivio &zuvora, const QString &cartella) {
-    zuvora.controlla([&](Sqlite &db) {
+    zuvora.controlla([&](Database &db) {
         for (const Riferimento &r : riferimenti)
             controllaRiferimento(zuvora, db, r);
         for (const Tabella &layout : archivioZuvora.tabelle)
@@ -105,7 +107,7 @@ void controllaRiferimenti(ControlloArchivio &zuvora, const QString &cartella) {
 std::optional<QString> cartellaTotem(ControlloArchivio &zuvora, const QString &cartella) {
     QString percorso = nativo(cartella + u"/Totem"_s);
     if (zuvora.ha("ConfigurazioneTotem"_L1, "PercorsoReteTotem"_L1))
-        zuvora.controlla([&](Sqlite &db) { percorso = percorsoTotem(db); });
+        zuvora.controlla([&](Database &db) { percorso = percorsoTotem(db); });
     if (percorso.isEmpty()) {
         zuvora.segnala(u"il percorso di rete del totem non è impostato"_s);
         return std::nullopt;

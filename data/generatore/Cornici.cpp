@@ -50,8 +50,8 @@ std::vector<Serie> serie() {
 
 Disegni cornici() {
     Disegni esito;
-    // The picture a free slot shows: its name is part of the installation.
-    esito.push_back({u"stondata.gif"_s, [] { return cornice(&stondata, Tinta::Blu); }});
+    // The picture a free slot shows: its name is part of the installation. Kept as it is, not drawn here.
+    esito.push_back({u"stondata.gif"_s, {}});
     for (const Serie &s : serie())
         for (const Tinta tinta : s.tinte)
             esito.push_back({u"cornice_%1_%2.png"_s.arg(tono(tinta).femminile, s.nome),

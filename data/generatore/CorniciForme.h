@@ -33,6 +33,5 @@ void intestata(QPainter &p, const Tono &t);
 void quadro(QPainter &p, const Tono &t);
 void luminosa(QPainter &p, const Tono &t);
 void schermo(QPainter &p, const Tono &t);
-void stondata(QPainter &p, const Tono &t);
 
 } // namespace zuvora::disegna

@@ -152,13 +152,4 @@ void schermo(QPainter &p, const Tono &t) {
     p.fillPath(tracciato(u"R 250 425 32 6 3 R 318 425 32 6 3"), velato(bianco, 0.18));
 }
 
-void stondata(QPainter &p, const Tono &t) {
-    // No half-transparent edge in this one: a GIF pixel is there or not.
-    const QRectF fuori = foglioCornice;
-    p.fillPath(anello(fuori, 54, 8), QColor{t.scuro});
-    p.fillPath(anello(rientrato(fuori, 3), 51, 24), sfumato(fuori, misto(t.base, bianco, 0.35), t.base));
-    p.fillPath(anello(rientrato(fuori, 7), 47, 4), misto(t.base, bianco, 0.55));
-    p.fillPath(anello(rientrato(fuori, 24), 30, 6), QColor{bianco});
-}
-
 } // namespace zuvora::disegna

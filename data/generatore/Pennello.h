@@ -15,7 +15,7 @@ namespace zuvora::disegna {
 // One picture of the catalogue: file name with extension, and who paints it.
 struct Disegno {
     QString file;
-    std::function<QImage()> dipingi;
+    std::function<QImage()> dipingi; // none: the file is there already and stays
 };
 using Disegni = std::vector<Disegno>;
 

@@ -1,6 +1,5 @@
 // zuvora-disegna: draws the picture catalogue and writes its list.
 #include "Catalogo.h"
-#include "Gif.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -22,8 +21,6 @@ using namespace zuvora::disegna;
 }
 
 QByteArray codificata(const QString &file, const QImage &immagine) {
-    if (file.endsWith(u".gif"_s))
-        return gif(immagine);
     const bool foto = file.endsWith(u".jpg"_s);
     QByteArray dati;
     QBuffer buffer{&dati};
@@ -47,7 +44,8 @@ void scriviTutti(const Disegni &disegni, const QString &cartella) {
     if (!QDir{}.mkpath(cartella))
         fallisci(u"%1: cartella non creata"_s.arg(cartella));
     for (const Disegno &d : disegni)
-        scrivi(cartella + u'/' + d.file, codificata(d.file, d.dipingi()));
+        if (d.dipingi)
+            scrivi(cartella + u'/' + d.file, codificata(d.file, d.dipingi()));
 }
 
 struct Categoria {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "designer/logic/CaricatoreImmagini.h"
 #include "designer/logic/DisplayLayout.h"
+#include "designer/logic/ImmaginiQt.h"
 #include "shell/store/Data.h"
 
 #include <QFile>

@@ -56,8 +56,8 @@ TEST(CRect, RoundsEachEdgeToTheNearestPixel) {
 
 TEST(CRect, WidthAndHeightMoveTheFarEdge) {
     CRect r(10, 20, 30, 40);
-    r.Width(-4);
-    r.Height(7);
+    r.setWidth(-4);
+    r.setHeight(7);
     EXPECT_EQ(r, CRect(10, 20, 6, 27));
     EXPECT_EQ(r.Width(), -4);
 }
@@ -85,7 +85,7 @@ TEST(CRect, ExtremeEdgesStayWithin32Bits) {
     CRect r(minimo, massimo, massimo, minimo);
     EXPECT_EQ(r.Width(), massimo);
     EXPECT_EQ(r.Height(), minimo);
-    r.Width(massimo);
+    r.setWidth(massimo);
     EXPECT_EQ(r.right(), -1);
     Finto ctl;
     ctl.Move(1e300, -1e300, 1e300, 5);
@@ -98,7 +98,7 @@ TEST(CRect, ExtremeEdgesStayWithin32Bits) {
 }
 
 TEST(Maniglie, StandOnTheEdgesHalfAPixelInside) {
-    const auto posti = postiManiglie(CRect(1500, 3000, 2505, 3601));
+    const auto posti = postiManiglie(CRect(1500, 3000, 2505, 3601), 15);
     // 75 twips a side: half is 37; half a pixel is 8 twips; 1005 / 2 is 502, 601 / 2 is 300.
     constexpr std::array<PostoManiglia, numeroManiglie> attesi{{{1471, 2971},
                                                                 {1965, 2971},
@@ -111,16 +111,11 @@ TEST(Maniglie, StandOnTheEdgesHalfAPixelInside) {
     EXPECT_EQ(posti, attesi);
 }
 
-TEST(Maniglie, HitTestFindsEachHandleAndNothingBetween) {
-    const CRect r(1500, 3000, 3000, 4500);
-    const auto posti = postiManiglie(r);
-    for (int i = 0; i < numeroManiglie; ++i) {
-        const auto &p = posti[static_cast<std::size_t>(i)];
-        EXPECT_EQ(manigliaSotto(r, p.left, p.top), i);
-        EXPECT_EQ(manigliaSotto(r, p.left + 74, p.top + 74), i);
-        EXPECT_EQ(manigliaSotto(r, p.left + 75, p.top), -1) << i;
-    }
-    EXPECT_EQ(manigliaSotto(r, 2250, 3750), -1);
+TEST(Maniglie, ReactFurtherThanTheyShowButNotOverASmallElement) {
+    EXPECT_EQ(ampiezzaPresa(400), 11);
+    EXPECT_EQ(ampiezzaPresa(33), 11);
+    EXPECT_EQ(ampiezzaPresa(24), 8);
+    EXPECT_EQ(ampiezzaPresa(0), 5);
 }
 
 } // namespace

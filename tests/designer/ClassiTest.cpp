@@ -30,15 +30,15 @@ protected:
 };
 
 TEST_F(Proprieta, ClassGetsTheStyleAndNoOtherElementDoes) {
-    const std::vector<std::pair<QString, QStringList>> casi{
-        {u"Numeri"_s, ogniTre(0)},      {u"Postazione"_s, ogniTre(1)},         {u"Servizio"_s, ogniTre(2)},
-        {u"Titolo"_s, {u"Text9(0)"_s}}, {u"SottoTitolo"_s, {u"Text9(1)"_s}},   {u"Data"_s, {u"Text9(2)"_s}},
-        {u"Orario"_s, {u"Text9(3)"_s}}, {u"Testo Scorrevole"_s, {u"Text2"_s}},
+    const std::vector<std::pair<Classe, QStringList>> casi{
+        {Classe::Numeri, ogniTre(0)},      {Classe::Postazione, ogniTre(1)},        {Classe::Servizio, ogniTre(2)},
+        {Classe::Titolo, {u"Text9(0)"_s}}, {Classe::SottoTitolo, {u"Text9(1)"_s}},  {Classe::Data, {u"Text9(2)"_s}},
+        {Classe::Orario, {u"Text9(3)"_s}}, {Classe::TestoScorrevole, {u"Text2"_s}},
     };
-    for (const auto &[titolo, elementi] : casi) {
-        SCOPED_TRACE(titolo.toStdString());
+    for (const auto &[classe, elementi] : casi) {
+        SCOPED_TRACE(elementi.last().toStdString());
         layout = DisplayLayout(u"Layout1"_s);
-        ASSERT_TRUE(applicaClasse(layout, *classeDaTitolo(titolo), campi));
+        ASSERT_TRUE(applicaClasse(layout, classe, campi));
         EXPECT_EQ(cambiati(), elementi);
         const LayoutElement &e = layout[DisplayLayout::postoDi(elementi.last())];
         EXPECT_EQ(e.font, (Carattere{u"Courier"_s, 14.5, true, true}));
@@ -47,7 +47,7 @@ TEST_F(Proprieta, ClassGetsTheStyleAndNoOtherElementDoes) {
         EXPECT_EQ(e.allineamento, Allineamento::Destra);
         EXPECT_TRUE(e.trasparente);
         const DisplayLayout una = layout;
-        applicaClasse(layout, *classeDaTitolo(titolo), campi); // twice changes nothing further
+        applicaClasse(layout, classe, campi); // twice changes nothing further
         EXPECT_TRUE(std::equal(layout.begin(), layout.end(), una.begin()));
     }
 }
@@ -104,7 +104,7 @@ TEST_F(Proprieta, FillingAndApplyingUnchangedLeavesTheElementAsItWas) {
     for (LayoutElement &e : layout) {
         e.font.dimensione = 27.75;
         e.allineamento = static_cast<Allineamento>(e.indice % 3);
-        e.coloreSfondo = coloreDa(1, 2, e.indice);
+        e.coloreSfondo = 1000 + e.indice;
     }
     for (int posto = 0; posto < righeLayout; ++posto) {
         const auto classe = classeDi(layout[posto]);

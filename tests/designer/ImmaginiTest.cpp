@@ -45,6 +45,20 @@ TEST_F(Immagini, ContentDecidesTheFormatAndLargePicturesAreReduced) {
     EXPECT_EQ(immagini.immagine(file(u"filo.jpg"_s)).size(), QSize(200, 1));
 }
 
+TEST_F(Immagini, WhatWasPreparedIsWhatIsGiven) {
+    for (int i = 0; i < 12; ++i)
+        disegna(u"%1.png"_s.arg(i), {10 + i, 20}, "PNG");
+    immagini.prepara(file(u"manca.png"_s));
+    immagini.prepara({});
+    for (int i = 0; i < 12; ++i)
+        immagini.prepara(file(u"%1.png"_s.arg(i)));
+    disegna(u"3.png"_s, {99, 50}, "PNG"); // meanwhile another
+    for (int i = 11; i >= 0; --i)
+        EXPECT_EQ(immagini.immagine(file(u"%1.png"_s.arg(i))).width(), i == 3 ? 99 : 10 + i);
+    EXPECT_FALSE(immagini.carica(file(u"manca.png"_s)));
+    EXPECT_FALSE(immagini.carica(file(QString(100'000, u'x'))));
+}
+
 TEST_F(Immagini, APictureReplacedOnDiskIsReadAgain) {
     disegna(u"a.png"_s, {10, 10}, "PNG");
     EXPECT_EQ(immagini.immagine(file(u"a.png"_s)).width(), 10);

@@ -49,8 +49,8 @@ TEST_F(Lettura, NullTurnsIntoTheDefaultOfItsProperty) {
     EXPECT_EQ(layout.elemento(TipoElemento::Pannello1, 0).coloreSfondo, 12632256);
     EXPECT_EQ(layout.tela().coloreSfondo, 0);
     EXPECT_EQ(layout.Label2(), u"Label2"_s);
-    EXPECT_EQ(layout.PercorsiDecorazione[7], QString());
-    EXPECT_EQ(layout.PianiDecorazione[7], u"dietro"_s);
+    EXPECT_EQ(layout.PercorsiDecorazione(7), QString());
+    EXPECT_EQ(layout.PianiDecorazione(7), u"dietro");
     EXPECT_EQ(layout.elemento(TipoElemento::WB2).area.height, 5895);
     EXPECT_EQ(esito.avvisi, QStringList{});
 }
@@ -79,6 +79,7 @@ TEST_F(Lettura, BadValuesLeaveTheirPropertyAndOnlyRowsFrom33Tell) {
         EXPECT_EQ(dopo[posto], prima[posto]) << posto + 1;
     EXPECT_EQ(esito.avvisi.size(), 5);
     EXPECT_TRUE(esito.avvisi.value(2).contains(u"Riga 36, Decorazione 2")) << esito.testo().toStdString();
+    EXPECT_TRUE(esito.avvisi.value(1).contains(u"Riga 34, Colore dello schermo"));
     EXPECT_EQ(esito.testo(2).count(u'\n'), 2);
 }
 
@@ -100,6 +101,8 @@ TEST_F(Lettura, AShortTableLeavesTheOtherElementsAndSavesOnlyItsRows) {
     EXPECT_TRUE(esito.avvisi.value(0).contains(u"solo 40 righe su 70"));
     EXPECT_EQ(layout.elemento(TipoElemento::Image1, 6).area.top, 15);
     EXPECT_EQ(layout.elemento(TipoElemento::Pannello1, 0).area, (Area{1000, 1000, 7005, 6495}));
+    const LayoutElement &libera = layout.elemento(TipoElemento::Image1, 9); // no row: still the frame
+    EXPECT_EQ(layout.immagineMostrata(libera), percorsoIn(cartella(), u"ZuvoraDecorazioni/Cornici/stondata.gif"));
     const EsitoScrittura salvata = SalvaLayout(layout, cartella());
     EXPECT_TRUE(salvata.riuscito());
     EXPECT_EQ(salvata.scritte, 40);
@@ -151,6 +154,11 @@ TEST_F(Lettura, ADecorationWithoutItsPictureIsMarkedAndKeepsItsPath) {
     EXPECT_EQ(layout.elemento(TipoElemento::Image1, 4).immagine, u"/bella.gif"_s);
     ASSERT_EQ(esito.avvisi.size(), 1);
     EXPECT_TRUE(esito.avvisi[0].contains(u"Decorazione 3") && esito.avvisi[0].contains(u"/manca.gif"));
+    cambia(36, u"PercorsoImmagine"_s, u"'/"_s + QString(1'000'000, u'x') + u"'"_s);
+    immagini.mancanti.insert(u"/"_s + QString(1'000'000, u'x'));
+    leggi();
+    ASSERT_EQ(esito.avvisi.size(), 2); // by row, whatever the decoding took
+    EXPECT_LT(esito.avvisi[0].size(), 300);
     SalvaLayout(layout, cartella());
     EXPECT_EQ(valore(tavola, 37, u"PercorsoImmagine"_s), u"/manca.gif"_s);
 }
@@ -163,8 +171,8 @@ TEST_F(Lettura, AFreeDecorationShowsTheFrameAndSavesItsOwnPath) {
     immagini.mancanti = {u"/sua.gif"_s}; // nobody sees it, nobody is told
     DisplayLayout layout = leggi();
     EXPECT_EQ(esito.avvisi, QStringList{});
-    EXPECT_EQ(layout.elemento(TipoElemento::Image1, 1).immagine, cornice);
-    EXPECT_EQ(layout.elemento(TipoElemento::Image1, 2).immagine, cornice);
+    for (const int i : {1, 2})
+        EXPECT_EQ(layout.immagineMostrata(layout.elemento(TipoElemento::Image1, i)), cornice);
     SalvaLayout(layout, cartella());
     EXPECT_EQ(valore(tavola, 35, u"PercorsoImmagine"_s), u"/sua.gif"_s);
     EXPECT_EQ(valore(tavola, 36, u"PercorsoImmagine"_s), QString());

@@ -30,7 +30,9 @@ TEST_F(SalvaInterrotto, TellsTheRowReachedKeepsWhatWasWrittenAndCanBeRepeated) {
     EXPECT_EQ(righeScritte(), 36);
     const Messaggio messaggio = messaggioSalva(esito);
     EXPECT_TRUE(messaggio.riga0.contains(u"riga 37 di 70")) << messaggio.riga0.toStdString();
-    EXPECT_TRUE(messaggio.riga1.contains(esito.errore));
+    EXPECT_TRUE(messaggio.riga1.contains(u"Righe cambiate: 36. "_s + esito.errore));
+    layout.elemento(TipoElemento::IM1).area.top = 77; // the other 35 hold already what is written
+    EXPECT_EQ(SalvaLayout(layout, cartella()).cambiate, 1);
     esegui(u"drop trigger ferma"_s);
     EXPECT_EQ(messaggioSalva(SalvaLayout(layout, cartella())), (Messaggio{u"Memorizzazione effettuata !"_s, {}}));
     EXPECT_EQ(righeScritte(), righeLayout);
@@ -45,11 +47,14 @@ TEST_F(SalvaInterrotto, ARecordSetIsLeftReadyForTheNextSave) {
     EXPECT_EQ(scriviLayout(rs, layout).scritte, righeLayout); // from the first row again
 }
 
-TEST_F(SalvaInterrotto, AMissingDatabaseIsAnOutcomeNotAnAccident) {
+TEST_F(SalvaInterrotto, WhatCannotBeWrittenAtAllIsAnOutcomeNotAnAccident) {
     DisplayLayout layout(u"Layout1"_s);
-    const EsitoScrittura esito = SalvaLayout(layout, cartella() + u"/altrove"_s);
-    EXPECT_EQ(esito.scritte, 0);
-    EXPECT_EQ(messaggioSalva(esito).riga0, u"Memorizzazione non effettuata !"_s);
+    const EsitoScrittura altrove = SalvaLayout(layout, cartella() + u"/altrove"_s);
+    EXPECT_EQ(messaggioSalva(altrove), (Messaggio{u"Memorizzazione non effettuata !"_s, altrove.errore}));
+    EXPECT_FALSE(altrove.errore.isEmpty());
+    esegui(u"drop trigger ferma; create trigger ferma before update on Layout1 when old.rowid=1 "
+           "begin select raise(abort,'no'); end"_s);
+    EXPECT_EQ(messaggioSalva(SalvaLayout(layout, cartella())).riga0, u"Memorizzazione non effettuata !"_s);
 }
 
 } // namespace

@@ -54,8 +54,8 @@ TEST(Selezione, EveryElementAnswersTheMouseAsTold) {
         EXPECT_EQ(azioni(caso.tipo, Qt::LeftButton, true), caso.sinistroBase);
         EXPECT_EQ(azioni(caso.tipo, Qt::RightButton, true), caso.destroBase);
         const bool menu = caso.tipo == TipoElemento::Tela;
-        EXPECT_EQ(azioni(caso.tipo, Qt::MiddleButton, true), menu ? Azioni{MenuChiudi} : Azioni{});
-        EXPECT_EQ(azioni(caso.tipo, Qt::MiddleButton, false), Azioni{});
+        EXPECT_EQ(azioni(caso.tipo, Qt::MiddleButton, true), menu ? Azioni{MenuChiudi} : Azioni{ScorriSchermata});
+        EXPECT_EQ(azioni(caso.tipo, Qt::MiddleButton, false), Azioni{ScorriSchermata});
     }
 }
 

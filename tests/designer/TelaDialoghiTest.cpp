@@ -219,7 +219,7 @@ TEST(Apritori, LaDecorazioneSceltaVaSullaTelaNelSuoPiano) {
     TelaProva tela(u"Layout1"_s, {}, apritori);
     clicca(*tela.form, "Btn(8)");
     EXPECT_EQ(tela.e("Image1(1)").immagine, scelta.percorso);
-    EXPECT_EQ(tela.layout.PianiDecorazione[1], u"dietro"_s);
+    EXPECT_EQ(tela.layout.PianiDecorazione(1), u"dietro");
     tela.e("Image1(1)").area = tela.e("MP1").area;
     tela.form->setFocus();
     QTest::mouseClick(&tela.w("Image1(1)"), Qt::RightButton); // shows the new place too
@@ -260,18 +260,79 @@ TEST(Apritori, LoSfondoCambiaMentreLaSuaFinestraEAperta) {
     EXPECT_EQ(tela.form->grab().toImage(), durante);
 }
 
-TEST(Apritori, ChiMancaLoDice) {
-    TelaProva tela(u"Layout1"_s, {u"UPDATE Layout1 SET Visibile=1, \"left\"=0, \"top\"=0 WHERE DescCampo='WB2'"_s});
-    QString righe;
-    for (int i = 0; i < 2; ++i) {
-        Guida guida;
-        guida.messaggio(&righe);
-        if (i == 0)
-            clicca(*tela.form, "Btn(6)");
-        else
-            QTest::mouseClick(&tela.w("WB2"), Qt::RightButton);
-        EXPECT_TRUE(righe.startsWith(u"Questa funzione non è ancora disponibile"_s));
+TEST(AnteprimaTG, DaLaMisuraAlRiquadroERestaAperta) {
+    TelaProva tela(u"Layout1"_s, {u"UPDATE Layout1 SET Visibile=1, \"left\"=300, \"top\"=450, Larghezza=3000, "
+                                  "Altezza=3000 WHERE DescCampo='WB2'"_s});
+    Guida guida;
+    guida.quando("AnteprimaTGOnline", [&](QWidget &form) {
+        auto &A1 = trova<QLineEdit>(form, "A1");
+        EXPECT_EQ(A1.text(), u"3000"_s);
+        for (const char *nome : {"Allarga", "Allarga", "Stringi", "Allarga", "Abbassa", "Abbassa", "Alza"}) {
+            clicca(form, nome);
+            EXPECT_TRUE(trova<QAbstractButton>(form, nome).autoRepeat()) << nome;
+        }
+        EXPECT_EQ(trova<QWidget>(form, "WB22").size(), QSize(213, 193));
+        EXPECT_EQ(A1.text() + trova<QLineEdit>(form, "A2").text(), u"32002900"_s);
+        EXPECT_EQ(tela.e("WB2").area.width, 3000);
+        clicca(form, "Accetta");
+        EXPECT_TRUE(form.isVisible());
+        A1.setText(u"molto"_s);
+        Guida rifiuto;
+        QString righe;
+        rifiuto.messaggio(&righe);
+        clicca(form, "Accetta");
+        EXPECT_TRUE(righe.contains(u"100 e 60000"_s)) << righe.toStdString();
+        clicca(form, "Chiudi");
+    });
+    QTest::mouseClick(&tela.w("WB2"), Qt::RightButton);
+    EXPECT_EQ(tela.e("WB2").area, (Area{300, 450, 3200, 2900}));
+    EXPECT_EQ(tela.rettangolo("WB2"), rettangoloTela({300, 450, 3200, 2900}));
+}
+
+// What a button places pulses above the toolbox; nothing else changes.
+TEST(Palpito, MostraCioCheStaSottoGliStrumentiENienteAltro) {
+    TelaProva tela(u"Layout1"_s, {u"UPDATE Layout1 SET Visibile=0"_s,
+                                  u"UPDATE Layout1 SET Visibile=1, \"left\"=600, \"top\"=600, Larghezza=1500, "
+                                  "Altezza=1500 WHERE DescCampo='MP1'"_s});
+    QWidget &palpito = tela.w("Palpito");
+    EXPECT_TRUE(palpito.isHidden());
+    const QWidget *fuoco = tela.form->focusWidget();
+    for (const char *bottone : {"Btn(10)", "Btn(1)"}) { // already there, and new
+        clicca(*tela.form, bottone);
+        EXPECT_TRUE(palpito.isVisible()) << bottone;
     }
+    EXPECT_EQ(palpito.geometry(), tela.rettangolo("Pannello1(0)"));
+    clicca(*tela.form, "Btn(10)");
+    EXPECT_EQ(tela.e("MP1").area, (Area{600, 600, 1500, 1500}));
+    EXPECT_EQ(palpito.geometry(), QRect(40, 40, 100, 100));
+    EXPECT_EQ(tela.form->ElementoSelezionato(), QString());
+    EXPECT_EQ(tela.form->focusWidget(), fuoco);
+    const QPoint sottoGliStrumenti(60, 60);
+    EXPECT_TRUE(tela.w("SSPanel1").isAncestorOf(tela.form->childAt(sottoGliStrumenti)));
+    const QRgb prima = TelaProva::Vista{tela.w("SSPanel1").grab().toImage()}(sottoGliStrumenti - QPoint(24, 24));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tela.vista()(sottoGliStrumenti) != prima; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return palpito.isHidden(); }));
+    EXPECT_EQ(tela.vista()(sottoGliStrumenti), prima);
+}
+
+TEST(Segni, IBottoniDiconoCheCosaSullaTelaCeGia) {
+    TelaProva tela(u"Layout1"_s, {u"UPDATE Layout1 SET Visibile=0"_s});
+    const auto segno = [&](const char *bottone) {
+        QWidget &b = tela.w(bottone);
+        auto *w = b.findChild<QWidget *>(u"Segno"_s);
+        EXPECT_EQ(w->isVisible(), !b.accessibleDescription().isEmpty());
+        return b.accessibleDescription();
+    };
+    EXPECT_EQ(segno("Btn(12)") + segno("Btn(1)"), QString());
+    clicca(*tela.form, "Btn(12)");
+    clicca(*tela.form, "Btn(1)");
+    clicca(*tela.form, "Btn(1)");
+    EXPECT_EQ(segno("Btn(12)"), u"Già sulla schermata"_s);
+    EXPECT_EQ(segno("Btn(1)"), u"2 sulla schermata"_s);
+    tela.form->setFocus();
+    tela.clicca(QPoint(400, 420)); // a panel, beside the toolbox
+    QTest::keyClick(tela.form.get(), Qt::Key_Delete);
+    EXPECT_EQ(segno("Btn(1)"), u"1 sulla schermata"_s);
 }
 
 } // namespace

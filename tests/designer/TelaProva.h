@@ -53,14 +53,14 @@ class TelaProva {
 public:
     // `sql` runs before the layout is read.
     explicit TelaProva(const QString &tabella = QStringLiteral("Layout1"), const QStringList &sql = {},
-                       ApritoriTela apritori_ = {}, int risoluzione = 3)
-        : layout(tabella), apritori(std::move(apritori_)) {
+                       ApritoriTela daAprire = {}, int risoluzione = 3,
+                       const std::function<void(ValoriCondivisi &)> &prima = {})
+        : layout(tabella), apritori(std::move(daAprire)) {
+        if (prima)
+            prima(installazione.valori);
         installazione.esegui((layoutNoto(tabella, installazione.cartella()) + sql).join(u';'));
         apriForm(risoluzione);
     }
-    // The installation's own layout.
-    TelaProva(const QString &tabella, int risoluzione) : layout(tabella) { apriForm(risoluzione); }
-
     InstallazioneProva installazione;
     DisplayLayout layout;
     ImmaginiQt immagini;
@@ -74,6 +74,13 @@ public:
         QWidget &widget = w(nome);
         return {widget.mapTo(form.get(), QPoint()), widget.size()};
     }
+
+    // The form as it looks now, by points of the form, whatever the scale.
+    struct Vista {
+        QImage immagine;
+        QRgb operator()(QPoint p) const { return immagine.pixel(p * immagine.devicePixelRatio()); }
+    };
+    Vista vista() const { return {form->grab().toImage()}; }
 
     // The plain messages that come once the form is open.
     std::vector<FintiDialoghi::Box> aspettaBox() {
@@ -106,6 +113,7 @@ private:
                                        dimensioneTela(risoluzione - 1), nullptr);
         form->avvisaAllApertura(esito.testo());
         form->show();
+        QCoreApplication::processEvents(); // the activation comes once the loop runs
     }
     void invia(QEvent::Type tipo, QPoint p, Qt::MouseButton b, Qt::MouseButtons premuti) {
         m_premuti = premuti;

@@ -1,5 +1,4 @@
 #include "designer/logic/Trascinamento.h"
-#include "designer/logic/TrascinamentoVivo.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +9,7 @@ namespace {
 using Stato = Trascinamento::Stato;
 
 // A form at 100, 50 on the screen, 1366 x 768 pixels, without a frame.
-const GeometriaForm form{{100, 50}, {100, 50, 1366, 768}, 15, 15};
+const GeometriaForm form{{100, 50}, {100, 50, 1366, 768}, 15};
 
 class Contorno : public ::testing::Test {
 protected:
@@ -23,7 +22,7 @@ protected:
         premi();
         drag.MouseUp(layout, Qt::LeftButton, form);
         ASSERT_TRUE(drag.InizioRidimensionamento(layout, maniglia, form));
-        drag.MouseMove(a, form);
+        drag.MouseMove(layout, a, form);
         drag.MouseUp(layout, Qt::LeftButton, form);
     }
 
@@ -36,20 +35,20 @@ TEST_F(Contorno, MoveCarriesTheOutlineByTheGripAndTheReleaseTheElement) {
     premi();
     EXPECT_EQ(drag.StatoTrascinamento(), Stato::Spostamento);
     EXPECT_EQ(drag.RettangoloTrascinamento(), CRect(200, 250, 300, 310));
-    EXPECT_TRUE(drag.MouseMove({900, 700}, form));
-    EXPECT_TRUE(drag.MouseMove({260, 270}, form)); // counts from the press
+    EXPECT_TRUE(drag.MouseMove(layout, {900, 700}, form));
+    EXPECT_TRUE(drag.MouseMove(layout, {260, 270}, form)); // counts from the press
     EXPECT_EQ(drag.RettangoloTrascinamento(), CRect(210, 240, 310, 300));
     EXPECT_EQ(area(), (Area{1500, 3000, 1500, 900}));
     EXPECT_TRUE(drag.MouseUp(layout, Qt::LeftButton, form));
     EXPECT_EQ(area(), (Area{1650, 2850, 1500, 900}));
     EXPECT_EQ(drag.RettangoloTrascinamento(), CRect(1650, 2850, 3150, 3750)); // twips now, for the handles
     EXPECT_TRUE(drag.maniglieVisibili());
-    EXPECT_FALSE(drag.MouseMove({0, 0}, form));
+    EXPECT_FALSE(drag.MouseMove(layout, {0, 0}, form));
 }
 
 TEST_F(Contorno, CursorStaysWithinTheFormAndTheElementMayLeaveItByItsGrip) {
     premi();
-    drag.MouseMove({-5000, 5000}, form);
+    drag.MouseMove(layout, {-5000, 5000}, form);
     EXPECT_EQ(drag.RettangoloTrascinamento(), CRect(50, 787, 150, 847)); // cursor at 100, 817
     drag.MouseUp(layout, Qt::LeftButton, form);
     EXPECT_EQ(area(), (Area{-750, 11055, 1500, 900}));
@@ -70,7 +69,7 @@ TEST_F(Contorno, EachHandleMovesItsEdgesOnly) {
         d.MouseUp(layout, Qt::LeftButton, form);
         ASSERT_TRUE(d.InizioRidimensionamento(layout, caso.maniglia, form));
         EXPECT_FALSE(d.maniglieVisibili());
-        d.MouseMove({170, 230}, form);
+        d.MouseMove(layout, {170, 230}, form);
         EXPECT_EQ(d.RettangoloTrascinamento(), caso.attesa) << caso.maniglia;
     }
 }
@@ -93,7 +92,7 @@ TEST_F(Contorno, OnlyTheLeftReleaseEndsADrag) {
     EXPECT_EQ(drag.StatoTrascinamento(), Stato::Ridimensionamento);
     EXPECT_FALSE(drag.InizioTrascinamento(layout, posto, {250, 280}, form)); // the mouse belongs to the drag
     EXPECT_FALSE(drag.InizioRidimensionamento(layout, 0, form));
-    drag.MouseMove({320, 280}, form);
+    drag.MouseMove(layout, {320, 280}, form);
     EXPECT_TRUE(drag.MouseUp(layout, Qt::LeftButton, form));
     EXPECT_EQ(area().width, 1800);
 }
@@ -118,9 +117,9 @@ TEST_F(Contorno, FormThatMovesDuringADragIsAllowedFor) {
 
 TEST_F(Contorno, GivingUpLeavesTheElementAlone) {
     premi();
-    drag.MouseMove({700, 300}, form);
+    drag.MouseMove(layout, {700, 300}, form);
     drag.interrompi();
-    EXPECT_FALSE(drag.inCorso());
+    EXPECT_FALSE(drag.inContorno());
     EXPECT_EQ(area(), (Area{1500, 3000, 1500, 900}));
     EXPECT_EQ(drag.RettangoloTrascinamento(), CRect(1500, 3000, 3000, 3900));
 }
@@ -128,7 +127,7 @@ TEST_F(Contorno, GivingUpLeavesTheElementAlone) {
 TEST_F(Contorno, ElementFarOutsideTheCanvasDoesNotOverflow) {
     layout[posto].area = {3e38, -3e38, 3e38, 0};
     premi();
-    drag.MouseMove({100, 50}, form);
+    drag.MouseMove(layout, {100, 50}, form);
     drag.MouseUp(layout, Qt::LeftButton, form);
     EXPECT_GE(area().width, 0);
     EXPECT_GE(area().height, 0);
@@ -143,7 +142,7 @@ TEST(RegolaLimiti, EachTargetHasItsOwnSides) {
         PuntoTwips posto;
         bool resta;
     };
-    constexpr int strumenti = TrascinamentoVivo::strumenti;
+    constexpr int strumenti = bersaglioStrumenti;
     constexpr std::array casi{
         Caso{0, {30000, 100}, true},
         Caso{0, {-5000, 100}, true},
@@ -169,31 +168,39 @@ TEST(RegolaLimiti, EachTargetHasItsOwnSides) {
     }
 }
 
-TEST(TrascinamentoDelPannello, FollowsTheMouseFromTheStartAndIsTestedAtAnyRelease) {
-    DisplayLayout layout(QStringLiteral("Layout1"));
+TEST_F(Contorno, ALabelCarriesItsPanelFromTheStart) {
     Area &pannello = layout.elemento(TipoElemento::Pannello1, 2).area;
     pannello = {1000, 2000, 7005, 6495};
-    TrascinamentoVivo vivo;
-    EXPECT_FALSE(muoviPannello(layout, vivo, 7, {500, 500})); // no press yet
-    vivo.inizia(2, {500, 400}, {pannello.left, pannello.top});
-    EXPECT_TRUE(muoviPannello(layout, vivo, 7, {900, 900}));
-    EXPECT_TRUE(muoviPannello(layout, vivo, 7, {501, 398}));
+    ASSERT_TRUE(drag.prendiPannello(layout, 2, {500, 400}));
+    EXPECT_FALSE(drag.prendiStrumenti({}, {})); // one thing at a time
+    EXPECT_FALSE(drag.InizioTrascinamento(layout, posto, {250, 280}, form));
+    EXPECT_TRUE(drag.MouseMove(layout, {900, 900}, form));
+    EXPECT_TRUE(drag.MouseMove(layout, {501, 398}, form));
+    EXPECT_FALSE(drag.MouseMove(layout, {501, 398}, form));
     EXPECT_EQ(pannello, (Area{1015, 1970, 7005, 6495}));
-    EXPECT_FALSE(muoviPannello(layout, vivo, 3, {0, 0})); // another panel's label
-    muoviPannello(layout, vivo, 7, {0, 0});
-    EXPECT_TRUE(rilasciaPannello(layout, vivo, 7, tela));
-    EXPECT_EQ(pannello, (Area{0, 0, 7005, 6495}));
-    EXPECT_FALSE(vivo.TrascinamentoAttivo());
+    EXPECT_FALSE(drag.MouseUp(layout, Qt::LeftButton, form)); // no outline
+    drag.lascia();
+    EXPECT_FALSE(drag.TrascinamentoAttivo());
     pannello.left = -30; // left there by the outline drag; any release over a label puts it right
-    EXPECT_TRUE(rilasciaPannello(layout, vivo, 6, tela));
-    EXPECT_EQ(pannello.left, 0);
+    EXPECT_TRUE(rilasciaPannello(layout, 6, tela));
+    EXPECT_EQ(pannello, (Area{0, 0, 7005, 6495}));
+    EXPECT_FALSE(rilasciaPannello(layout, 7, tela));
 }
 
-TEST(TrascinamentoDelPannello, LabelsOfTheBaseLayoutDoNothing) {
+TEST_F(Contorno, ToolboxAndFormFollowTheMouseToo) {
+    ASSERT_TRUE(drag.prendiStrumenti({360, 360}, {100, 100}));
+    EXPECT_TRUE(drag.MouseMove(layout, {110, 90}, form));
+    EXPECT_EQ(drag.postoStrumenti(), (PuntoTwips{510, 210}));
+    drag.lascia();
+    ASSERT_TRUE(drag.prendiFinestra({-40, 7}, {100, 100}));
+    EXPECT_TRUE(drag.MouseMove(layout, {130, 110}, form));
+    EXPECT_EQ(drag.postoFinestra(), QPoint(-10, 17));
+}
+
+TEST(RegolaLimiti, LabelsOfTheBaseLayoutDoNothing) {
     DisplayLayout base(QStringLiteral("LayoutBase"));
     base.elemento(TipoElemento::Pannello1, 1).area.left = -30;
-    TrascinamentoVivo vivo;
-    EXPECT_FALSE(rilasciaPannello(base, vivo, 4, tela));
+    EXPECT_FALSE(rilasciaPannello(base, 4, tela));
     EXPECT_EQ(base.elemento(TipoElemento::Pannello1, 1).area.left, -30);
 }
 

@@ -73,7 +73,8 @@ TEST_F(Copia, AFailureOnTheWayEndsInOrderAndTellsTheRow) {
         const EsitoCopia esito = cancella ? RipristinaLayout(cartella(), u"3"_s) : copiaLayout(cartella(), 0, 3);
         EXPECT_FALSE(esito.completo);
         EXPECT_TRUE(esito.messaggio.riga0.contains(u"riga 37 di 70")) << esito.messaggio.riga0.toStdString();
-        EXPECT_TRUE(esito.messaggio.riga1.contains(u"Righe scritte: 36")) << esito.messaggio.riga1.toStdString();
+        EXPECT_TRUE(esito.messaggio.riga1.contains(cancella ? u"Righe cambiate: " : u"Righe cambiate: 36"))
+            << esito.messaggio.riga1.toStdString();
         EXPECT_EQ(tabella(u"Layout3"_s).mid(36), prima.mid(36));
     }
     EXPECT_EQ(senzaVisibile(u"Layout3"_s).mid(0, 36), senzaVisibile(u"LayoutBase"_s).mid(0, 36));

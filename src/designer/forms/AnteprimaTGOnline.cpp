@@ -9,10 +9,10 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr Misura MisuraMinima{12600, 9000};
-constexpr int TopPiano = 600;
-constexpr int Margine = 120;
-constexpr int AltezzaTitolo = 40; // pixels left for the window's title before it is known
+constexpr Misura misuraMinima{12600, 9000};
+constexpr int topPiano = 600;
+constexpr int margine = 120;
+constexpr int altezzaTitolo = 40; // pixels left for the window's title before it is known
 
 int twips(double misura) {
     return static_cast<int>(std::lround(misura));
@@ -20,9 +20,9 @@ int twips(double misura) {
 
 } // namespace
 
-AnteprimaTGOnline::AnteprimaTGOnline(const Ambiente &ambiente_, const Dimensione &wb2, const QString &indirizzo,
+AnteprimaTGOnline::AnteprimaTGOnline(const Ambiente &contesto, const Dimensione &wb2, const QString &indirizzo,
                                      Accettata accettata, QWidget *padre)
-    : Form(ambiente_, "AnteprimaTGOnline", "Anteprima TG Online", MisuraMinima, padre), m_misura(wb2),
+    : Form(contesto, "AnteprimaTGOnline", "Anteprima TG Online", misuraMinima, padre), m_misura(wb2),
       m_accettata(std::move(accettata)) {
     setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -41,6 +41,8 @@ AnteprimaTGOnline::AnteprimaTGOnline(const Ambiente &ambiente_, const Dimensione
     alClic(Abbassa, [this] { passo(&AnteprimaTG::Abbassa); });
     alClic(Accetta, [this] { accetta(); });
     alClic(Chiudi, [this] { scarica(); });
+    for (Button *bottone : {&Allarga, &Stringi, &Alza, &Abbassa})
+        bottone->setAutoRepeat(true);
     disponi();
     WB22.vai(indirizzo);
 }
@@ -51,7 +53,7 @@ void AnteprimaTGOnline::attivata() {
 
 void AnteprimaTGOnline::resizeEvent(QResizeEvent *e) {
     Form::resizeEvent(e);
-    const int top = pixelDa(TopPiano);
+    const int top = pixelDa(topPiano);
     m_finestra->setGeometry(0, top, width(), height() - top);
 }
 
@@ -65,17 +67,17 @@ void AnteprimaTGOnline::disponi() {
     const auto [larghezza, altezza] = m_misura.WB22();
     const auto [larghezzaCornice, altezzaCornice] = m_misura.GB1();
     WB22.setPosto({120, 240, twips(larghezza), twips(altezza)});
-    GB1.setPosto({Margine, 0, twips(larghezzaCornice), twips(altezzaCornice)});
-    m_piano->resize(pixelDa(Misura{twips(larghezzaCornice) + 2 * Margine, twips(altezzaCornice) + Margine}));
+    GB1.setPosto({margine, 0, twips(larghezzaCornice), twips(altezzaCornice)});
+    m_piano->resize(pixelDa(Misura{twips(larghezzaCornice) + 2 * margine, twips(altezzaCornice) + margine}));
     adattaFinestra();
 }
 
 // Only grows: under the mouse that presses a step button again and again, the window stays where it is.
 void AnteprimaTGOnline::adattaFinestra() {
     const QRect schermo = screen()->availableGeometry();
-    const QPoint origine = isVisible() ? geometry().topLeft() : schermo.topLeft() + QPoint(0, AltezzaTitolo);
+    const QPoint origine = isVisible() ? geometry().topLeft() : schermo.topLeft() + QPoint(0, altezzaTitolo);
     const QSize posto(schermo.right() + 1 - origine.x(), schermo.bottom() + 1 - origine.y());
-    const QSize serve(m_piano->width(), pixelDa(TopPiano) + m_piano->height());
+    const QSize serve(m_piano->width(), pixelDa(topPiano) + m_piano->height());
     resize(size().expandedTo(serve.boundedTo(posto)));
 }
 

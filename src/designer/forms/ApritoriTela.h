@@ -8,8 +8,6 @@ class QWidget;
 
 namespace zuvora {
 
-class DisplayLayout;
-
 // What the decoration form gives back: the picture's full path, empty for none, and its plane.
 struct SceltaDecorazione {
     QString percorso;
@@ -25,13 +23,11 @@ struct UsoSfondo {
 };
 
 // The forms of other rooms that the canvas opens, given by whoever opens it. Each shows its form modally over `padre`
-// and returns when it closes. An empty opener stands for a form that isn't there.
+// and returns when it closes.
 struct ApritoriTela {
     // For Image1(indice), 1 to 25; nothing when the user closed the form without a choice.
     std::function<std::optional<SceltaDecorazione>(QWidget *padre, int indice)> decorazione;
     std::function<void(QWidget *padre, const UsoSfondo &uso)> sfondo;
-    // For WB2: gives it a size in `layout` and calls `cambiato` each time it has done so.
-    std::function<void(QWidget *padre, DisplayLayout &layout, const std::function<void()> &cambiato)> anteprimaTG;
 };
 
 } // namespace zuvora

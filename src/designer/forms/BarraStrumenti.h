@@ -2,7 +2,6 @@
 
 #include "designer/forms/Bersaglio.h"
 #include "designer/logic/Strumenti.h"
-#include "designer/logic/TrascinamentoVivo.h"
 #include "shell/host/Controlli.h"
 #include "shell/host/Schiera.h"
 
@@ -21,6 +20,8 @@ public:
 
     PuntoTwips posto() const { return m_posto; } // twips
     void sposta(PuntoTwips posto);
+    // Marks a button whose elements stand on the canvas, by how many.
+    void segna(int indice, int quanti);
     void mostraDidascalia(const QString &testo);
     // Puts the toolbox and the caption right below another control of the form.
     void impila(QWidget *sopra);

@@ -2,7 +2,9 @@
 
 #include "designer/logic/Maniglie.h"
 
+#include <QCoreApplication>
 #include <QPainter>
+#include <QWheelEvent>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,10 +23,30 @@ void Bersaglio::paintEvent(QPaintEvent *) {
         QPainter(this).fillRect(rect(), QColor(255, 255, 255, 110));
 }
 
-Maniglietta::Maniglietta(QWidget *padre, int indice, Gestore gestore)
-    : Bersaglio(padre, u"picHandle(%1)"_s.arg(indice), std::move(gestore)) {
+void Bersaglio::wheelEvent(QWheelEvent *e) {
+    QCoreApplication::sendEvent(window(), e);
+}
+
+Maniglietta::Maniglietta(QWidget *padre, int indice, const Gestore &gestore)
+    : Bersaglio(padre, u"picHandle(%1)"_s.arg(indice), gestore),
+      m_presa(new Bersaglio(padre, u"presaManiglia(%1)"_s.arg(indice), gestore)) {
     setFixedSize(latoManiglia, latoManiglia);
-    setCursor(maniglie()[static_cast<std::size_t>(indice)].cursore);
+    for (Bersaglio *b : {m_presa, static_cast<Bersaglio *>(this)})
+        b->setCursor(maniglie()[static_cast<std::size_t>(indice)].cursore);
+    nascondi();
+}
+
+void Maniglietta::mostra(QPoint punto, QSize presa) {
+    move(punto);
+    QRect attorno({}, presa);
+    attorno.moveCenter(geometry().center());
+    m_presa->setGeometry(attorno);
+    m_presa->show();
+    show();
+}
+
+void Maniglietta::nascondi() {
+    m_presa->hide();
     hide();
 }
 

@@ -4,6 +4,7 @@
 #include "designer/forms/BarraStrumenti.h"
 #include "designer/forms/Contorno.h"
 #include "designer/forms/ElementiTela.h"
+#include "designer/forms/Palpito.h"
 #include "designer/forms/Scena.h"
 #include "designer/logic/Finestra.h"
 #include "designer/logic/Messaggio.h"
@@ -37,6 +38,7 @@ protected:
     void mousePressEvent(QMouseEvent *e) override;
     void mouseReleaseEvent(QMouseEvent *e) override;
     void paintEvent(QPaintEvent *e) override;
+    void wheelEvent(QWheelEvent *e) override;
 
 private:
     // Mouse: elements and the bare canvas, handles, the toolbox's strip and grip.
@@ -46,17 +48,24 @@ private:
     void mousePresa(Fase fase, const QMouseEvent &evento);
     void premi(int posto, Qt::MouseButton bottone, QPoint cursore);
     void esegui(AzionePressione azione, int posto, QPoint cursore);
-    bool prosegui(Fase fase, const QMouseEvent &evento);
-    bool inTrascinamento() const { return m_trascinamento.inCorso() || m_vivo.TrascinamentoAttivo(); }
+    void segui(QPoint cursore);
+    void rilascia(int posto, Qt::MouseButton bottone);
+    bool fermo() const { return m_trascinamento.StatoTrascinamento() == Trascinamento::Stato::Fermo; }
     void iniziaContorno(Qt::CursorShape cursore);
     void mostraContorno();
     void fineContorno();
     void lasciaMouse();
-    void rilasciaStrumenti();
     void interrompi();
     void MostraManiglie(bool mostra);
     void disponiManiglie();
     GeometriaForm geometria() const;
+
+    // The form among the screens.
+    void vai(PuntoTwips posizione);
+    void raggiungi();
+    void scorriSchermata(QPoint passo);
+    void VaiSecondoSchermo();
+    void SalvaPosizioneFinestra();
 
     // What a press or a button leads to.
     void lampo(int posto);
@@ -68,16 +77,15 @@ private:
     void piazzaElemento(const BottoneStrumenti &bottone);
     void piazzaPannello();
     void piazzaDecorazione();
+    void indica(int posto);
     void SalvaLayout();
-    void SalvaPosizioneFinestra();
-    void vai(PuntoTwips posizione);
     void elimina();
     void mostra(const Messaggio &messaggio);
-    void nonDisponibile();
 
     // Shows an element, or all of them, as the layout has them now.
     void aggiorna(int posto);
     void aggiornaTutto();
+    void segnaPiazzati();
 
     DisplayLayout &m_layout;
     ImmaginiQt &m_immagini;
@@ -85,8 +93,6 @@ private:
     Dimensione m_misura;
     Scena m_scena;
     Trascinamento m_trascinamento;
-    TrascinamentoVivo m_vivo;
-    std::optional<QPoint> m_presaForm; // the grip's press relative to the form, where the platform doesn't move it
     bool m_attivata = false;
     QString m_didascaliaBase;
     QString m_selezionato;
@@ -96,6 +102,7 @@ private:
     std::array<Maniglietta *, numeroManiglie> picHandle{};
     BarraStrumenti SSPanel1;
     Contorno m_contorno{this};
+    Palpito m_palpito{this};
     QMenu M2{QStringLiteral("Menu2"), this};
 };
 

@@ -6,63 +6,46 @@
 namespace zuvora {
 namespace {
 
-const int PostoTela = DisplayLayout::postoDi(TipoElemento::Tela);
+const int postoTela = DisplayLayout::postoDi(TipoElemento::Tela);
 
 QPoint cursoreDi(const QMouseEvent &e) {
     return e.globalPosition().toPoint();
 }
 
-Fase faseDi(const QMouseEvent &e) {
-    if (e.type() == QEvent::MouseMove)
-        return Fase::Mosso;
-    return e.type() == QEvent::MouseButtonRelease ? Fase::Rilasciato : Fase::Premuto;
-}
-
 } // namespace
 
 GeometriaForm Form1::geometria() const {
-    return {mapToGlobal(QPoint()), frameGeometry(), TwipsPerPixel, TwipsPerPixel};
+    return {mapToGlobal(QPoint()), frameGeometry(), TwipsPerPixel};
 }
 
 void Form1::mousePressEvent(QMouseEvent *e) {
-    mouseElemento(PostoTela, faseDi(*e), *e);
+    mouseElemento(postoTela, Fase::Premuto, *e);
 }
 
 void Form1::mouseMoveEvent(QMouseEvent *e) {
-    mouseElemento(PostoTela, faseDi(*e), *e);
+    mouseElemento(postoTela, Fase::Mosso, *e);
 }
 
 void Form1::mouseReleaseEvent(QMouseEvent *e) {
-    mouseElemento(PostoTela, faseDi(*e), *e);
-}
-
-// The part of an event that belongs to a running outline drag, wherever the mouse is. False when none runs.
-bool Form1::prosegui(Fase fase, const QMouseEvent &evento) {
-    if (!m_trascinamento.inCorso())
-        return false;
-    if (fase == Fase::Mosso && m_trascinamento.MouseMove(cursoreDi(evento), geometria()))
-        mostraContorno();
-    if (fase == Fase::Rilasciato && m_trascinamento.MouseUp(m_layout, evento.button(), geometria()))
-        fineContorno();
-    return true;
+    mouseElemento(postoTela, Fase::Rilasciato, *e);
 }
 
 void Form1::mouseElemento(int posto, Fase fase, const QMouseEvent &evento) {
     proteggi([&] {
-        if (prosegui(fase, evento))
-            return;
-        if (fase == Fase::Premuto && !inTrascinamento())
+        switch (fase) {
+        case Fase::Premuto:
             return premi(posto, evento.button(), cursoreDi(evento));
-        const LayoutElement &e = m_layout[posto];
-        if (e.tipo != TipoElemento::Text1)
-            return;
-        if (fase == Fase::Mosso ? muoviPannello(m_layout, m_vivo, e.indice, cursoreDi(evento))
-                                : fase == Fase::Rilasciato && rilasciaPannello(m_layout, m_vivo, e.indice, m_misura))
-            aggiorna(posto);
+        case Fase::Mosso:
+            return segui(cursoreDi(evento));
+        case Fase::Rilasciato:
+            return rilascia(posto, evento.button());
+        }
     });
 }
 
 void Form1::premi(int posto, Qt::MouseButton bottone, QPoint cursore) {
+    if (!fermo())
+        return; // the mouse belongs to what is dragged
     for (const AzionePressione azione : azioniPressione(m_layout[posto].tipo, bottone, m_layout.eBase())) {
         esegui(azione, posto, cursore);
         if (!isVisible())
@@ -84,10 +67,12 @@ void Form1::esegui(AzionePressione azione, int posto, QPoint cursore) {
         if (m_trascinamento.InizioTrascinamento(m_layout, posto, cursore, geometria()))
             iniziaContorno(Qt::ArrowCursor);
         return;
-    case AzionePressione::TrascinaPannello: {
-        const Area &pannello = m_layout.elemento(TipoElemento::Pannello1, e.indice / 3).area;
-        return m_vivo.inizia(e.indice / 3, cursore, {pannello.left, pannello.top});
-    }
+    case AzionePressione::TrascinaPannello:
+        m_trascinamento.prendiPannello(m_layout, e.indice / 3, cursore);
+        return;
+    case AzionePressione::ScorriSchermata:
+        m_trascinamento.prendiFinestra(pos(), cursore);
+        return;
     case AzionePressione::Lampo:
         return lampo(posto);
     case AzionePressione::ApriForm2:
@@ -103,13 +88,44 @@ void Form1::esegui(AzionePressione azione, int posto, QPoint cursore) {
     }
 }
 
+void Form1::segui(QPoint cursore) {
+    if (!m_trascinamento.MouseMove(m_layout, cursore, geometria()))
+        return;
+    switch (m_trascinamento.StatoTrascinamento()) {
+    case Trascinamento::Stato::Spostamento:
+    case Trascinamento::Stato::Ridimensionamento:
+        return mostraContorno();
+    case Trascinamento::Stato::Pannello:
+        return aggiorna(DisplayLayout::postoDi(TipoElemento::Pannello1, m_trascinamento.pannello()));
+    case Trascinamento::Stato::Strumenti:
+        return SSPanel1.sposta(m_trascinamento.postoStrumenti());
+    case Trascinamento::Stato::Finestra:
+        return scorriSchermata(m_trascinamento.postoFinestra() - pos());
+    case Trascinamento::Stato::Fermo:
+        return;
+    }
+}
+
+// Any release over a label puts its panel under the rule on bounds, whatever was dragged.
+void Form1::rilascia(int posto, Qt::MouseButton bottone) {
+    if (m_trascinamento.inContorno()) {
+        if (m_trascinamento.MouseUp(m_layout, bottone, geometria()))
+            fineContorno();
+        return;
+    }
+    if (m_trascinamento.StatoTrascinamento() == Trascinamento::Stato::Strumenti)
+        SSPanel1.sposta(postoDopoRilascio(bersaglioStrumenti, SSPanel1.posto(), m_misura));
+    m_trascinamento.lascia();
+    const LayoutElement &e = m_layout[posto];
+    if (e.tipo == TipoElemento::Text1 && rilasciaPannello(m_layout, e.indice, m_misura))
+        aggiorna(posto);
+}
+
 void Form1::mouseManiglia(int indice, Fase fase, const QMouseEvent &evento) {
-    proteggi([&] {
-        if (prosegui(fase, evento) || fase != Fase::Premuto || inTrascinamento())
-            return;
-        if (m_trascinamento.InizioRidimensionamento(m_layout, indice, geometria()))
-            iniziaContorno(maniglie()[std::size_t(indice)].cursore);
-    });
+    if (fase != Fase::Premuto)
+        return mouseElemento(postoTela, fase, evento);
+    if (m_trascinamento.InizioRidimensionamento(m_layout, indice, geometria()))
+        iniziaContorno(maniglie()[std::size_t(indice)].cursore);
 }
 
 // The mouse belongs to the form until the release, with no button held too: a resize may begin with the right one.
@@ -147,45 +163,38 @@ void Form1::MostraManiglie(bool mostra) {
 
 void Form1::disponiManiglie() {
     const bool visibili = m_trascinamento.maniglieVisibili();
-    const auto posti = m_trascinamento.posti(geometria());
+    const auto posti = m_trascinamento.posti(TwipsPerPixel);
+    const CRect &r = m_trascinamento.RettangoloTrascinamento();
+    const QSize presa(ampiezzaPresa(pixelVicino(r.Width())), ampiezzaPresa(pixelVicino(r.Height())));
     for (std::size_t i = 0; i < picHandle.size(); ++i) {
         if (visibili)
-            picHandle[i]->move(rettangoloTela({double(posti[i].left), double(posti[i].top), 0, 0}).topLeft());
-        picHandle[i]->setVisible(visibili);
+            picHandle[i]->mostra({pixelVicino(posti[i].left), pixelVicino(posti[i].top)}, presa);
+        else
+            picHandle[i]->nascondi();
     }
 }
 
 void Form1::mouseStriscia(Fase fase, const QMouseEvent &evento) {
-    proteggi([&] {
-        if (prosegui(fase, evento))
-            return;
-        const bool suoi = m_vivo.TrascinamentoAttivo() && m_vivo.bersaglio() == TrascinamentoVivo::strumenti;
-        if (fase == Fase::Premuto && evento.button() == Qt::LeftButton && !inTrascinamento())
-            m_vivo.inizia(TrascinamentoVivo::strumenti, cursoreDi(evento), SSPanel1.posto());
-        else if (fase == Fase::Mosso && suoi)
-            SSPanel1.sposta(*m_vivo.muovi(cursoreDi(evento)));
-        else if (fase == Fase::Rilasciato && suoi)
-            rilasciaStrumenti();
-    });
-}
-
-void Form1::rilasciaStrumenti() {
-    SSPanel1.sposta(postoDopoRilascio(TrascinamentoVivo::strumenti, SSPanel1.posto(), m_misura));
-    m_vivo.finisci();
+    if (fase == Fase::Premuto && evento.button() == Qt::LeftButton)
+        m_trascinamento.prendiStrumenti(SSPanel1.posto(), cursoreDi(evento));
+    else if (fase != Fase::Premuto)
+        mouseElemento(postoTela, fase, evento);
 }
 
 // The platform moves the form as by a title bar; where it can't, the form follows the mouse by itself.
 void Form1::mousePresa(Fase fase, const QMouseEvent &evento) {
+    using enum Trascinamento::Stato;
     if (fase == Fase::Premuto && evento.button() == Qt::LeftButton)
-        m_presaForm = cursoreDi(evento) - pos();
-    if (fase == Fase::Mosso && evento.buttons().testFlag(Qt::LeftButton) && m_presaForm) {
+        m_trascinamento.prendiFinestra(pos(), cursoreDi(evento));
+    else if (fase == Fase::Rilasciato && m_trascinamento.StatoTrascinamento() == Finestra)
+        m_trascinamento.lascia();
+    else if (fase == Fase::Mosso && m_trascinamento.StatoTrascinamento() == Finestra) {
         if (windowHandle() != nullptr && windowHandle()->startSystemMove())
-            m_presaForm.reset();
-        else
-            move(cursoreDi(evento) - *m_presaForm);
-    }
-    if (fase == Fase::Rilasciato)
-        m_presaForm.reset();
+            m_trascinamento.lascia();
+        else if (m_trascinamento.MouseMove(m_layout, cursoreDi(evento), geometria()))
+            move(m_trascinamento.postoFinestra());
+    } else if (fase != Fase::Premuto)
+        mouseElemento(postoTela, fase, evento);
 }
 
 bool Form1::event(QEvent *e) {
@@ -201,17 +210,13 @@ void Form1::hideEvent(QHideEvent *e) {
 
 // The mouse is lost: an outline is given up, what follows the mouse stays where it is.
 void Form1::interrompi() {
-    if (m_trascinamento.inCorso()) {
+    if (m_trascinamento.inContorno()) {
         m_trascinamento.interrompi();
-        lasciaMouse();
+        return lasciaMouse();
     }
-    if (!m_vivo.TrascinamentoAttivo())
-        return;
-    if (m_vivo.bersaglio() == TrascinamentoVivo::strumenti)
-        return rilasciaStrumenti();
-    const int pannello = m_vivo.bersaglio();
-    if (rilasciaPannello(m_layout, m_vivo, 3 * pannello, m_misura))
-        aggiorna(DisplayLayout::postoDi(TipoElemento::Pannello1, pannello));
+    const bool pannello = m_trascinamento.StatoTrascinamento() == Trascinamento::Stato::Pannello;
+    rilascia(pannello ? DisplayLayout::postoDi(TipoElemento::Text1, 3 * m_trascinamento.pannello()) : postoTela,
+             Qt::NoButton);
 }
 
 } // namespace zuvora

@@ -8,14 +8,14 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr Misura Interno{5925, 4290};
-constexpr int BarraTitolo = 480; // twips of frame and title bar in the pages' heights
-constexpr int MassimoTesto = 50; // characters
-constexpr int SenzaRadio = -1;
+constexpr Misura interno{5925, 4290};
+constexpr int barraTitolo = 480; // twips of frame and title bar in the pages' heights
+constexpr int massimoTesto = 50; // characters
+constexpr int senzaRadio = -1;
 
-constexpr std::array PostiFE1{Posto{600, 240, 3495, 285}, Posto{4080, 240, 735, 285}, Posto{1320, 1440, 2175, 285},
+constexpr std::array postiFE1{Posto{600, 240, 3495, 285}, Posto{4080, 240, 735, 285}, Posto{1320, 1440, 2175, 285},
                               Posto{1320, 1800, 2175, 285}};
-constexpr std::array<QStringView, 4> NomiFE1{u"Nome del font", u"Dimensione del font", u"Colore Sfondo",
+constexpr std::array<QStringView, 4> nomiFE1{u"Nome del font", u"Dimensione del font", u"Colore Sfondo",
                                              u"Colore Testo"};
 
 QFont fontTitolo() {
@@ -27,22 +27,22 @@ QFont fontTitolo() {
 
 } // namespace
 
-Form2::Form2(const Ambiente &ambiente_, DisplayLayout &layout, int posto, std::function<void()> applicata,
+Form2::Form2(const Ambiente &contesto, DisplayLayout &layout, int posto, std::function<void()> applicata,
              QWidget *padre)
-    : Form(ambiente_, "Form2", "Impostazioni Elementi", Interno, padre), m_layout(layout),
+    : Form(contesto, "Form2", "Impostazioni Elementi", interno, padre), m_layout(layout),
       m_classe(classeDi(layout[posto]).value()), m_applicata(std::move(applicata)),
       FE1("FE1", 0, 3,
-          [this](int i, const char *nome) { return std::make_unique<Edit>(&box1, nome, PostiFE1[std::size_t(i)]); }),
+          [this](int i, const char *nome) { return std::make_unique<Edit>(&box1, nome, postiFE1[std::size_t(i)]); }),
       CP1(&box1, "CP1", {3600, 1400, 1695, 375}, ambiente().dialoghi),
       CP2(&box1, "CP2", {3600, 1760, 1695, 375}, ambiente().dialoghi) {
     for (const auto &[i, campo] : FE1) {
         campo->setReadOnly(true);
-        campo->setAccessibleName(NomiFE1[std::size_t(i)].toString());
+        campo->setAccessibleName(nomiFE1[std::size_t(i)].toString());
     }
     PB1_0.setAccessibleName(u"Scegli il font"_s);
     CP1.setAccessibleName(u"Scegli il colore dello sfondo"_s);
     CP2.setAccessibleName(u"Scegli il colore del testo"_s);
-    Testo999.setMaxLength(MassimoTesto);
+    Testo999.setMaxLength(massimoTesto);
     Label4.hide();
     for (const auto &[i, etichetta] : Label2)
         etichetta->setAlignment(Qt::AlignLeft | Qt::AlignVCenter); // in line with the fields
@@ -59,7 +59,7 @@ Form2::Form2(const Ambiente &ambiente_, DisplayLayout &layout, int posto, std::f
 void Form2::disponi(const PaginaClasse &pagina) {
     Label1.setCaption(pagina.titolo.toString());
     if (pagina.altezza > 0)
-        setMisuraInterna({Interno.width, pagina.altezza - BarraTitolo});
+        setMisuraInterna({interno.width, pagina.altezza - barraTitolo});
     Label2(6).setEnabled(pagina.testo);
     Testo999.setEnabled(pagina.testo);
     for (const QStringView nome : pagina.disabilitati)
@@ -76,7 +76,7 @@ void Form2::riempi(const CampiForm2 &campi) {
     CB1(0).setChecked(campi.grassetto);
     CB1(1).setChecked(campi.corsivo);
     CB2.setChecked(campi.trasparente);
-    if (campi.RB1 != SenzaRadio)
+    if (campi.RB1 != senzaRadio)
         RB1(campi.RB1).setChecked(true);
     Testo999.setText(campi.Testo999);
     Label4.setCaption(testoNumero(campi.Label4));
@@ -89,7 +89,7 @@ CampiForm2 Form2::campi() const {
     campi.grassetto = CB1(0).isChecked();
     campi.corsivo = CB1(1).isChecked();
     campi.trasparente = CB2.isChecked();
-    campi.RB1 = SenzaRadio;
+    campi.RB1 = senzaRadio;
     for (const auto &[i, bottone] : RB1)
         if (bottone->isChecked())
             campi.RB1 = i;

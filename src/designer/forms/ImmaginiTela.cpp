@@ -1,15 +1,32 @@
 #include "designer/forms/ImmaginiTela.h"
 
-#include "designer/logic/ImmaginiQt.h"
-
 namespace zuvora {
 namespace {
 
-constexpr qsizetype Memoria = 192 * 1024; // KiB
+constexpr qsizetype memoria = 192 * 1024; // KiB
 
 } // namespace
 
-ImmaginiTela::ImmaginiTela(ImmaginiQt &sorgente) : m_sorgente(sorgente), m_stirate(Memoria) {}
+ImmaginiTela::ImmaginiTela(ImmaginiQt &sorgente) : m_sorgente(sorgente), m_stirate(memoria) {}
+
+// Called by helper threads too.
+QImage ImmaginiTela::stira(QImage intera, QSize pixel) {
+    if (intera.isNull())
+        return intera;
+    if (intera.size() != pixel)
+        intera = intera.scaled(pixel, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    intera.convertTo(intera.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    return intera;
+}
+
+void ImmaginiTela::prepara(const QString &percorso, QSize pixel) {
+    const Chiave chiave{percorso, pixel};
+    if (percorso.isEmpty() || pixel.isEmpty() || qint64(pixel.width()) * pixel.height() > copiaMassima ||
+        m_attese.contains(chiave) || m_stirate.contains(chiave))
+        return;
+    if (const QImage immagine = m_sorgente.immagine(percorso); !immagine.isNull())
+        m_attese.insert(chiave, m_sorgente.squadra().affida([immagine, pixel] { return stira(immagine, pixel); }));
+}
 
 QImage ImmaginiTela::stirata(const QString &percorso, QSize pixel) {
     if (percorso.isEmpty() || pixel.isEmpty())
@@ -17,13 +34,8 @@ QImage ImmaginiTela::stirata(const QString &percorso, QSize pixel) {
     const Chiave chiave{percorso, pixel};
     if (const QImage *pronta = m_stirate.object(chiave))
         return *pronta;
-    QImage nuova = m_sorgente.immagine(percorso);
-    if (!nuova.isNull()) {
-        if (nuova.size() != pixel)
-            nuova = nuova.scaled(pixel, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        const bool trasparente = nuova.hasAlphaChannel();
-        nuova.convertTo(trasparente ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-    }
+    const auto attesa = m_attese.take(chiave);
+    QImage nuova = attesa.valid() ? attesa.get() : stira(m_sorgente.immagine(percorso), pixel);
     m_stirate.insert(chiave, new QImage(nuova), nuova.sizeInBytes() / 1024 + 1);
     return nuova;
 }

@@ -6,8 +6,11 @@
 #include "shell/host/ColorPicker.h"
 #include "shell/host/Twips.h"
 
-#include <QFileInfo>
 #include <QPainter>
+#include <QRawFont>
+#include <QRegularExpression>
+#include <QTextLayout>
+#include <QtEndian>
 #include <algorithm>
 #include <cmath>
 
@@ -16,14 +19,10 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr double Lontano = 15000; // pixels: nothing is painted beyond, the painter's own range is not much larger
-constexpr qint64 CopiaMassima = 16'000'000; // pixels of a stretched picture that is kept
-constexpr double PuntiMinimi = 1;
-constexpr double PuntiMassimi = 2160;
+constexpr double puntiMinimi = 1;
+constexpr double puntiMassimi = 2160;
 
-int pixelLontano(double twips) {
-    return static_cast<int>(std::lround(std::clamp(twips / TwipsPerPixel, -Lontano, Lontano)));
-}
+constexpr qsizetype testoMassimo = 4000; // characters of one element that are painted
 
 Qt::Alignment allineamentoQt(Allineamento a) {
     switch (a) {
@@ -37,6 +36,40 @@ Qt::Alignment allineamentoQt(Allineamento a) {
     return Qt::AlignLeft;
 }
 
+// A face that is asked to be bold and isn't: the font system thickens its small letters only.
+bool grassettoApparente(const QFont &font) {
+    constexpr int posizionePeso = 4; // of the weight in the font's table OS/2
+    const QByteArray tabella = font.bold() ? QRawFont::fromFont(font).fontTable("OS/2") : QByteArray();
+    return tabella.size() >= posizionePeso + 2 &&
+           qFromBigEndian<quint16>(tabella.constData() + posizionePeso) < QFont::Bold;
+}
+
+// Text in letters that are thickened here, for one weight at every size. Lines stand as in any other text.
+void scriviIspessito(QPainter &p, const QRect &r, Qt::Alignment allineamento, bool aCapo, QString testo) {
+    constexpr double tratto = 1.0 / 24; // of the letter's height, as the font system does
+    const double spessore = p.font().pointSizeF() * puntiPerPollice / 72 * tratto;
+    testo.replace(u'\n', aCapo ? QChar(QChar::LineSeparator) : u' ');
+    QTextLayout righe(testo, p.font(), p.device());
+    QTextOption opzioni(allineamento);
+    opzioni.setWrapMode(aCapo ? QTextOption::WordWrap : QTextOption::NoWrap);
+    righe.setTextOption(opzioni);
+    QTextCharFormat formato;
+    formato.setForeground(p.pen().color());
+    formato.setTextOutline(QPen(p.pen().color(), spessore, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    righe.setFormats({{0, static_cast<int>(testo.size()), formato}});
+    const double interlinea = QFontMetricsF(p.font(), p.device()).leading();
+    double alto = -interlinea;
+    righe.beginLayout();
+    for (QTextLine riga = righe.createLine(); riga.isValid(); riga = righe.createLine()) {
+        riga.setLineWidth(r.width());
+        alto = std::ceil(alto + interlinea);
+        riga.setPosition({0, alto});
+        alto += riga.height();
+    }
+    righe.endLayout();
+    righe.draw(&p, r.topLeft() + QPointF(spessore / 2, -spessore / 2)); // it grows from its lower left
+}
+
 void etichetta(QPainter &p, const LayoutElement &e, const QRect &r, bool trasparente) {
     if (r.isEmpty())
         return;
@@ -48,24 +81,30 @@ void etichetta(QPainter &p, const LayoutElement &e, const QRect &r, bool traspar
     p.setClipRect(r, Qt::IntersectClip);
     p.setFont(fontTela(e.font));
     p.setPen(coloreDa(e.coloreTesto));
-    // The ticker runs in one line, the labels wrap in their place.
-    const int capo = e.tipo == TipoElemento::Text2 ? Qt::TextSingleLine : Qt::TextWordWrap;
-    p.drawText(r, int(allineamentoQt(e.allineamento) | Qt::AlignTop) | capo | Qt::TextExpandTabs, e.didascalia);
+    const QString testo = e.didascalia.left(testoMassimo);
+    const bool aCapo = e.tipo != TipoElemento::Text2; // the ticker runs in one line, the labels wrap in their place
+    const Qt::Alignment allineamento = allineamentoQt(e.allineamento);
+    if (grassettoApparente(p.font()))
+        scriviIspessito(p, r, allineamento, aCapo, testo);
+    else
+        p.drawText(
+            r, int(allineamento | Qt::AlignTop) | (aCapo ? Qt::TextWordWrap : Qt::TextSingleLine) | Qt::TextExpandTabs,
+            testo);
     p.restore();
 }
 
 // The edge of a box that stands out of the canvas.
 void rilievo(QPainter &p, const QRect &r, const QColor &colore) {
-    constexpr int Bordo = 2;
+    constexpr int bordo = 2;
     p.fillRect(r, colore);
-    if (r.width() <= 2 * Bordo || r.height() <= 2 * Bordo)
+    if (r.width() <= 2 * bordo || r.height() <= 2 * bordo)
         return;
     const QColor luce(255, 255, 255, 140);
     const QColor ombra(0, 0, 0, 90);
-    p.fillRect(QRect(r.left(), r.top(), r.width(), Bordo), luce);
-    p.fillRect(QRect(r.left(), r.top() + Bordo, Bordo, r.height() - Bordo), luce);
-    p.fillRect(QRect(r.left(), r.bottom() - Bordo + 1, r.width(), Bordo), ombra);
-    p.fillRect(QRect(r.right() - Bordo + 1, r.top(), Bordo, r.height() - Bordo), ombra);
+    p.fillRect(QRect(r.left(), r.top(), r.width(), bordo), luce);
+    p.fillRect(QRect(r.left(), r.top() + bordo, bordo, r.height() - bordo), luce);
+    p.fillRect(QRect(r.left(), r.bottom() - bordo + 1, r.width(), bordo), ombra);
+    p.fillRect(QRect(r.right() - bordo + 1, r.top(), bordo, r.height() - bordo), ombra);
 }
 
 // In place of a picture: what is to be seen there. Readable on any ground.
@@ -76,10 +115,8 @@ void sagoma(QPainter &p, const QRect &r, std::optional<Disegno> segno, const QSt
     p.setClipRect(r, Qt::IntersectClip);
     if (segno)
         p.fillRect(r, QColor(255, 255, 255, 190));
-    p.setPen(QPen(tavolozza::bianco, 1));
-    p.drawRect(r.adjusted(0, 0, -1, -1));
-    p.setPen(QPen(segno ? tavolozza::pericolo : tavolozza::testoTenue, 1, Qt::DashLine));
-    p.drawRect(r.adjusted(0, 0, -1, -1));
+    riquadra(p, r, tavolozza::bianco);
+    riquadra(p, r, segno ? tavolozza::pericolo : tavolozza::testoTenue, Qt::DashLine);
     const int lato = segno ? std::clamp(std::min(r.width(), r.height()) / 3, 0, 48) : 0;
     QFont font(u"Tahoma"_s);
     font.setPixelSize(13);
@@ -94,6 +131,12 @@ void sagoma(QPainter &p, const QRect &r, std::optional<Disegno> segno, const QSt
     if (segno)
         p.drawText(QRect(r.left(), alto + lato, r.width(), riga), Qt::AlignCenter | Qt::TextSingleLine, breve);
     p.restore();
+}
+
+// The name at the end of a path, whichever platform wrote it.
+QString nomeFile(const QString &percorso) {
+    constexpr qsizetype nomeMassimo = 255;
+    return percorso.mid(percorso.lastIndexOf(QRegularExpression(u"[/\\\\]"_s)) + 1).left(nomeMassimo);
 }
 
 std::optional<Segnaposto> segnapostoDi(TipoElemento tipo) {
@@ -118,15 +161,28 @@ std::optional<Segnaposto> segnapostoDi(TipoElemento tipo) {
 } // namespace
 
 QRect rettangoloTela(const Area &a) {
-    const int x = pixelLontano(a.left);
-    const int y = pixelLontano(a.top);
-    return {x, y, std::max(0, pixelLontano(a.left + a.width) - x), std::max(0, pixelLontano(a.top + a.height) - y)};
+    const int x = pixelVicino(a.left);
+    const int y = pixelVicino(a.top);
+    return {x, y, std::max(0, pixelVicino(a.left + a.width) - x), std::max(0, pixelVicino(a.top + a.height) - y)};
+}
+
+QSize pixelDispositivo(QSize misura, qreal scala) {
+    return {qRound(misura.width() * scala), qRound(misura.height() * scala)};
+}
+
+// The pen stands astride its line: half a pixel inside, it covers the edge at every scale.
+void riquadra(QPainter &p, const QRect &r, const QColor &colore, Qt::PenStyle tratto) {
+    p.save();
+    p.setPen(QPen(colore, 1, tratto, Qt::SquareCap, Qt::MiterJoin));
+    p.setBrush(Qt::NoBrush);
+    p.drawRect(QRectF(r).adjusted(0.5, 0.5, -0.5, -0.5));
+    p.restore();
 }
 
 QFont fontTela(const Carattere &c) {
     QFont font(c.nome);
     font.setStyleHint(QFont::SansSerif);
-    font.setPointSizeF(std::clamp(c.dimensione, PuntiMinimi, PuntiMassimi));
+    font.setPointSizeF(std::clamp(c.dimensione, puntiMinimi, puntiMassimi));
     font.setBold(c.grassetto);
     font.setItalic(c.corsivo);
     return font;
@@ -170,18 +226,19 @@ void PittoreElementi::pannello(QPainter &p, const LayoutElement &e, const QRect 
 }
 
 void PittoreElementi::decorazione(QPainter &p, const LayoutElement &e, const QRect &r) const {
-    if (e.immagine.isEmpty() && !e.immagineMancante) {
+    const QString &percorso = m_layout.immagineMostrata(e);
+    if (percorso.isEmpty()) {
         sagoma(p, r, std::nullopt, {}); // without a picture the display shows nothing: only the place is marked
         return;
     }
-    if (e.immagineMancante || !stendi(p, e.immagine, r))
-        sagoma(p, r, Disegno::FileImmagine, QFileInfo(QString(e.immagine).replace(u'\\', u'/')).fileName());
+    if (e.immagineMancante || !stendi(p, percorso, r))
+        sagoma(p, r, Disegno::FileImmagine, nomeFile(percorso));
 }
 
 bool PittoreElementi::stendi(QPainter &p, const QString &percorso, const QRect &r) const {
     const qreal scala = p.device()->devicePixelRatioF();
-    const QSize pixel(qRound(r.width() * scala), qRound(r.height() * scala));
-    if (qint64(pixel.width()) * pixel.height() > CopiaMassima) {
+    const QSize pixel = pixelDispositivo(r.size(), scala);
+    if (qint64(pixel.width()) * pixel.height() > copiaMassima) {
         const QImage immagine = m_immagini.intera(percorso);
         p.setRenderHint(QPainter::SmoothPixmapTransform);
         p.drawImage(r, immagine);

@@ -14,11 +14,15 @@ class ImmaginiTela;
 
 // A place on the canvas in pixels. Edges are rounded, not sizes; what lies far outside is cut short.
 QRect rettangoloTela(const Area &a);
+// A size on the canvas in the device's own pixels.
+QSize pixelDispositivo(QSize misura, qreal scala);
+// A frame of one pixel along the inner edge of a place, without a gap at any scale.
+void riquadra(QPainter &p, const QRect &r, const QColor &colore, Qt::PenStyle tratto = Qt::SolidLine);
 // The font of an element as the call display shows it: 20 twips to the point, whatever the screen's own resolution.
 // For paint devices of 96 dots per inch.
 QFont fontTela(const Carattere &c);
 
-inline constexpr double PuntiPerPollice = 96; // of the canvas: 1440 twips at 15 to the pixel
+inline constexpr double puntiPerPollice = 96; // of the canvas: 1440 twips at 15 to the pixel
 
 // Paints the elements as the call display will show them, boxes as placeholders.
 class PittoreElementi {

@@ -5,7 +5,7 @@
 namespace zuvora {
 namespace {
 
-constexpr double PuntiPerMetro = PuntiPerPollice / 0.0254;
+constexpr double puntiPerMetro = puntiPerPollice / 0.0254;
 
 } // namespace
 
@@ -14,17 +14,41 @@ Scena::Scena(const DisplayLayout &layout, ImmaginiQt &immagini, QSize misura)
     ricorda();
 }
 
+// Points of a font become pixels by the device's resolution.
+QImage Scena::foglio(QSize misura, qreal scala, QImage::Format formato) const {
+    QImage vuoto((QSizeF(misura) * scala).toSize(), formato);
+    vuoto.setDevicePixelRatio(scala);
+    vuoto.setDotsPerMeterX(qRound(puntiPerMetro));
+    vuoto.setDotsPerMeterY(qRound(puntiPerMetro));
+    return vuoto;
+}
+
 void Scena::mostra(QPainter &p, const QRegion &parte, qreal scala) {
     if (m_tela.isNull() || m_tela.devicePixelRatio() != scala) {
-        m_tela = QImage((QSizeF(m_misura) * scala).toSize(), QImage::Format_RGB32);
-        m_tela.setDevicePixelRatio(scala);
-        // Points of a font become pixels by the device's resolution.
-        m_tela.setDotsPerMeterX(qRound(PuntiPerMetro));
-        m_tela.setDotsPerMeterY(qRound(PuntiPerMetro));
+        m_tela = foglio(m_misura, scala, QImage::Format_RGB32);
+        stiraTutte(scala);
         dipingi(QRect({}, m_misura));
     }
     for (const QRect &r : parte)
         p.drawImage(QRectF(r), m_tela, QRectF(QPointF(r.topLeft()) * scala, QSizeF(r.size()) * scala));
+}
+
+// All pictures at once, by several threads.
+void Scena::stiraTutte(qreal scala) {
+    m_immagini.prepara(m_layout.tela().immagine, pixelDispositivo(m_misura, scala));
+    for (const LayoutElement &e : m_layout)
+        if (e.tipo == TipoElemento::Image1 && e.visibile && !e.immagineMancante)
+            m_immagini.prepara(m_layout.immagineMostrata(e), pixelDispositivo(rettangoloTela(e.area).size(), scala));
+}
+
+QImage Scena::figura(int posto, qreal scala) {
+    const QRect dove = parte(posto);
+    QImage sola = foglio(dove.size(), scala, QImage::Format_ARGB32_Premultiplied);
+    sola.fill(Qt::transparent);
+    QPainter p(&sola);
+    p.translate(-dove.topLeft());
+    m_pittore.elemento(p, posto);
+    return sola;
 }
 
 QRegion Scena::aggiorna(int numero) {

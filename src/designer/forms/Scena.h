@@ -19,11 +19,16 @@ public:
     ImmaginiTela &immagini() { return m_immagini; }
     // Paints part of the scene onto the form.
     void mostra(QPainter &p, const QRegion &parte, qreal scala);
+    // An element alone, as it stands on the canvas; `parte` is where, cut at the canvas.
+    QRect parte(int posto) const { return this->posto(posto).intersected(QRect({}, m_misura)); }
+    QImage figura(int posto, qreal scala);
     // To be called after a change of the element; the part of the canvas to show again.
     QRegion aggiorna(int posto);
     QRegion aggiornaTutto();
 
 private:
+    QImage foglio(QSize misura, qreal scala, QImage::Format formato) const;
+    void stiraTutte(qreal scala);
     void dipingi(const QRegion &parte);
     QRect posto(int numero) const;
     void ricorda();

@@ -8,11 +8,6 @@ namespace zuvora {
 
 using namespace Qt::Literals::StringLiterals;
 
-AnteprimaTG::AnteprimaTG(const DisplayLayout &layout) {
-    const Area &area = layout.elemento(TipoElemento::WB2).area;
-    m_dimensione = {area.width, area.height};
-}
-
 QString AnteprimaTG::A1() const {
     return testoNumero(m_dimensione.width);
 }
@@ -33,16 +28,6 @@ std::optional<Dimensione> AnteprimaTG::leggi(const QString &A1, const QString &A
 Messaggio AnteprimaTG::rifiuto() {
     return {u"Larghezza e altezza devono essere numeri"_s,
             u"compresi fra %1 e %2."_s.arg(testoNumero(minimo), testoNumero(massimo))};
-}
-
-QString AnteprimaTG::Accetta(DisplayLayout &layout, const QString &A1, const QString &A2) {
-    const auto misura = leggi(A1, A2);
-    if (!misura)
-        return rifiuto().riga0 + u' ' + rifiuto().riga1;
-    Area &area = layout.elemento(TipoElemento::WB2).area;
-    area.height = misura->height;
-    area.width = misura->width;
-    return {};
 }
 
 void AnteprimaTG::cambia(double &misura, double di) {

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "designer/logic/DisplayLayout.h"
+#include "designer/logic/LayoutElement.h"
 #include "designer/logic/Messaggio.h"
-#include "designer/logic/TrascinamentoVivo.h"
 
 #include <QString>
 #include <optional>
@@ -18,7 +17,6 @@ public:
     static constexpr double massimo = 60000; // twips: 4000 pixels, beyond the largest display
 
     explicit AnteprimaTG(const Dimensione &wb2) : m_dimensione(wb2) {}
-    explicit AnteprimaTG(const DisplayLayout &layout);
 
     Dimensione WB22() const { return m_dimensione; }
     Dimensione GB1() const { return {m_dimensione.width + m_bordoX, m_dimensione.height + m_bordoY}; }
@@ -33,9 +31,6 @@ public:
     // The size in the two boxes; nothing unless both texts are numbers from `minimo` to `massimo`.
     static std::optional<Dimensione> leggi(const QString &A1, const QString &A2);
     static Messaggio rifiuto(); // says so to the user
-    // Gives the size in the two boxes to WB2, which keeps its place. Empty when done; else an Italian sentence, and WB2
-    // keeps its size.
-    static QString Accetta(DisplayLayout &layout, const QString &A1, const QString &A2);
 
 private:
     static void cambia(double &misura, double di);

@@ -34,7 +34,7 @@ int interoVicino(double valore) {
     return static_cast<int>(std::nearbyint(std::clamp(valore, minimo, massimo)));
 }
 
-void CRect::Width(int valore) {
+void CRect::setWidth(int valore) {
     m_right = somma(m_left, valore);
 }
 
@@ -42,7 +42,7 @@ int CRect::Width() const {
     return differenza(m_right, m_left);
 }
 
-void CRect::Height(int valore) {
+void CRect::setHeight(int valore) {
     m_bottom = somma(m_top, valore);
 }
 

@@ -24,17 +24,17 @@ public:
     CRect() = default;
     CRect(int l, int t, int r, int b) : m_left(l), m_top(t), m_right(r), m_bottom(b) {}
 
-    void left(int valore) { m_left = valore; }
+    void setLeft(int valore) { m_left = valore; }
     int left() const { return m_left; }
-    void top(int valore) { m_top = valore; }
+    void setTop(int valore) { m_top = valore; }
     int top() const { return m_top; }
-    void right(int valore) { m_right = valore; }
+    void setRight(int valore) { m_right = valore; }
     int right() const { return m_right; }
-    void bottom(int valore) { m_bottom = valore; }
+    void setBottom(int valore) { m_bottom = valore; }
     int bottom() const { return m_bottom; }
-    void Width(int valore);  // moves the right edge
-    int Width() const;       // negative while the edges are crossed
-    void Height(int valore); // moves the bottom edge
+    void setWidth(int valore);  // moves the right edge
+    int Width() const;          // negative while the edges are crossed
+    void setHeight(int valore); // moves the bottom edge
     int Height() const;
 
     // Takes the rectangle from the control, in twips rounded to whole ones.

@@ -93,11 +93,6 @@ const PaginaClasse &paginaClasse(Classe classe) {
     return pagine[static_cast<std::size_t>(classe)];
 }
 
-std::optional<Classe> classeDaTitolo(QStringView titolo) {
-    const auto pagina = std::ranges::find(pagine, titolo, &PaginaClasse::titolo);
-    return pagina == pagine.end() ? std::nullopt : std::optional(pagina->classe);
-}
-
 std::optional<Classe> classeDi(const LayoutElement &e) {
     switch (e.tipo) {
     case TipoElemento::Text1:

@@ -33,7 +33,6 @@ struct PaginaClasse {
 };
 
 const PaginaClasse &paginaClasse(Classe classe);
-std::optional<Classe> classeDaTitolo(QStringView titolo);
 // The class of an element, by which a right click opens Form2; nothing for elements without a style.
 std::optional<Classe> classeDi(const LayoutElement &e);
 

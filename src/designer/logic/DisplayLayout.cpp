@@ -1,7 +1,6 @@
 #include "designer/logic/DisplayLayout.h"
 
 #include "designer/logic/Righe.h"
-#include "designer/logic/ValoriIniziali.h"
 
 #include <QDir>
 
@@ -11,8 +10,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr QStringView avantiParola = u"avanti";
-constexpr QStringView dietroParola = u"dietro";
+constexpr QStringView parolaAvanti = u"avanti";
+constexpr QStringView parolaDietro = u"dietro";
 
 // Kinds from the bottom of the stack to its top, as the form's definition lays them.
 constexpr std::array ordineIniziale{
@@ -44,7 +43,6 @@ DisplayLayout::DisplayLayout(QString nomeTabella) : m_nomeTabella(std::move(nome
         const RigaLayout &riga = righe()[static_cast<std::size_t>(posto)];
         (*this)[posto] = valoreIniziale(riga.tipo, riga.indice);
     }
-    PianiDecorazione.fill(dietroParola.toString());
     for (const TipoElemento tipo : ordineIniziale) {
         for (int posto = 0; posto < righeLayout; ++posto) {
             if ((*this)[posto].tipo == tipo)
@@ -90,17 +88,25 @@ void DisplayLayout::mandaDietro(int posto) {
         m_ordine.prepend(posto);
 }
 
-void DisplayLayout::impostaPiano(int i, bool avanti) {
-    PianiDecorazione[static_cast<std::size_t>(i)] = (avanti ? avantiParola : dietroParola).toString();
+const QString &DisplayLayout::PercorsiDecorazione(int i) const {
+    return elemento(TipoElemento::Image1, i).immagine;
+}
+
+QStringView DisplayLayout::PianiDecorazione(int i) const {
+    return elemento(TipoElemento::Image1, i).avanti ? parolaAvanti : parolaDietro;
+}
+
+const QString &DisplayLayout::immagineMostrata(const LayoutElement &decorazione) const {
+    return decorazione.cornice ? m_cornice : decorazione.immagine;
+}
+
+void DisplayLayout::setPiano(int i, bool avanti) {
     const int posto = postoDi(TipoElemento::Image1, i);
+    (*this)[posto].avanti = avanti;
     if (avanti)
         portaAvanti(posto);
     else
         mandaDietro(posto);
-}
-
-bool DisplayLayout::inPrimoPiano(int i) const {
-    return PianiDecorazione[static_cast<std::size_t>(i)] == avantiParola;
 }
 
 Area DisplayLayout::areaSullaTela(int posto) const {

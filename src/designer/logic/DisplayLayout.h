@@ -21,8 +21,8 @@ int numeroLayoutDi(QStringView tabella);
 // A file of the application folder, as the platform writes paths; `relativo` with slashes, as u"a/b.gif".
 QString percorsoIn(const QString &cartella, QStringView relativo);
 
-// One layout of the call display: its 70 elements in row order, the stacking order and the decorations' paths and
-// planes. It is the only copy while the designer is open. An element's number ("posto") is its row counted from 0.
+// One layout of the call display: its 70 elements in row order, the stacking order and the frame of free
+// decorations. It is the only copy while the designer is open. An element's number ("posto") is its row counted from 0.
 class DisplayLayout {
 public:
     // All elements at their start values.
@@ -52,17 +52,22 @@ public:
     LayoutElement &tela() { return elemento(TipoElemento::Tela); }
     const LayoutElement &tela() const { return elemento(TipoElemento::Tela); }
 
-    // Index i belongs to Image1(i); index 0 holds nothing.
-    std::array<QString, numeroDecorazioni + 1> PercorsiDecorazione;
-    std::array<QString, numeroDecorazioni + 1> PianiDecorazione; // "avanti" (in front) or "dietro" (behind)
+    // Of Image1(i), 1 to 25: the picture's path as a save writes it, and the plane as a word, "avanti" (in front) or
+    // "dietro" (behind).
+    const QString &PercorsiDecorazione(int i) const;
+    QStringView PianiDecorazione(int i) const;
+    // The picture that a decoration shows: its own, or the frame of a free slot.
+    const QString &immagineMostrata(const LayoutElement &decorazione) const;
+    // Path of that frame, known once the layout has been read.
+    const QString &cornice() const { return m_cornice; }
+    void setCornice(const QString &percorso) { m_cornice = percorso; }
 
     // Numbers of the elements on the canvas, from the bottom of the stack to its top. Labels lie on their panel.
     const QList<int> &ordine() const { return m_ordine; }
     void portaAvanti(int posto); // to the top of the stack
     void mandaDietro(int posto); // to its bottom
     // Plane of decoration i: the word and the place in the stack.
-    void impostaPiano(int i, bool avanti);
-    bool inPrimoPiano(int i) const;
+    void setPiano(int i, bool avanti);
 
     // An element's place on the canvas in twips: a label's panel and its place in it taken together.
     Area areaSullaTela(int posto) const;
@@ -71,6 +76,7 @@ private:
     QString m_nomeTabella;
     std::array<LayoutElement, righeLayout> m_elementi;
     QList<int> m_ordine;
+    QString m_cornice;
 };
 
 } // namespace zuvora

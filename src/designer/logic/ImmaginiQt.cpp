@@ -12,24 +12,48 @@ constexpr qsizetype memoria = 128 * 1024; // KiB
 
 } // namespace
 
-ImmaginiQt::ImmaginiQt(QSize massimo) : m_massimo(massimo), m_decodificate(memoria) {}
+ImmaginiQt::ImmaginiQt(QSize massimo, int fili) : m_massimo(massimo), m_decodificate(memoria), m_squadra(fili) {}
+
+// Called by helper threads too.
+ImmaginiQt::Voce ImmaginiQt::decodifica(const QString &percorso, QSize massimo) {
+    const QFileInfo file(percorso);
+    if (percorso.isEmpty() || !file.isFile())
+        return {};
+    return {leggiImmagine(percorso, massimo), file.lastModified(), file.size()};
+}
+
+// True when the picture kept is that of the file as it is now.
+bool ImmaginiQt::attuale(const QString &percorso) {
+    const Voce *voce = m_decodificate.object(percorso);
+    const QFileInfo file(percorso);
+    return voce != nullptr && file.isFile() && voce->modifica == file.lastModified() && voce->byte == file.size();
+}
+
+void ImmaginiQt::prepara(const QString &percorso) {
+    if (percorso.isEmpty() || m_attese.contains(percorso) || attuale(percorso))
+        return;
+    m_attese.insert(percorso,
+                    m_squadra.affida([percorso, massimo = m_massimo] { return decodifica(percorso, massimo); }));
+}
 
 bool ImmaginiQt::carica(const QString &percorso) {
     return !immagine(percorso).isNull();
 }
 
 QImage ImmaginiQt::immagine(const QString &percorso) {
-    const QFileInfo file(percorso);
-    if (percorso.isEmpty() || !file.isFile())
-        return {};
-    const QDateTime modifica = file.lastModified();
-    if (const Voce *voce = m_decodificate.object(percorso);
-        voce && voce->modifica == modifica && voce->byte == file.size())
-        return voce->immagine;
-    QImage nuova = leggiImmagine(percorso, m_massimo);
-    if (!nuova.isNull())
-        m_decodificate.insert(percorso, new Voce{nuova, modifica, file.size()}, nuova.sizeInBytes() / 1024 + 1);
-    return nuova;
+    if (const auto attesa = m_attese.take(percorso); attesa.valid()) {
+        const Voce &voce = attesa.get();
+        m_decodificate.insert(percorso, new Voce(voce), voce.immagine.sizeInBytes() / 1024 + 1);
+    }
+    if (attuale(percorso))
+        return m_decodificate.object(percorso)->immagine;
+    Voce nuova = decodifica(percorso, m_massimo);
+    QImage immagine = nuova.immagine;
+    if (immagine.isNull())
+        m_decodificate.remove(percorso);
+    else
+        m_decodificate.insert(percorso, new Voce(std::move(nuova)), immagine.sizeInBytes() / 1024 + 1);
+    return immagine;
 }
 
 } // namespace zuvora

@@ -42,6 +42,40 @@ QString LayoutElement::nome() const {
     return nomeElemento(tipo, indice);
 }
 
+QString LayoutElement::nomeParlato() const {
+    static constexpr std::array<QStringView, 4> titoli{u"Titolo", u"Sottotitolo", u"Data", u"Ora"};
+    static constexpr std::array<QStringView, 3> ruoli{u"Numero", u"Postazione", u"Servizio"};
+    switch (tipo) {
+    case TipoElemento::Text1:
+        return u"%1 del pannello %2"_s.arg(ruoli[static_cast<std::size_t>(indice % 3)]).arg(indice / 3 + 1);
+    case TipoElemento::Text9:
+        return titoli[static_cast<std::size_t>(indice)].toString();
+    case TipoElemento::Text2:
+        return u"Testo scorrevole"_s;
+    case TipoElemento::IM1:
+        return u"Riquadro immagini"_s;
+    case TipoElemento::MP1:
+        return u"Riquadro video"_s;
+    case TipoElemento::WB1:
+        return u"Riquadro meteo"_s;
+    case TipoElemento::WB2:
+        return u"Riquadro TG online"_s;
+    case TipoElemento::LeNews:
+        return u"Striscia delle news"_s;
+    case TipoElemento::YT:
+        return u"Riquadro YouTube"_s;
+    case TipoElemento::Image1:
+        return u"Decorazione %1"_s.arg(indice);
+    case TipoElemento::Pannello1:
+        return u"Pannello %1"_s.arg(indice + 1);
+    case TipoElemento::Label2:
+        return u"Sfondo"_s;
+    case TipoElemento::Tela:
+        break;
+    }
+    return u"Colore dello schermo"_s;
+}
+
 QStringView nomeTipo(TipoElemento tipo) {
     return genere(tipo).nome;
 }

@@ -9,18 +9,6 @@ namespace zuvora {
 using Colore = int;
 
 inline constexpr Colore coloreMassimo = 0x00FFFFFF;
-constexpr Colore coloreDa(int rosso, int verde, int blu) {
-    return (blu << 16) | (verde << 8) | rosso;
-}
-constexpr int rossoDi(Colore c) {
-    return c & 0xFF;
-}
-constexpr int verdeDi(Colore c) {
-    return (c >> 8) & 0xFF;
-}
-constexpr int bluDi(Colore c) {
-    return (c >> 16) & 0xFF;
-}
 
 // The kinds of row of a layout. Label2 is the hidden label that holds the background's path, Tela the canvas itself.
 enum class TipoElemento { Text1, Text9, IM1, WB1, MP1, Label2, Text2, Tela, Image1, WB2, LeNews, YT, Pannello1 };
@@ -35,6 +23,20 @@ struct Area {
     double height = 0;
 
     friend bool operator==(const Area &, const Area &) = default;
+};
+
+// A point and a size in twips.
+struct PuntoTwips {
+    double left = 0;
+    double top = 0;
+
+    friend bool operator==(const PuntoTwips &, const PuntoTwips &) = default;
+};
+struct Dimensione {
+    double width = 0;
+    double height = 0;
+
+    friend bool operator==(const Dimensione &, const Dimensione &) = default;
 };
 
 // Sizes that a font can have, points.
@@ -62,11 +64,17 @@ struct LayoutElement {
     Colore coloreTesto = 0;
     Allineamento allineamento = Allineamento::Sinistra;
     bool trasparente = false;
-    QString immagine;              // Image1 and Tela: path of the picture shown, empty for none
-    bool immagineMancante = false; // the picture can't be loaded: show that it is missing
+    // Path of a picture, empty for none. Tela: the background shown. Image1: what a save writes, and shown unless
+    // `cornice` is set.
+    QString immagine;
+    bool cornice = false;          // Image1: the frame of a free slot is shown instead
+    bool avanti = false;           // Image1: in front of the other elements, not behind them
+    bool immagineMancante = false; // what should be shown can't be loaded
 
     // The name that selection uses: "Text1(5)", "Image1(12)", "WB1", ...
     QString nome() const;
+    // The name that is told to a user: "Numero del pannello 2", "Riquadro meteo", ...
+    QString nomeParlato() const;
 
     friend bool operator==(const LayoutElement &, const LayoutElement &) = default;
 };
@@ -78,5 +86,8 @@ bool haIndice(TipoElemento tipo);
 QString nomeElemento(TipoElemento tipo, int indice);
 // True for what stands on the canvas with a place of its own (all but the Text1 labels, Label2 and the canvas).
 bool staSullaTela(TipoElemento tipo);
+
+// The element as the form's definition holds it, which stands until a row replaces it. `indice` as in its name.
+LayoutElement valoreIniziale(TipoElemento tipo, int indice);
 
 } // namespace zuvora

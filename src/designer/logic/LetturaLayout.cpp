@@ -1,12 +1,14 @@
 #include "designer/logic/LetturaLayout.h"
 
 #include "designer/logic/Righe.h"
-#include "designer/logic/ValoriElemento.h"
 #include "shell/store/Data.h"
 #include "shell/store/EngineError.h"
 
 #include <QSet>
+#include <algorithm>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace zuvora {
 
@@ -18,26 +20,12 @@ constexpr int primaRigaConAvvisi = 33;
 constexpr QStringView sfondoBase = u"ZuvoraSfondiHD/FH_grigio_8post_.jpg";
 constexpr QStringView corniceLibera = u"ZuvoraDecorazioni/Cornici/stondata.gif";
 
-// How a sentence names an element.
-QString descrizione(const LayoutElement &e) {
-    switch (e.tipo) {
-    case TipoElemento::Image1:
-        return u"Decorazione %1"_s.arg(e.indice);
-    case TipoElemento::Pannello1:
-        return u"Pannello %1"_s.arg(e.indice + 1);
-    case TipoElemento::Text2:
-        return u"Testo scorrevole"_s;
-    case TipoElemento::Tela:
-        return u"Colore dello schermo"_s;
-    default:
-        return u"Riquadro "_s + e.nome();
-    }
-}
-
 class Lettore {
 public:
     Lettore(Recordset &rs, DisplayLayout &layout, CaricatoreImmagini &immagini, const QString &cartella)
-        : m_rs(rs), m_layout(layout), m_immagini(immagini), m_cartella(cartella) {}
+        : m_rs(rs), m_layout(layout), m_immagini(immagini), m_cartella(cartella) {
+        m_layout.setCornice(percorsoIn(cartella, corniceLibera));
+    }
 
     EsitoLettura leggi() {
         if (m_rs.RecordCount() > 0)
@@ -47,6 +35,8 @@ public:
             ++m_esito.righe;
             m_rs.MoveNext();
         }
+        risolviImmagini();
+        ordinaAvvisi();
         if (m_esito.righe < righeLayout)
             m_esito.avvisi.prepend(u"La tabella %1 ha solo %2 righe su %3: gli altri elementi restano ai valori "
                                    "iniziali e non verranno salvati."_s.arg(m_layout.NomeTabella())
@@ -65,15 +55,15 @@ private:
             if (!v)
                 continue;
             if (c == ColonnaLayout::PercorsoImmagine)
-                leggiImmagine(e.indice, testoDi(*v, {}));
+                leggiImmagine(posto, testoDi(*v, {}));
             else if (impostaValore(m_layout, posto, c, *v) == EsitoValore::NonValido)
                 avvisa(
                     posto,
                     u"Riga %1, %2: il valore della colonna %3 non è valido e non è stato letto."_s.arg(posto + 1).arg(
-                        descrizione(e), nomeColonna(c)));
+                        e.nomeParlato(), nomeColonna(c)));
         }
-        if (e.tipo == TipoElemento::Image1 && !e.visibile)
-            mostraCornice(e.indice);
+        if (e.tipo == TipoElemento::Image1)
+            chiediImmagine(posto);
     }
 
     // A column of the current row; nothing when the table has no such column. Any other failure of the engine ends the
@@ -95,18 +85,51 @@ private:
 
     void avvisa(int posto, const QString &frase) {
         if (posto + 1 >= primaRigaConAvvisi)
-            m_esito.avvisi.append(frase);
+            m_avvisi.emplace_back(posto, frase);
     }
 
+    void ordinaAvvisi() {
+        std::ranges::stable_sort(m_avvisi, {}, &Avviso::first);
+        for (const Avviso &avviso : m_avvisi)
+            m_esito.avvisi.append(avviso.second);
+    }
+
+    // Row 32. Whether its picture can be loaded is asked once all rows are read.
     void leggiSfondo() {
-        const auto v = valore(DisplayLayout::postoDi(TipoElemento::Label2), ColonnaLayout::PercorsoImmagine);
-        if (!v)
+        m_sfondo = valore(DisplayLayout::postoDi(TipoElemento::Label2), ColonnaLayout::PercorsoImmagine);
+        if (!m_sfondo)
             return;
-        const QString percorso = testoDi(*v, {});
+        m_immagini.prepara(testoDi(*m_sfondo, {}));
+        if (m_layout.eBase())
+            m_immagini.prepara(percorsoIn(m_cartella, sfondoBase));
+    }
+
+    void leggiImmagine(int posto, const QString &percorso) {
+        m_layout[posto].immagine = percorso;
+        m_layout[posto].cornice = false;
+    }
+
+    // A free slot shows its frame, so that its own picture need not be decoded.
+    void chiediImmagine(int posto) {
+        LayoutElement &e = m_layout[posto];
+        e.cornice = e.cornice || !e.visibile;
+        m_immagini.prepara(m_layout.immagineMostrata(e));
+        m_conImmagine.push_back(posto);
+    }
+
+    void risolviImmagini() {
+        if (m_sfondo)
+            risolviSfondo(*m_sfondo);
+        for (const int posto : m_conImmagine)
+            risolviDecorazione(posto);
+    }
+
+    void risolviSfondo(const Valore &v) {
+        const QString percorso = testoDi(v, {});
         if (!percorso.isEmpty() && !m_immagini.carica(percorso))
             return;
         m_layout.tela().immagine = percorso;
-        if (!eNull(*v))
+        if (!eNull(v))
             m_layout.Label2() = percorso;
         if (!m_layout.eBase())
             return;
@@ -114,27 +137,20 @@ private:
             m_layout.tela().immagine = base;
     }
 
-    void leggiImmagine(int i, const QString &percorso) {
-        m_layout.PercorsiDecorazione[static_cast<std::size_t>(i)] = percorso;
-        LayoutElement &e = m_layout.elemento(TipoElemento::Image1, i);
-        e.immagine = percorso;
-        // A free slot shows its frame instead, so that its picture need not be decoded.
-        e.immagineMancante = e.visibile && !percorso.isEmpty() && !m_immagini.carica(percorso);
-        if (e.immagineMancante)
-            m_esito.avvisi.append(
-                u"%1: l'immagine %2 non si trova o non è leggibile. Il percorso resta memorizzato."_s.arg(
-                    descrizione(e), percorso));
+    void risolviDecorazione(int posto) {
+        LayoutElement &e = m_layout[posto];
+        const QString &percorso = m_layout.immagineMostrata(e);
+        e.immagineMancante = !percorso.isEmpty() && !m_immagini.carica(percorso);
+        if (!e.immagineMancante || (e.cornice && std::exchange(m_corniceSegnalata, true)))
+            return;
+        avvisa(posto, e.cornice
+                          ? u"La cornice delle decorazioni libere %1 non si trova o non è leggibile."_s.arg(
+                                accorciato(percorso))
+                          : u"%1: l'immagine %2 non si trova o non è leggibile. Il percorso resta memorizzato."_s.arg(
+                                e.nomeParlato(), accorciato(percorso)));
     }
 
-    void mostraCornice(int i) {
-        LayoutElement &e = m_layout.elemento(TipoElemento::Image1, i);
-        e.immagine = percorsoIn(m_cartella, corniceLibera);
-        e.immagineMancante = !m_immagini.carica(e.immagine);
-        if (e.immagineMancante && !m_corniceSegnalata)
-            m_esito.avvisi.append(
-                u"La cornice delle decorazioni libere %1 non si trova o non è leggibile."_s.arg(e.immagine));
-        m_corniceSegnalata = m_corniceSegnalata || e.immagineMancante;
-    }
+    using Avviso = std::pair<int, QString>; // row it belongs to
 
     Recordset &m_rs;
     DisplayLayout &m_layout;
@@ -142,6 +158,9 @@ private:
     const QString &m_cartella;
     EsitoLettura m_esito;
     QSet<ColonnaLayout> m_colonneMancanti;
+    std::optional<Valore> m_sfondo;
+    std::vector<int> m_conImmagine; // decorations, by row
+    std::vector<Avviso> m_avvisi;
     bool m_corniceSegnalata = false;
 };
 

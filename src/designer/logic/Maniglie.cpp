@@ -1,5 +1,6 @@
 #include "designer/logic/Maniglie.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace zuvora {
@@ -45,10 +46,9 @@ const std::array<Maniglia, numeroManiglie> &maniglie() {
     return tabella;
 }
 
-std::array<PostoManiglia, numeroManiglie> postiManiglie(const CRect &rettangolo, double twipsPerPixelX,
-                                                        double twipsPerPixelY) {
-    const Lato x = lungo(rettangolo.left(), rettangolo.Width(), twipsPerPixelX);
-    const Lato y = lungo(rettangolo.top(), rettangolo.Height(), twipsPerPixelY);
+std::array<PostoManiglia, numeroManiglie> postiManiglie(const CRect &rettangolo, double twipsPerPixel) {
+    const Lato x = lungo(rettangolo.left(), rettangolo.Width(), twipsPerPixel);
+    const Lato y = lungo(rettangolo.top(), rettangolo.Height(), twipsPerPixel);
     std::array<PostoManiglia, numeroManiglie> posti{};
     for (std::size_t i = 0; i < tabella.size(); ++i) {
         const Maniglia &m = tabella[i];
@@ -57,15 +57,8 @@ std::array<PostoManiglia, numeroManiglie> postiManiglie(const CRect &rettangolo,
     return posti;
 }
 
-int manigliaSotto(const CRect &rettangolo, double x, double y, double twipsPerPixelX, double twipsPerPixelY) {
-    const auto posti = postiManiglie(rettangolo, twipsPerPixelX, twipsPerPixelY);
-    for (int i = numeroManiglie - 1; i >= 0; --i) {
-        const PostoManiglia &p = posti[static_cast<std::size_t>(i)];
-        if (x >= p.left && x < p.left + latoManiglia * twipsPerPixelX && y >= p.top &&
-            y < p.top + latoManiglia * twipsPerPixelY)
-            return i;
-    }
-    return -1;
+int ampiezzaPresa(int lato) {
+    return std::clamp(lato / 3, latoManiglia, latoPresa);
 }
 
 } // namespace zuvora

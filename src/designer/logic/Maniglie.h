@@ -29,10 +29,12 @@ struct PostoManiglia {
     friend bool operator==(const PostoManiglia &, const PostoManiglia &) = default;
 };
 
-// Where the handles of a rectangle stand. All in twips on the canvas; twips per pixel across and down.
-std::array<PostoManiglia, numeroManiglie> postiManiglie(const CRect &rettangolo, double twipsPerPixelX = 15,
-                                                        double twipsPerPixelY = 15);
-// The handle at a point of the canvas (twips), -1 when there is none. Later handles lie on top.
-int manigliaSotto(const CRect &rettangolo, double x, double y, double twipsPerPixelX = 15, double twipsPerPixelY = 15);
+// Where the handles of a rectangle stand. All in twips on the canvas.
+std::array<PostoManiglia, numeroManiglie> postiManiglie(const CRect &rettangolo, double twipsPerPixel);
+
+// How far a handle reacts to the mouse, pixels: beyond its own side, but never over more than a third of a side of the
+// rectangle, so that a small element can still be taken itself.
+inline constexpr int latoPresa = 11;
+int ampiezzaPresa(int lato);
 
 } // namespace zuvora

@@ -10,6 +10,7 @@ namespace zuvora {
 // failure stays.
 struct EsitoScrittura {
     int scritte = 0;   // rows written
+    int cambiate = 0;  // those of them that held something else before
     int raggiunta = 0; // number of the last row begun, 0 when the table could not be opened
     QString errore;    // why the walk ended early, an Italian sentence; empty when it did not
 
@@ -22,7 +23,8 @@ struct EsitoScrittura {
 EsitoScrittura scriviLayout(Recordset &rs, DisplayLayout &layout);
 // Opens the layout's table and writes it. A table that can't be opened is an outcome with 0 rows.
 EsitoScrittura SalvaLayout(DisplayLayout &layout, const QString &cartella);
-// What the message form says after a save: "Memorizzazione effettuata !", or the row reached and why.
+// What the message form says after a save: "Memorizzazione effettuata !", or the row reached, how many rows are now
+// different, and why it ended.
 Messaggio messaggioSalva(const EsitoScrittura &esito);
 
 // Copies the 16 columns of each row, Null included; rows correspond by position alone.

@@ -1,7 +1,5 @@
 #include "designer/logic/Selezione.h"
 
-#include "designer/logic/TrascinamentoVivo.h"
-
 #include <algorithm>
 #include <array>
 
@@ -27,6 +25,7 @@ constexpr std::array lampo{RipristinaDidascalia, Lampo};
 constexpr std::array anteprima{RipristinaDidascalia, ApriAnteprimaTG};
 constexpr std::array nascondi{NascondiManiglie};
 constexpr std::array menu{MenuChiudi};
+constexpr std::array scorri{ScorriSchermata};
 
 enum class Layout { Altro, Base, Tutti };
 
@@ -84,7 +83,10 @@ std::span<const AzionePressione> azioniPressione(TipoElemento tipo, Qt::MouseBut
     const Layout escluso = layoutBase ? Layout::Altro : Layout::Base;
     const auto voce = std::ranges::find_if(
         voci, [=](const Voce &v) { return v.tipo == tipo && v.layout != escluso && v.bottoni.testFlag(bottone); });
-    return voce == voci.end() ? std::span<const AzionePressione>{} : voce->azioni;
+    if (voce != voci.end())
+        return voce->azioni;
+    // The middle button has no meaning of its own.
+    return bottone == Qt::MiddleButton ? std::span<const AzionePressione>(scorri) : std::span<const AzionePressione>{};
 }
 
 QString didascaliaForm(QStringView tabella) {

@@ -20,6 +20,7 @@ enum class AzionePressione {
     ApriDecorazione,      // open ImpostaCornice on the decoration
     ApriAnteprimaTG,      // open AnteprimaTGOnline
     MenuChiudi,           // pop up M2
+    ScorriSchermata,      // the form follows the mouse over a screen smaller than itself
     NascondiManiglie
 };
 

@@ -12,23 +12,54 @@ namespace {
 constexpr int stretto = 735;
 
 constexpr std::array bottoni{
-    BottoneStrumenti{0, u" Testo Scorrevole ", {}, 120, 840, stretto, Comando::PiazzaElemento, TipoElemento::Text2},
-    BottoneStrumenti{1, u" Servizio", u" Pannelli", 120, 240, 1575, Comando::PiazzaPannello},
-    BottoneStrumenti{2, u"Titolo ", {}, 960, 840, stretto, Comando::PiazzaElemento, TipoElemento::Text9, 0},
-    BottoneStrumenti{3, u" Sottotitolo ", {}, 120, 1440, stretto, Comando::PiazzaElemento, TipoElemento::Text9, 1},
-    BottoneStrumenti{4, u" Data ", {}, 960, 1440, stretto, Comando::PiazzaElemento, TipoElemento::Text9, 2},
-    BottoneStrumenti{5, u" Ora", {}, 1800, 840, stretto, Comando::PiazzaElemento, TipoElemento::Text9, 3},
-    BottoneStrumenti{6, u" Sfondo ", {}, 120, 2040, stretto, Comando::ApriSfondo},
-    BottoneStrumenti{7, u" Colore Sfondo ", {}, 960, 2040, stretto, Comando::ApriColoreSfondo},
-    BottoneStrumenti{8, u" Decorazioni ", {}, 1800, 1440, stretto, Comando::PiazzaDecorazione},
-    BottoneStrumenti{9, u" Immagini ", {}, 1800, 2040, stretto, Comando::PiazzaElemento, TipoElemento::IM1},
-    BottoneStrumenti{10, u" Video ", {}, 120, 2640, stretto, Comando::PiazzaElemento, TipoElemento::MP1},
-    BottoneStrumenti{12, u" Meteo ", {}, 1800, 2640, stretto, Comando::PiazzaElemento, TipoElemento::WB1},
-    BottoneStrumenti{14, u" Individua posizione Secondo Schermo ", {}, 960, 2640, stretto, Comando::SecondoSchermo},
-    BottoneStrumenti{15, u" Salva Posizione Finestra", {}, 960, 3240, stretto, Comando::SalvaPosizione},
-    BottoneStrumenti{16, u" Salva Impostazioni", {}, 1800, 3240, stretto, Comando::Salva},
-    BottoneStrumenti{17, u" Chiudi Impostazione Layout ", {}, 120, 3840, 2415, Comando::Chiudi},
-    BottoneStrumenti{22, u" PlayList YouTube", {}, 120, 3240, stretto, Comando::PiazzaElemento, TipoElemento::YT},
+    BottoneStrumenti{0,
+                     u" Testo Scorrevole ",
+                     {},
+                     120,
+                     840,
+                     stretto,
+                     Disegno::TestoScorrevole,
+                     Comando::PiazzaElemento,
+                     TipoElemento::Text2},
+    BottoneStrumenti{1, u" Servizio", u" Pannelli", 120, 240, 1575, Disegno::Servizio, Comando::PiazzaPannello},
+    BottoneStrumenti{
+        2, u"Titolo ", {}, 960, 840, stretto, Disegno::Titolo, Comando::PiazzaElemento, TipoElemento::Text9, 0},
+    BottoneStrumenti{3,
+                     u" Sottotitolo ",
+                     {},
+                     120,
+                     1440,
+                     stretto,
+                     Disegno::Sottotitolo,
+                     Comando::PiazzaElemento,
+                     TipoElemento::Text9,
+                     1},
+    BottoneStrumenti{
+        4, u" Data ", {}, 960, 1440, stretto, Disegno::Data, Comando::PiazzaElemento, TipoElemento::Text9, 2},
+    BottoneStrumenti{5, u" Ora", {}, 1800, 840, stretto, Disegno::Ora, Comando::PiazzaElemento, TipoElemento::Text9, 3},
+    BottoneStrumenti{6, u" Sfondo ", {}, 120, 2040, stretto, Disegno::Sfondo, Comando::ApriSfondo},
+    BottoneStrumenti{7, u" Colore Sfondo ", {}, 960, 2040, stretto, Disegno::ColoreSfondo, Comando::ApriColoreSfondo},
+    BottoneStrumenti{8, u" Decorazioni ", {}, 1800, 1440, stretto, Disegno::Decorazioni, Comando::PiazzaDecorazione},
+    BottoneStrumenti{
+        9, u" Immagini ", {}, 1800, 2040, stretto, Disegno::Immagini, Comando::PiazzaElemento, TipoElemento::IM1},
+    BottoneStrumenti{
+        10, u" Video ", {}, 120, 2640, stretto, Disegno::Video, Comando::PiazzaElemento, TipoElemento::MP1},
+    BottoneStrumenti{
+        12, u" Meteo ", {}, 1800, 2640, stretto, Disegno::Meteo, Comando::PiazzaElemento, TipoElemento::WB1},
+    BottoneStrumenti{14,
+                     u" Individua posizione Secondo Schermo ",
+                     {},
+                     960,
+                     2640,
+                     stretto,
+                     Disegno::SecondoSchermo,
+                     Comando::SecondoSchermo},
+    BottoneStrumenti{
+        15, u" Salva Posizione Finestra", {}, 960, 3240, stretto, Disegno::PosizioneFinestra, Comando::SalvaPosizione},
+    BottoneStrumenti{16, u" Salva Impostazioni", {}, 1800, 3240, stretto, Disegno::Salva, Comando::Salva},
+    BottoneStrumenti{17, u" Chiudi Impostazione Layout ", {}, 120, 3840, 2415, Disegno::Chiudi, Comando::Chiudi},
+    BottoneStrumenti{
+        22, u" PlayList YouTube", {}, 120, 3240, stretto, Disegno::YouTube, Comando::PiazzaElemento, TipoElemento::YT},
 };
 
 constexpr double larghezzaDecorazione = 1905;
@@ -52,6 +83,23 @@ std::span<const BottoneStrumenti> bottoniStrumenti() {
 const BottoneStrumenti *bottoneStrumenti(int indice) {
     const auto trovato = std::ranges::find(bottoni, indice, &BottoneStrumenti::indice);
     return trovato == bottoni.end() ? nullptr : &*trovato;
+}
+
+int piazzati(const DisplayLayout &layout, const BottoneStrumenti &bottone) {
+    const auto suo = [&](const LayoutElement &e) {
+        switch (bottone.comando) {
+        case Comando::PiazzaElemento:
+            return e.tipo == bottone.tipo && e.indice == bottone.indiceElemento;
+        case Comando::PiazzaPannello:
+            return e.tipo == TipoElemento::Pannello1;
+        case Comando::PiazzaDecorazione:
+            return e.tipo == TipoElemento::Image1;
+        default:
+            return false;
+        }
+    };
+    return static_cast<int>(
+        std::ranges::count_if(layout, [&](const LayoutElement &e) { return e.visibile && suo(e); }));
 }
 
 bool piazzaElemento(DisplayLayout &layout, TipoElemento tipo, int indice) {
@@ -92,9 +140,9 @@ bool applicaDecorazione(DisplayLayout &layout, int i, const QString &percorso, b
         return false;
     LayoutElement &e = layout.elemento(TipoElemento::Image1, i);
     e.immagine = percorso;
+    e.cornice = false;
     e.immagineMancante = false;
-    layout.impostaPiano(i, !secondoPiano);
-    layout.PercorsiDecorazione[static_cast<std::size_t>(i)] = percorso;
+    layout.setPiano(i, !secondoPiano);
     return true;
 }
 

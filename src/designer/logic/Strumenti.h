@@ -1,8 +1,9 @@
 #pragma once
 
-#include "designer/logic/CaricatoreImmagini.h"
 #include "designer/logic/DisplayLayout.h"
+#include "designer/logic/ImmaginiQt.h"
 #include "designer/logic/Messaggio.h"
+#include "shell/disegni/Disegni.h"
 
 #include <optional>
 #include <span>
@@ -30,6 +31,7 @@ struct BottoneStrumenti {
     int left;
     int top;
     int width;
+    Disegno disegno;
     Comando comando;
     TipoElemento tipo = TipoElemento::Tela; // for PiazzaElemento
     int indiceElemento = 0;
@@ -39,6 +41,9 @@ inline constexpr int altezzaBottone = 585;
 std::span<const BottoneStrumenti> bottoniStrumenti();
 // The button of an index, null where the indices have a gap.
 const BottoneStrumenti *bottoneStrumenti(int indice);
+
+// How many of the elements that the button places are on the canvas; 0 for the other buttons.
+int piazzati(const DisplayLayout &layout, const BottoneStrumenti &bottone);
 
 // Puts a single element that isn't visible at the top left corner and shows it. False when it was visible already.
 bool piazzaElemento(DisplayLayout &layout, TipoElemento tipo, int indice = 0);

@@ -1,4 +1,4 @@
-#include "designer/logic/ValoriIniziali.h"
+#include "designer/logic/LayoutElement.h"
 
 #include <array>
 
@@ -135,6 +135,7 @@ LayoutElement daInizio(const Inizio &inizio, int indice) {
     e.coloreTesto = inizio.stile.testo;
     e.allineamento = inizio.stile.allineamento;
     e.trasparente = inizio.stile.trasparente;
+    e.cornice = inizio.tipo == TipoElemento::Image1;
     return e;
 }
 

@@ -1,44 +1,22 @@
 #include "library/forms/ApriTela.h"
 
-#include "designer/forms/AnteprimaTGOnline.h"
-#include "designer/forms/ApriDesigner.h"
+#include "designer/forms/Form1.h"
+#include "designer/logic/LetturaLayout.h"
 #include "library/forms/ImpostaCornice.h"
 #include "library/forms/ImpostaSfondo.h"
 
 namespace zuvora {
-namespace {
-
-Dimensione misuraDi(const LayoutElement &elemento) {
-    return {elemento.area.width, elemento.area.height};
-}
-
-void apriAnteprimaTG(const Ambiente &ambiente, QWidget *padre, DisplayLayout &layout,
-                     const std::function<void()> &cambiato) {
-    LayoutElement &WB2 = layout.elemento(TipoElemento::WB2);
-    const auto accettata = [&](const Dimensione &misura) {
-        WB2.area.width = misura.width;
-        WB2.area.height = misura.height;
-        cambiato();
-    };
-    AnteprimaTGOnline(ambiente, misuraDi(WB2), ambiente.valori.PercorsoTG, accettata, padre).mostraModale();
-}
-
-} // namespace
-
-ApritoriTela apritoriTela(const Ambiente &ambiente) {
-    ApritoriTela apritori;
-    apritori.decorazione = [ambiente](QWidget *padre, int indice) {
-        return apriImpostaCornice(ambiente, indice, padre);
-    };
-    apritori.sfondo = [ambiente](QWidget *padre, const UsoSfondo &uso) { apriSfondoLayout(ambiente, uso, padre); };
-    apritori.anteprimaTG = [ambiente](QWidget *padre, DisplayLayout &layout, const std::function<void()> &cambiato) {
-        apriAnteprimaTG(ambiente, padre, layout, cambiato);
-    };
-    return apritori;
-}
 
 void apriTela(const Ambiente &ambiente, int risoluzione, const QString &tabella, QWidget *padre) {
-    apriDesigner(ambiente, padre, risoluzione, tabella, apritoriTela(ambiente));
+    DisplayLayout layout(tabella);
+    ImmaginiQt immagini;
+    const EsitoLettura esito = CaricaLayout(layout, immagini, ambiente.valori.PercorsoApplicazione);
+    const ApritoriTela apritori{
+        [&ambiente](QWidget *form, int indice) { return apriImpostaCornice(ambiente, indice, form); },
+        [&ambiente](QWidget *form, const UsoSfondo &uso) { apriSfondoLayout(ambiente, uso, form); }};
+    Form1 form(ambiente, layout, immagini, apritori, dimensioneTela(risoluzione - 1), padre);
+    form.avvisaAllApertura(esito.testo());
+    form.mostraModale();
 }
 
 } // namespace zuvora

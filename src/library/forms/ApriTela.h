@@ -1,15 +1,14 @@
 #pragma once
 
-#include "designer/forms/ApritoriTela.h"
 #include "shell/host/Ambiente.h"
+
+class QString;
+class QWidget;
 
 namespace zuvora {
 
-// The forms that the canvas opens: decoration, background, size of the news box.
-ApritoriTela apritoriTela(const Ambiente &ambiente);
-
-// Opens the layout `tabella` in the designer with those forms; returns when it closes. `risoluzione` is 1 to 4, 0 for
-// none chosen. Throws EngineError when the table can't be read.
+// Reads the layout `tabella` and shows it in the designer, with the forms that it opens; returns when it closes.
+// `risoluzione` as the main panel gives it: 1 to 4, 0 for none chosen. Throws EngineError when the table can't be read.
 void apriTela(const Ambiente &ambiente, int risoluzione, const QString &tabella, QWidget *padre);
 
 } // namespace zuvora

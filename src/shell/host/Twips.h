@@ -2,6 +2,8 @@
 
 #include <QRect>
 #include <QSize>
+#include <algorithm>
+#include <cmath>
 
 namespace zuvora {
 
@@ -10,6 +12,12 @@ inline constexpr int TwipsPerPixel = 15;
 
 constexpr int pixelDa(int twips) {
     return twips >= 0 ? (twips + TwipsPerPixel / 2) / TwipsPerPixel : -((-twips + TwipsPerPixel / 2) / TwipsPerPixel);
+}
+// The same for places that come from data: what lies far outside every screen is cut short, for a painter's own range
+// is not much larger.
+inline int pixelVicino(double twips) {
+    constexpr double lontano = 15000; // pixels
+    return static_cast<int>(std::lround(std::clamp(twips / TwipsPerPixel, -lontano, lontano)));
 }
 constexpr int twipsDa(int pixel) {
     return pixel * TwipsPerPixel;

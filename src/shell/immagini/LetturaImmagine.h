@@ -3,22 +3,48 @@
 #include <QImage>
 #include <QSize>
 #include <QString>
+#include <atomic>
 
 namespace zuvora {
 
-// Picture files are told by their content, whatever the name says. Only regular files are opened: a pipe would block.
+// Picture files are told by their content, whatever the name says, and turned as the camera was held. A picture counts
+// as readable only when its file is whole. Only regular files are opened: a pipe would block. Every function may run on
+// any thread.
 
-// Size in pixels as the file's header tells it. Empty when the file is missing, is no picture, or doesn't say.
-QSize misuraImmagine(const QString &percorso);
-// True when the file begins like a picture that can be shown; its pixels are not decoded.
-bool pareImmagine(const QString &percorso);
+inline constexpr qint64 fileImmagineMassimo = 200LL * 1024 * 1024; // bytes
+
+// The reading of a picture as another thread sees it.
+struct AvanzamentoLettura {
+    std::atomic<bool> annulla = false; // set from outside: the reading ends at once
+    std::atomic<int> centesimi = 0;    // of the file
+};
 
 enum class Riduzione {
     Proporzioni, // to fit into the room, proportions kept
     Riempi       // to exactly the room
 };
-// The picture, reduced when it is larger than `massimo` (pixels) in either direction, never enlarged. Null when it
-// can't be read.
+
+struct ImmagineLetta {
+    QImage immagine; // null when it can't be read
+    QString motivo;  // why it can't, an Italian sentence; empty also after a cancel
+    bool annullata = false;
+};
+// The picture decoded whole, reduced when it is larger than `massimo` (pixels) in either direction, never enlarged.
+ImmagineLetta leggi(const QString &percorso, const QSize &massimo, Riduzione riduzione = Riduzione::Proporzioni,
+                    AvanzamentoLettura *avanzamento = nullptr);
 QImage leggiImmagine(const QString &percorso, const QSize &massimo, Riduzione riduzione = Riduzione::Proporzioni);
+
+// The picture's top left corner at the picture's own size, at most `misura` (pixels) of it. Null when it can't be read.
+QImage leggiRitaglio(const QString &percorso, const QSize &misura);
+
+// Size in pixels as the file's header tells it. Empty when the file is missing, is no picture, or doesn't say.
+QSize misuraImmagine(const QString &percorso);
+
+// Why the file can't be used as a picture, an Italian sentence, as far as that is told without decoding it: missing, no
+// picture, cut off, too large. Empty when nothing speaks against it.
+QString difettoImmagine(const QString &percorso);
+inline bool pareImmagine(const QString &percorso) {
+    return difettoImmagine(percorso).isEmpty();
+}
 
 } // namespace zuvora

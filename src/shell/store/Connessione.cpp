@@ -32,12 +32,13 @@ QString trovaFile(const QString &percorso) {
 
 } // namespace
 
-Connessione::Connessione(const QString &percorso, std::chrono::milliseconds attesa)
-    : m_richiesto(percorso), m_percorso(trovaFile(percorso)), m_attesa(attesa) {
+Connessione::Connessione(const QString &percorso, std::chrono::milliseconds attesa, Modo modo)
+    : m_richiesto(percorso), m_percorso(modo == Modo::Nuovo ? percorso : trovaFile(percorso)), m_attesa(attesa) {
     try {
-        apri();
+        apri(modo);
         controlla();
-        scegliGiornale();
+        if (modo == Modo::Esistente)
+            scegliGiornale();
     } catch (...) {
         chiudi();
         throw;
@@ -56,17 +57,29 @@ EngineError Connessione::mancante(Azione azione) const {
     return errore(chiusa ? Errore::Accesso : Errore::FileNonTrovato, azione);
 }
 
-void Connessione::apri() {
+void Connessione::controllaFile() const {
     const QFileInfo file(m_percorso);
     if (m_percorso.isEmpty() || !file.exists())
         throw mancante(Azione::Apertura);
     // An empty file would pass for an empty database; a pipe would block for ever.
     if (!file.isFile() || file.size() == 0)
         throw errore(Errore::NonDatabase, Azione::Apertura);
+}
+
+void Connessione::apri(Modo modo) {
+    if (modo != Modo::Nuovo)
+        controllaFile();
+    else if (QFileInfo::exists(m_percorso))
+        throw errore(Errore::PercorsoFile, Azione::Apertura);
     ignoraLimiteFile();
     // Without CREATE nothing is made; a write-protected file is opened for reading by the engine itself.
-    constexpr int modoApertura = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
-    const int rc = sqlite3_open_v2(m_percorso.toUtf8().constData(), &m_db, modoApertura, nullptr);
+    int opzioni = SQLITE_OPEN_READWRITE;
+    if (modo == Modo::Nuovo)
+        opzioni |= SQLITE_OPEN_CREATE;
+    else if (modo == Modo::SolaLettura)
+        opzioni = SQLITE_OPEN_READONLY;
+    opzioni |= SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
+    const int rc = sqlite3_open_v2(m_percorso.toUtf8().constData(), &m_db, opzioni, nullptr);
     if (rc != SQLITE_OK)
         throw errore(rc, Azione::Apertura);
     attendi(m_attesa);
@@ -152,6 +165,11 @@ Istruzione Connessione::prepara(const QByteArray &sql, Azione azione) {
 
 Istruzione Connessione::preparaUnica(const QString &sql, Azione azione) {
     return {*this, compila(sql.toUtf8(), 0, azione, true), azione, {}};
+}
+
+void Connessione::eseguiTutto(const QByteArray &sql) {
+    if (const int rc = sqlite3_exec(db(), sql.constData(), nullptr, nullptr, nullptr); rc != SQLITE_OK)
+        throw errore(rc, Azione::Scrittura);
 }
 
 int Connessione::scrivi(const QByteArray &sql, const QList<Valore> &valori) {

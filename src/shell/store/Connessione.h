@@ -16,12 +16,15 @@ namespace zuvora {
 
 class Istruzione;
 
+enum class Modo { Esistente, Nuovo, SolaLettura };
+
 // One open SQLite connection. Between two operations no statement is active, so no lock is held.
 class Connessione {
 public:
-    // Opens an existing file and reads its schema, so that whatever is no sound database fails here. Never creates a
-    // file. A file name that differs only by case serves when the exact one is not there.
-    Connessione(const QString &percorso, std::chrono::milliseconds attesa);
+    // Opens an existing file and reads its schema, so that whatever is no sound database fails here. A file name that
+    // differs only by case serves when the exact one is not there. Only in the mode Nuovo a file is made, which must
+    // not be there; SolaLettura leaves the file as it is, its journal too.
+    Connessione(const QString &percorso, std::chrono::milliseconds attesa, Modo modo = Modo::Esistente);
     ~Connessione();
     Connessione(const Connessione &) = delete;
     Connessione &operator=(const Connessione &) = delete;
@@ -36,6 +39,8 @@ public:
     Istruzione prepara(const QByteArray &sql, Azione azione);
     // A statement of the program or the user, used once. 3075 unless it is exactly one statement.
     Istruzione preparaUnica(const QString &sql, Azione azione);
+    // Any number of statements, their results dropped.
+    void eseguiTutto(const QByteArray &sql);
     // Runs one of the store's own changing statements. Gives the number of rows changed.
     int scrivi(const QByteArray &sql, const QList<Valore> &valori);
     qint64 ultimaChiave() const;
@@ -46,7 +51,8 @@ public:
 private:
     friend class Istruzione;
     static constexpr qsizetype pronteMassime = 24;
-    void apri();
+    void apri(Modo modo);
+    void controllaFile() const;
     void controlla();
     void scegliGiornale();
     bool spostato() const;

@@ -45,6 +45,18 @@ Database Database::OpenDatabase(const QString &percorso, std::chrono::millisecon
     return Database(std::make_unique<Connessione>(percorso, attesa));
 }
 
+Database Database::apriInLettura(const QString &percorso, std::chrono::milliseconds attesa) {
+    return Database(std::make_unique<Connessione>(percorso, attesa, Modo::SolaLettura));
+}
+
+Database Database::crea(const QString &percorso) {
+    return Database(std::make_unique<Connessione>(percorso, attesaBlocco, Modo::Nuovo));
+}
+
+Database Database::inMemoria() {
+    return crea(u":memory:"_s);
+}
+
 // The connection object stays, closed: what was taken from the collections gives an error instead of reaching nowhere.
 void Database::Close() {
     m_connessione->chiudi();
@@ -60,6 +72,46 @@ void Database::Execute(const QString &sql) {
         throw m_connessione->errore(Errore::SelezioneInEsecuzione, Azione::Scrittura);
     while (i.avanti()) {
     }
+}
+
+void Database::esegui(const QString &sql) {
+    m_connessione->eseguiTutto(sql.toUtf8());
+}
+
+void Database::eseguiPerRighe(const QString &sql, const QList<QStringList> &righe) {
+    for (const QStringList &riga : righe) {
+        QList<Valore> valori;
+        for (const QString &testo : riga)
+            valori += testo.isNull() ? Valore() : Valore(testo);
+        m_connessione->scrivi(sql.toUtf8(), valori);
+    }
+}
+
+QList<QList<Valore>> Database::leggi(const QString &sql) {
+    QList<QList<Valore>> righe;
+    Istruzione i = m_connessione->preparaUnica(sql, Azione::Lettura);
+    while (i.avanti()) {
+        QList<Valore> riga;
+        for (int n = 0; n < sqlite3_column_count(i.grezza()); ++n)
+            riga += i.valore(n, TipoColonna::Libero);
+        righe += riga;
+    }
+    return righe;
+}
+
+QList<QStringList> Database::leggiTesti(const QString &sql) {
+    QList<QStringList> righe;
+    const QList<QList<Valore>> lette = leggi(sql);
+    for (const QList<Valore> &riga : lette) {
+        righe.emplaceBack();
+        for (const Valore &v : riga)
+            righe.back() += testoDi(v, {});
+    }
+    return righe;
+}
+
+bool Database::integro() {
+    return primaColonna(m_connessione->prepara("PRAGMA quick_check(1)", Azione::Lettura)) == QStringList{u"ok"_s};
 }
 
 QStringList Database::verifica() {

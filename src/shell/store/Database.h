@@ -1,7 +1,9 @@
 #pragma once
 
 #include "shell/store/Limiti.h"
+#include "shell/store/Valore.h"
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <memory>
@@ -18,12 +20,17 @@ struct Campo {
     TipoCampo Type = TipoCampo::Testo;
 };
 
-// A database file opened for what a record set can't do. Never creates a file. Every operation throws EngineError.
+// A database file opened for what a record set can't do. Every operation throws EngineError.
 class Database {
 public:
-    // Opens the file at `percorso`. Throws 3024 when it is missing, 3044 when its folder is, 3343 when it is no
-    // database (an empty file included), 3049 when it is damaged.
+    // Opens the file at `percorso`, and never makes one. Throws 3024 when it is missing, 3044 when its folder is, 3343
+    // when it is no database (an empty file included), 3049 when it is damaged.
     static Database OpenDatabase(const QString &percorso, std::chrono::milliseconds attesa = attesaBlocco);
+    // Opens the file without ever changing it, and tells a write that was left half done (3027).
+    static Database apriInLettura(const QString &percorso, std::chrono::milliseconds attesa = attesaBlocco);
+    // Makes a new file; 75 when there is one.
+    static Database crea(const QString &percorso);
+    static Database inMemoria();
     ~Database();
     Database(Database &&) noexcept;
     Database &operator=(Database &&) noexcept;
@@ -65,6 +72,15 @@ public:
     ElencoTabelle TableDefs();
     // Runs one SQL statement that changes something. A select is refused with 3065, as the engine does.
     void Execute(const QString &sql);
+    // Any number of statements, their results dropped.
+    void esegui(const QString &sql);
+    // Runs the statement once for each row, with its texts bound in their order; a null text is Null.
+    void eseguiPerRighe(const QString &sql, const QList<QStringList> &righe);
+    // All rows of one select, each value as it is stored.
+    QList<QList<Valore>> leggi(const QString &sql);
+    QList<QStringList> leggiTesti(const QString &sql); // Null as a null text
+    // The engine's quick check of the file.
+    bool integro();
     // The engine's own check of the whole file: one finding a line, empty when it is sound.
     QStringList verifica();
     void Close();

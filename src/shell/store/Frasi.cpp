@@ -20,6 +20,7 @@ constexpr std::array frasi{
           u"Il database «%1» non è stato trovato nella cartella «%2». %3 Controllare l'installazione."},
     Frase{Errore::PercorsoNonValido, u"La cartella «%2» del database «%1» non esiste o non è raggiungibile. %3 "
                                      u"Controllare il percorso e il collegamento di rete."},
+    Frase{Errore::PercorsoFile, u"Nella cartella «%2» c'è già un file «%1». %3"},
     Frase{Errore::NonDatabase, u"Il file «%1» nella cartella «%2» non è un database valido. %3 Il file non è stato "
                                u"toccato: ripristinarlo da una copia di sicurezza."},
     Frase{Errore::FileDanneggiato, u"Il database «%1» nella cartella «%2» è danneggiato. %3 Ripristinarlo da una copia "

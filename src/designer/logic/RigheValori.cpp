@@ -1,6 +1,5 @@
-#include "designer/logic/ValoriElemento.h"
-
 #include "designer/logic/NumeriSingoli.h"
+#include "designer/logic/Righe.h"
 
 #include <cmath>
 
@@ -54,7 +53,7 @@ EsitoValore impostaPiano(DisplayLayout &layout, int i, const Valore &v) {
     bool avanti = false;
     const EsitoValore esito = impostaBooleano(avanti, v);
     if (esito == EsitoValore::Letto)
-        layout.impostaPiano(i, avanti);
+        layout.setPiano(i, avanti);
     return esito;
 }
 
@@ -106,7 +105,7 @@ Valore valoreDi(const DisplayLayout &layout, int posto, ColonnaLayout c) {
     case DimFont:
         return singolo(e.font.dimensione);
     case FontBold:
-        return decorazione ? layout.inPrimoPiano(e.indice) : e.font.grassetto;
+        return decorazione ? e.avanti : e.font.grassetto;
     case FontItalic:
         return e.font.corsivo;
     case ColoreSfondo:
@@ -118,7 +117,7 @@ Valore valoreDi(const DisplayLayout &layout, int posto, ColonnaLayout c) {
     case Visibile:
         return e.visibile;
     case PercorsoImmagine:
-        return decorazione ? layout.PercorsiDecorazione[static_cast<std::size_t>(e.indice)] : e.didascalia;
+        return decorazione ? e.immagine : e.didascalia;
     case SfondoTestoTrasparente:
         return e.trasparente;
     }
