@@ -1,6 +1,8 @@
 #include "Composizione.h"
 
+#include "calling/forms/Boccuccia.h"
 #include "calling/forms/GruppoPostazioni.h"
+#include "calling/forms/PaginaDinDon.h"
 #include "calling/forms/UtentiServizi.h"
 #include "library/forms/ApriTela.h"
 #include "library/forms/Elementi.h"
@@ -48,7 +50,7 @@ std::vector<VoceMenu> vociDelPannello() {
          pagina<PaginaRisoluzioni>},
         {"PB1(10)", 1440, "  Impostazione Clie&nt", u"Modalità Client", tutte, paginaClient},
         {"PB1(7)", 1800, "  Gestione Layout FrontEnd", invariato, tutte, sceltaLayout},
-        {"PushButton1", 2160, "  DinDon", u"Gestione Din Don", tutte, nulla},
+        {"PushButton1", 2160, "  DinDon", u"Gestione Din Don", tutte, pagina<PaginaDinDon>},
         {"Position", 2520, "  Posizione", u"Posizione Schermi", tutte, pagina<PaginaPosizione>},
         {"PB1(5)", 2880, "  &Musica cartella (MP3)", u"Musica -MP3", tutte, nulla},
         {"Command0", 3240, "  Testo Scorrevole", u"Testo Scorrevole", tutte, nulla},
@@ -56,7 +58,7 @@ std::vector<VoceMenu> vociDelPannello() {
         {"PB1(3)", 3960, "  Imposta &Video", u"Impostazione Video", tutte, nulla},
         {"PushButton2", 4320, "  Decorazioni", u"Gestione Decorazioni", tutte, form<Elementi>},
         {"Command1", 4680, "  Imposta Meteo", u"Impostazione Meteo", tutte, nulla},
-        {"PB1(1)", 5040, "  Modulo Vocale (TTS)", u"Modulo Vocale", tutte, nulla},
+        {"PB1(1)", 5040, "  Modulo Vocale (TTS)", u"Modulo Vocale", tutte, form<Boccuccia>},
         {"PB1(6)", 5400, "  Gestione &Radio", u"Gestione Radio", tutte, nulla},
         {"PB1(11)", 6120, "  PlayList di &YouTube", u"Playlist YouTube", tutte, nulla},
         {"PB1(12)", 6480, "  Imposta schermata Totem", invariato, soloPrincipale, nulla},

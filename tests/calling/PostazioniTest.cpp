@@ -19,6 +19,7 @@ protected:
         i.esegui(u"UPDATE PostazioneUtente SET Posto1SS='ST', Posto2SS=NULL, Posto3SS='altro', Posto10SS='SG'"_s);
         pannello = std::make_unique<SplasModule>(i.ambiente, vociDelPannello(), QUrl(u"https://www.zuvora.example/"_s));
         pannello->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(pannello.get()));
         clicca(*pannello, "PB1(10)");
     }
     int scelto(int postazione) {
@@ -44,6 +45,7 @@ TEST_F(ProvaPostazioni, MostraQuelloCheCEEScriveUnaColonna) {
     clicca(*pannello, "PosSS(3)");
     EXPECT_EQ(i.valore(u"SELECT Posto2SS FROM PostazioneUtente"_s), u"ST"_s);
     EXPECT_EQ(i.valore(u"SELECT Posto3SS FROM PostazioneUtente"_s), u"altro"_s);
+    bottone(3).setFocus();
     QTest::keyClick(&bottone(3), Qt::Key_Left);
     EXPECT_EQ(i.valore(u"SELECT Posto2SS FROM PostazioneUtente"_s), u"SG"_s);
     i.esegui(u"UPDATE PostazioneUtente SET Posto10SS='ST'"_s);

@@ -21,7 +21,7 @@ UtentiServizi::UtentiServizi(const Ambiente &ambiente_, QWidget *padre)
     grid.lega(Data8);
     apri(Data8, cartella(), SorgenteServizi.toString());
     ContaAttivi();
-    quando(grid, &Grid::doppioClic, [this] { scambia(); });
+    quando(grid, &Grid::attivato, [this] { scambia(); });
     alClic(ctButton2(1), [this] { modifica(); });
     alClic(ctButton2(2), [this] { cancella(); });
     alClic(ctButton2(0), [this] { scarica(); });
