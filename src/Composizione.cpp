@@ -4,6 +4,8 @@
 #include "calling/forms/GruppoPostazioni.h"
 #include "calling/forms/PaginaDinDon.h"
 #include "calling/forms/UtentiServizi.h"
+#include "kiosk/forms/Impostatotem.h"
+#include "kiosk/forms/VarieImpostaTotem.h"
 #include "library/forms/ApriTela.h"
 #include "library/forms/Elementi.h"
 #include "library/forms/SceltaLayout.h"
@@ -20,10 +22,7 @@ template <class F> const ApriForm form = [](const Apertura &a) { F(a.ambiente, a
 template <class P> const ApriPagina pagina = [](const Apertura &a) { return std::make_unique<P>(a); };
 
 void mostraSceltaLayout(const Apertura &a) {
-    const auto carica = [&a](const QString &tabella, QWidget *padre) {
-        apriTela(a.ambiente, a.risoluzione, tabella, padre);
-    };
-    SceltaLayout(a.ambiente, carica, a.padre).mostraModale();
+    SceltaLayout(a.ambiente, a.risoluzione, a.padre).mostraModale();
 }
 const ApriForm sceltaLayout = mostraSceltaLayout;
 
@@ -35,6 +34,12 @@ std::unique_ptr<Pagina> creaPaginaClient(const Apertura &a) {
     return pagina;
 }
 const ApriPagina paginaClient = creaPaginaClient;
+// The size of the kiosk's preview outlives the form that opens it.
+ApriForm impostaTotem() {
+    return [anteprima = std::make_shared<Misura>()](const Apertura &a) {
+        Impostatotem(a.ambiente, *anteprima, a.padre).mostraModale();
+    };
+}
 
 constexpr bool soloPrincipale = true;
 constexpr bool tutte = false;
@@ -61,8 +66,8 @@ std::vector<VoceMenu> vociDelPannello() {
         {"PB1(1)", 5040, "  Modulo Vocale (TTS)", u"Modulo Vocale", tutte, form<Boccuccia>},
         {"PB1(6)", 5400, "  Gestione &Radio", u"Gestione Radio", tutte, nulla},
         {"PB1(11)", 6120, "  PlayList di &YouTube", u"Playlist YouTube", tutte, nulla},
-        {"PB1(12)", 6480, "  Imposta schermata Totem", invariato, soloPrincipale, nulla},
-        {"PB1(13)", 6840, "  Varie impostazioni Totem", invariato, soloPrincipale, nulla},
+        {"PB1(12)", 6480, "  Imposta schermata Totem", invariato, soloPrincipale, impostaTotem()},
+        {"PB1(13)", 6840, "  Varie impostazioni Totem", invariato, soloPrincipale, form<VarieImpostaTotem>},
     };
 }
 

@@ -1,9 +1,10 @@
 #include "designer/TelaProva.h"
+#include "kit/Fratello.h"
 
 #include <QDir>
 #include <QLabel>
 #include <QWheelEvent>
-#include <sqlite3.h>
+#include <optional>
 
 using namespace zuvora;
 using namespace Qt::Literals::StringLiterals;
@@ -225,14 +226,13 @@ TEST(Salva, BloccatoDaUnAltroProgrammaLasciaLaTelaELaTabella) {
     TelaProva tela;
     tela.e("MP1").area.left = 888;
     const QByteArray prima = tela.installazione.contenuto();
-    sqlite3 *altro = nullptr;
-    ASSERT_EQ(sqlite3_open(tela.installazione.archivio().toUtf8().constData(), &altro), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(altro, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    std::optional<Fratello> altro(tela.installazione.archivio());
+    ASSERT_EQ(altro->esegui(u"BEGIN IMMEDIATE"_s), SQLITE_OK);
     QString righe;
     Guida guida;
     guida.messaggio(&righe);
     clicca(*tela.form, "Btn(16)");
-    sqlite3_close(altro);
+    altro.reset();
     EXPECT_TRUE(righe.startsWith(u"Memorizzazione non effettuata !"_s)) << righe.toStdString();
     EXPECT_EQ(tela.e("MP1").area.left, 888);
     EXPECT_EQ(tela.installazione.contenuto(), prima);

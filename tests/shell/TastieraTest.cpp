@@ -1,9 +1,9 @@
 // Keys, focus and activation as every form of the program has them.
+#include "shell/host/Tastiera.h"
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
 #include "shell/host/Form.h"
 #include "shell/host/MsgForm.h"
-#include "shell/host/Tastiera.h"
 
 #include <QApplication>
 #include <QSignalSpy>
@@ -73,12 +73,8 @@ TEST_F(Tasti, InvioPremeIlBottoneGiusto) {
     const struct {
         QWidget &fuoco;
         const char *preme;
-    } casi[] = {{form.Campo, "Salva"},
-                {form.SolaLettura, "Salva"},
-                {form.NelGruppo, "SalvaGruppo"},
-                {form.Chiudi, "Chiudi"},
-                {form.SalvaGruppo, "SalvaGruppo"},
-                {form.RB1(0), "Salva"}};
+    } casi[] = {{form.Campo, "Salva"},   {form.SolaLettura, "Salva"},       {form.NelGruppo, "SalvaGruppo"},
+                {form.Chiudi, "Chiudi"}, {form.SalvaGruppo, "SalvaGruppo"}, {form.RB1(0), "Salva"}};
     for (const auto &caso : casi)
         for (const int tasto : {int(Qt::Key_Return), int(Qt::Key_Enter)}) {
             caso.fuoco.setFocus();
@@ -122,7 +118,8 @@ TEST_F(Tasti, TabNellOrdineDiLettura) {
         giro << form.fuoco();
         premi(Qt::Key_Tab);
     } while (form.fuoco() != u"Campo" && giro.size() < 20);
-    EXPECT_EQ(giro.join(u' '), u"Campo Accanto NelGruppo SalvaGruppo RB1(1) RB2(3) Salva Chiudi SolaLettura"_s);
+    EXPECT_EQ(giro.join(u' ').toStdString(),
+              "Campo Accanto NelGruppo SalvaGruppo RB1(1) RB2(3) Salva Chiudi SolaLettura");
     premi(Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(form.fuoco(), u"SolaLettura"_s);
 }
@@ -158,9 +155,9 @@ TEST_F(Tasti, AttivataDopoLAperturaEAOgniRitorno) {
     QWidget altra;
     altra.show();
     altra.activateWindow();
-    QTest::qWaitForWindowActive(&altra);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&altra));
     form.activateWindow();
-    QTest::qWaitForWindowActive(&form);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
     QCoreApplication::processEvents();
     EXPECT_EQ(form.attivazioni, 2);
 }

@@ -44,8 +44,8 @@ GruppoRadio::GruppoRadio(const Schiera<RadioButton> &schiera) : m_schiera(schier
     for (const auto &[indice, bottone] : schiera)
         m_gruppo.addButton(bottone.get(), indice);
     connect(&m_gruppo, &QButtonGroup::idClicked, this, &GruppoRadio::cambiato);
-    if (scelto() < 0)
-        fermataDelTab();
+    connect(&m_gruppo, &QButtonGroup::idToggled, this, &GruppoRadio::fermataDelTab);
+    fermataDelTab();
 }
 
 int GruppoRadio::scelto() const {
@@ -62,13 +62,14 @@ void GruppoRadio::setScelto(int indice) {
         acceso->setChecked(false);
         m_gruppo.setExclusive(true);
     }
-    fermataDelTab();
 }
 
 void GruppoRadio::fermataDelTab() {
-    bool primo = true;
+    const QAbstractButton *ferma = m_gruppo.checkedButton();
+    if (ferma == nullptr && m_schiera.size() > 0)
+        ferma = m_schiera.begin()->controllo.get();
     for (const auto &[indice, bottone] : m_schiera)
-        fermaIlTab(*bottone, std::exchange(primo, false));
+        fermaIlTab(*bottone, bottone.get() == ferma);
 }
 
 CheckBox::CheckBox(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto)

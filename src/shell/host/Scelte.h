@@ -26,14 +26,14 @@ class GruppoRadio : public QObject {
 public:
     // The array must outlive the group.
     explicit GruppoRadio(const Schiera<RadioButton> &schiera);
-    int scelto() const;          // index of the array, -1 while none is on
-    void setScelto(int indice);  // -1, or an index that the array doesn't have, turns all off; signals nothing
+    int scelto() const;         // index of the array, -1 while none is on
+    void setScelto(int indice); // -1, or an index that the array doesn't have, turns all off; signals nothing
 
 Q_SIGNALS:
     void cambiato(int indice); // the user pressed this button
 
 private:
-    void fermataDelTab(); // while none is on, Tab stops at the first
+    void fermataDelTab(); // at the button that is on; while none is, at the first
 
     const Schiera<RadioButton> &m_schiera;
     QButtonGroup m_gruppo;
