@@ -6,7 +6,6 @@
 #include "calling/forms/UtentiServizi.h"
 #include "kiosk/forms/Impostatotem.h"
 #include "kiosk/forms/VarieImpostaTotem.h"
-#include "library/forms/ApriTela.h"
 #include "library/forms/Elementi.h"
 #include "library/forms/SceltaLayout.h"
 #include "pannello/forms/PaginaClient.h"
@@ -34,6 +33,7 @@ std::unique_ptr<Pagina> creaPaginaClient(const Apertura &a) {
     return pagina;
 }
 const ApriPagina paginaClient = creaPaginaClient;
+
 // The size of the kiosk's preview outlives the form that opens it.
 ApriForm impostaTotem() {
     return [anteprima = std::make_shared<Misura>()](const Apertura &a) {
