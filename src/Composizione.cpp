@@ -57,7 +57,6 @@ ApriForm impostaTotem() {
 constexpr bool soloPrincipale = true;
 constexpr bool tutte = false;
 constexpr auto invariato = std::nullopt; // the title stays as it was
-constexpr std::monostate nulla;
 
 } // namespace
 
