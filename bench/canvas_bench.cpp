@@ -70,7 +70,7 @@ struct Banco {
     explicit Banco(int visibili = righeLayout) {
         misura::preparaApplicazione();
         sqlite3 *db = nullptr;
-        sqlite3_open(cartella.filePath(NomeArchivio.toString()).toUtf8().constData(), &db);
+        sqlite3_open(percorsoArchivio(cartella.path()).toUtf8().constData(), &db);
         sqlite3_exec(db, Schema, nullptr, nullptr, nullptr);
         sqlite3_close(db);
         valori.PercorsoApplicazione = cartella.path();

@@ -1,6 +1,7 @@
 #include "Composizione.h"
 
-#include "library/forms/ApriTela.h"
+#include "kiosk/forms/Impostatotem.h"
+#include "kiosk/forms/VarieImpostaTotem.h"
 #include "library/forms/Elementi.h"
 #include "library/forms/SceltaLayout.h"
 #include "pannello/forms/PaginaClient.h"
@@ -16,12 +17,16 @@ template <class F> const ApriForm form = [](const Apertura &a) { F(a.ambiente, a
 template <class P> const ApriPagina pagina = [](const Apertura &a) { return std::make_unique<P>(a); };
 
 void mostraSceltaLayout(const Apertura &a) {
-    const auto carica = [&a](const QString &tabella, QWidget *padre) {
-        apriTela(a.ambiente, a.risoluzione, tabella, padre);
-    };
-    SceltaLayout(a.ambiente, carica, a.padre).mostraModale();
+    SceltaLayout(a.ambiente, a.risoluzione, a.padre).mostraModale();
 }
 const ApriForm sceltaLayout = mostraSceltaLayout;
+
+// The size of the kiosk's preview outlives the form that opens it.
+ApriForm impostaTotem() {
+    return [anteprima = std::make_shared<Misura>()](const Apertura &a) {
+        Impostatotem(a.ambiente, *anteprima, a.padre).mostraModale();
+    };
+}
 
 constexpr bool soloPrincipale = true;
 constexpr bool tutte = false;
@@ -48,8 +53,8 @@ std::vector<VoceMenu> vociDelPannello() {
         {"PB1(1)", 5040, "  Modulo Vocale (TTS)", u"Modulo Vocale", tutte, nulla},
         {"PB1(6)", 5400, "  Gestione &Radio", u"Gestione Radio", tutte, nulla},
         {"PB1(11)", 6120, "  PlayList di &YouTube", u"Playlist YouTube", tutte, nulla},
-        {"PB1(12)", 6480, "  Imposta schermata Totem", invariato, soloPrincipale, nulla},
-        {"PB1(13)", 6840, "  Varie impostazioni Totem", invariato, soloPrincipale, nulla},
+        {"PB1(12)", 6480, "  Imposta schermata Totem", invariato, soloPrincipale, impostaTotem()},
+        {"PB1(13)", 6840, "  Varie impostazioni Totem", invariato, soloPrincipale, form<VarieImpostaTotem>},
     };
 }
 

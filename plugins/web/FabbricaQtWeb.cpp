@@ -30,7 +30,10 @@ std::unique_ptr<VistaWeb> FabbricaQtWeb::crea(QWidget *padre) {
     const QDir programmi(QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath));
     if (!QFile::exists(dato.isEmpty() ? programmi.filePath(u"QtWebEngineProcess"_s) : dato))
         return nullptr;
-    return std::make_unique<VistaQtWeb>(padre);
+    if (!m_profilo)
+        m_profilo.emplace();
+    m_profilo->svuota();
+    return std::make_unique<VistaQtWeb>(m_profilo->profilo(), padre);
 }
 
 } // namespace zuvora

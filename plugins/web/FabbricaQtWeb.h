@@ -1,8 +1,10 @@
 #pragma once
 
 #include "shell/host/VistaWeb.h"
+#include "web/ProfiloWeb.h"
 
 #include <QObject>
+#include <optional>
 
 namespace zuvora {
 
@@ -14,6 +16,9 @@ class FabbricaQtWeb : public QObject, public FabbricaVistaWeb {
 public:
     FabbricaQtWeb();
     std::unique_ptr<VistaWeb> crea(QWidget *padre) override;
+
+private:
+    std::optional<ProfiloWeb> m_profilo; // with the first page
 };
 
 } // namespace zuvora

@@ -1,5 +1,6 @@
 #include "web/PaginaQtWeb.h"
 
+#include <QAuthenticator>
 #include <QWebEngineCertificateError>
 #include <QWebEngineClientCertificateSelection>
 #include <QWebEngineFileSystemAccessRequest>
@@ -64,6 +65,11 @@ void PaginaQtWeb::rifiutaRichieste() {
             [](QWebEngineClientCertificateSelection s) { s.selectNone(); });
     connect(this, &QWebEnginePage::certificateError, this,
             [](QWebEngineCertificateError errore) { errore.rejectCertificate(); });
+    // An empty answer calls the request off; without one the engine asks again and again.
+    connect(this, &QWebEnginePage::authenticationRequired, this,
+            [](const QUrl &, QAuthenticator *risposta) { *risposta = QAuthenticator(); });
+    connect(this, &QWebEnginePage::proxyAuthenticationRequired, this,
+            [](const QUrl &, QAuthenticator *risposta) { *risposta = QAuthenticator(); });
 }
 
 bool PaginaQtWeb::acceptNavigationRequest(const QUrl &indirizzo, NavigationType, bool principale) {

@@ -3,26 +3,22 @@
 #include "shell/host/VistaWeb.h"
 
 #include <QPointer>
+#include <QTimer>
 #include <QWebEngineLoadingInfo>
-#include <QWebEngineProfile>
 #include <QWebEngineView>
-#include <memory>
+#include <optional>
 
 namespace zuvora {
 
 class PaginaQtWeb;
 
-// Ends a profile some time after its page. A file that a page sends is handed to a thread of the engine's own, which
-// works on the profile unguarded: ended meanwhile, it takes the program with it. No signal tells when that is over.
-struct CongedaProfilo {
-    void operator()(QWebEngineProfile *profilo) const;
-};
-
-// A web view on Qt WebEngine, off the record: it keeps nothing on disk and shares nothing with other views.
+// A web view on Qt WebEngine.
 class VistaQtWeb : public QObject, public VistaWeb {
     Q_OBJECT
 public:
-    explicit VistaQtWeb(QWidget *padre);
+    enum class Password { Nessuna, DelServer, DelProxy };
+
+    VistaQtWeb(QWebEngineProfile *profilo, QWidget *padre);
     ~VistaQtWeb() override;
 
     QWidget *widget() override { return m_vista; }
@@ -33,12 +29,15 @@ public:
 private:
     void cambiaCarico(const QWebEngineLoadingInfo &carico);
     void interrompi(QWebEnginePage::RenderProcessTerminationStatus stato);
+    void sorveglia();
     void annuncia(EsitoWeb esito, const QUrl &indirizzo);
 
-    std::unique_ptr<QWebEngineProfile, CongedaProfilo> m_profilo; // must outlive the page, which goes with the view
     QPointer<QWebEngineView> m_vista;
     PaginaQtWeb *m_pagina;
+    QTimer m_guardia;
     bool m_ricevuta = false; // a page asked for stands here
+    bool m_troppaMemoria = false;
+    Password m_chiesta = Password::Nessuna; // since the load began
     AlCambio m_alCambio;
 };
 

@@ -1,8 +1,9 @@
 #include "designer/TelaProva.h"
+#include "kit/Fratello.h"
 
 #include <QLabel>
 #include <QWheelEvent>
-#include <sqlite3.h>
+#include <optional>
 
 using namespace zuvora;
 using namespace Qt::Literals::StringLiterals;
@@ -201,10 +202,9 @@ TEST(Salva, CioCheNonSiPuoScrivereSiDiceELaTelaResta) {
     for (const bool bloccato : {true, false}) { // by another program; or of a write version of the future
         TelaProva tela;
         tela.e("MP1").area.left = 888;
-        sqlite3 *altro = nullptr;
-        ASSERT_EQ(sqlite3_open(tela.installazione.archivio().toUtf8().constData(), &altro), SQLITE_OK);
+        std::optional<Fratello> altro(tela.installazione.archivio());
         if (bloccato) {
-            ASSERT_EQ(sqlite3_exec(altro, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+            ASSERT_EQ(altro->esegui(u"BEGIN IMMEDIATE"_s), SQLITE_OK);
         } else {
             QFile archivio(tela.installazione.archivio());
             ASSERT_TRUE(archivio.open(QIODevice::ReadWrite) && archivio.seek(18) && archivio.putChar(3));
@@ -214,7 +214,7 @@ TEST(Salva, CioCheNonSiPuoScrivereSiDiceELaTelaResta) {
         Guida guida;
         guida.messaggio(&righe);
         clicca(*tela.form, "Btn(16)");
-        sqlite3_close(altro);
+        altro.reset();
         EXPECT_TRUE(righe.startsWith(u"Memorizzazione non effettuata !"_s)) << righe.toStdString();
         EXPECT_GT(righe.size(), 80) << righe.toStdString(); // and why, and whether to try again
         EXPECT_EQ(tela.e("MP1").area.left, 888);

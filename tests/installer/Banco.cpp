@@ -1,9 +1,10 @@
 #include "installer/Banco.h"
 
+#include "kit/Fratello.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
-#include <sqlite3.h>
 
 namespace prova {
 using namespace Qt::Literals::StringLiterals;
@@ -31,25 +32,15 @@ void Banco::scrivi(const QString &nome, const QByteArray &contenuto) const {
 }
 
 zuvora::installa::OpzioniCrea opzioni(const QString &cartella, bool esempio) {
-    return {cartella, esempio, false, QFileInfo(QStringLiteral(ZUVORA_INSTALLA)).path()};
+    return {cartella, esempio, {}, false, QFileInfo(QStringLiteral(ZUVORA_INSTALLA)).path()};
 }
 
 QString sql(const QString &archivio, const QString &istruzione) {
-    sqlite3 *db = nullptr;
-    EXPECT_EQ(sqlite3_open_v2(archivio.toUtf8().constData(), &db, SQLITE_OPEN_READWRITE, nullptr), SQLITE_OK);
-    QString primo;
-    const auto prendi = [](void *dove, int, char **valori, char **) {
-        auto &testo = *static_cast<QString *>(dove);
-        if (testo.isNull())
-            testo = QString::fromUtf8(valori[0]);
-        return 0;
-    };
-    char *errore = nullptr;
-    EXPECT_EQ(sqlite3_exec(db, istruzione.toUtf8().constData(), prendi, &primo, &errore), SQLITE_OK)
-        << (errore ? errore : "");
-    sqlite3_free(errore);
-    sqlite3_close(db);
-    return primo;
+    zuvora::Fratello fratello(archivio);
+    if (istruzione.startsWith(u"select"_s, Qt::CaseInsensitive) || istruzione.contains(u" RETURNING "_s))
+        return fratello.valore(istruzione).toString();
+    EXPECT_EQ(fratello.esegui(istruzione), SQLITE_OK) << istruzione.toStdString();
+    return {};
 }
 
 QByteArray leggi(const QString &nome) {

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "kit/Fratello.h"
 #include "shell/store/EngineError.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 // Readable failures.
 inline void PrintTo(const QString &s, std::ostream *os) {
@@ -29,35 +29,19 @@ protected:
     QString zuvora() const { return m_cartella.filePath(u"Zuvora.mdb"_s); }
     QString totem() const { return m_cartella.filePath(u"Totem/TotemZuvora.mdb"_s); }
 
-    // Runs SQL; gives the rows of the last query, columns parted by a bar, texts in quotes.
+    // Runs SQL; gives the rows of a query, columns parted by a bar.
     static QStringList esegui(const QString &archivio, const QString &sql) {
-        sqlite3 *db = nullptr;
-        EXPECT_EQ(sqlite3_open_v2(archivio.toUtf8().constData(), &db, SQLITE_OPEN_READWRITE, nullptr), SQLITE_OK);
-        QStringList righe;
-        char *errore = nullptr;
-        sqlite3_exec(
-            db, sql.toUtf8().constData(),
-            [](void *dove, int quante, char **valori, char **) {
-                QStringList riga;
-                for (int i = 0; i < quante; ++i)
-                    riga << (valori[i] == nullptr ? u"NULL"_s : QString::fromUtf8(valori[i]));
-                *static_cast<QStringList *>(dove) << riga.join(u'|');
-                return 0;
-            },
-            &righe, &errore);
-        EXPECT_EQ(errore, nullptr) << errore;
-        sqlite3_free(errore);
-        sqlite3_close(db);
-        return righe;
+        Fratello fratello(archivio);
+        if (sql.startsWith(u"select"_s, Qt::CaseInsensitive))
+            return fratello.righe(sql);
+        EXPECT_EQ(fratello.esegui(sql), SQLITE_OK) << sql.toStdString();
+        return {};
     }
 
 private:
     static void crea(const QString &archivio, const QString &schema) {
         QFile file(QStringLiteral(CARTELLA_SCHEMA "/") + schema);
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        QFile nuovo(archivio);
-        ASSERT_TRUE(nuovo.open(QIODevice::WriteOnly));
-        nuovo.close();
         esegui(archivio, u"BEGIN;"_s + QString::fromUtf8(file.readAll()) + u";COMMIT;"_s);
     }
     QTemporaryDir m_cartella;

@@ -2,13 +2,14 @@
 
 #include "designer/logic/DisplayLayout.h"
 #include "designer/logic/ImmaginiQt.h"
+#include "kit/Fratello.h"
 #include "shell/store/Data.h"
 
 #include <QFile>
 #include <QSet>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-#include <sqlite3.h>
+#include <optional>
 
 // Readable failures.
 inline void PrintTo(const QString &s, std::ostream *os) {
@@ -35,35 +36,15 @@ class ArchivioLayout : public ::testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(m_cartella.isValid());
-        ASSERT_EQ(sqlite3_open(m_cartella.filePath(u"Zuvora.mdb"_s).toUtf8().constData(), &m_db), SQLITE_OK);
+        m_fratello.emplace(m_cartella.filePath(u"Zuvora.mdb"_s));
         QFile schema(QStringLiteral(CARTELLA_SCHEMA "/zuvora.sql"));
         ASSERT_TRUE(schema.open(QIODevice::ReadOnly));
-        esegui(u"PRAGMA synchronous=OFF; BEGIN; "_s + QString::fromUtf8(schema.readAll()) + u"; COMMIT;"_s);
+        esegui(u"BEGIN; "_s + QString::fromUtf8(schema.readAll()) + u"; COMMIT;"_s);
     }
-    void TearDown() override { sqlite3_close(m_db); }
 
     QString cartella() const { return m_cartella.path(); }
-    void esegui(const QString &sql) {
-        char *errore = nullptr;
-        const int esito = sqlite3_exec(m_db, sql.toUtf8().constData(), nullptr, nullptr, &errore);
-        ASSERT_EQ(esito, SQLITE_OK) << (errore ? errore : "") << sql.toStdString();
-    }
-    // Rows of a query; each value as an SQL literal, so that types and Null show.
-    QStringList interroga(const QString &sql) {
-        QStringList righe;
-        sqlite3_stmt *s = nullptr;
-        EXPECT_EQ(sqlite3_prepare_v2(m_db, sql.toUtf8().constData(), -1, &s, nullptr), SQLITE_OK) << sql.toStdString();
-        while (sqlite3_step(s) == SQLITE_ROW) {
-            QStringList valori;
-            for (int c = 0; c < sqlite3_column_count(s); ++c) {
-                const auto *t = reinterpret_cast<const char *>(sqlite3_column_text(s, c));
-                valori.append(t ? QString::fromUtf8(t) : u"NULL"_s);
-            }
-            righe.append(valori.join(u'|'));
-        }
-        sqlite3_finalize(s);
-        return righe;
-    }
+    void esegui(const QString &sql) { ASSERT_EQ(m_fratello->esegui(sql), SQLITE_OK) << sql.toStdString(); }
+    QStringList interroga(const QString &sql) { return m_fratello->righe(sql); }
     QString valore(const QString &tabella, int riga, const QString &colonna) {
         return interroga(u"select [%1] from %2 where rowid=%3"_s.arg(colonna, tabella).arg(riga)).value(0);
     }
@@ -82,7 +63,7 @@ protected:
 
 private:
     QTemporaryDir m_cartella;
-    sqlite3 *m_db = nullptr;
+    std::optional<Fratello> m_fratello;
 };
 
 } // namespace zuvora::prova

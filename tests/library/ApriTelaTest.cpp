@@ -17,8 +17,7 @@ namespace {
 TEST(ApriTela, UnaDecorazioneDalCatalogoArrivaNellaTabella) {
     InstallazioneProva i;
     i.esegui(u"UPDATE Configurazione SET qualelayout=4; UPDATE Layout4 SET Visibile=0"_s);
-    SceltaLayout form(
-        i.ambiente, [&](const QString &tabella, QWidget *padre) { apriTela(i.ambiente, 3, tabella, padre); }, nullptr);
+    SceltaLayout form(i.ambiente, 3, nullptr);
     Guida guida;
     guida.premi("Form1", "Btn(8)");
     guida.quando("ImpostaCornice", [](QWidget &w) {

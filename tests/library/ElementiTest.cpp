@@ -2,11 +2,19 @@
 #include "kit/InstallazioneProva.h"
 #include "library/Premi.h"
 #include "shell/host/AnteprimaImmagine.h"
+#include "shell/host/Attesa.h"
+#include "shell/host/Form.h"
 #include "shell/host/Grid.h"
 
+#include <QApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
+#include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QTest>
+#include <QThread>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -84,7 +92,7 @@ TEST_F(ProvaElementi, CopiaFallitaLasciaLaRiga) {
     Elementi form(i.ambiente, nullptr);
     EXPECT_TRUE(aggiungi(form, origine).startsWith(u"Controllare la procedura ed eseguirla nuovamente !"_s));
     EXPECT_EQ(i.valore(u"SELECT File FROM Decorazioni WHERE ID > 171"_s).toString(), u"y.bmp"_s);
-    EXPECT_EQ(trova<AnteprimaImmagine>(form, "Image1").testo(), u"File non trovato: y.bmp"_s);
+    EXPECT_EQ(trova<AnteprimaImmagine>(form, "Image1").testo(), u"File non trovato.\ny.bmp"_s);
 }
 
 TEST_F(ProvaElementi, AnnullatoOIllegibileNonScrive) {
@@ -96,7 +104,37 @@ TEST_F(ProvaElementi, AnnullatoOIllegibileNonScrive) {
     m_file.close();
     EXPECT_EQ(aggiungi(form, m_file.fileName()),
               u"Impossibile caricare l'immagine scelta !\nIl file non è un'immagine leggibile."_s);
+    // Its pixels can be shown as far as they go.
+    QImage(64, 64, QImage::Format_RGB32).save(i.file(u"foto.jpg"_s));
+    ASSERT_TRUE(QFile::resize(i.file(u"foto.jpg"_s), QFileInfo(i.file(u"foto.jpg"_s)).size() / 3));
+    EXPECT_TRUE(aggiungi(form, i.file(u"foto.jpg"_s)).startsWith(u"Impossibile caricare l'immagine scelta !"_s));
     EXPECT_EQ(i.contenuto(), prima);
+    EXPECT_FALSE(QFile::exists(i.file(u"ZuvoraDecorazioni/Cornici/foto.jpg"_s)));
+}
+
+// What is long is told while it runs and can be called off; what is short shows nothing.
+TEST_F(ProvaElementi, LAttesaMostraLAvanzamentoESiAnnulla) {
+    Form form(i.ambiente, "Prova", "", {3000, 3000}, nullptr);
+    EXPECT_EQ(aspettaEsito<int>(i.ambiente, &form, u"breve"_s, [](Avanzamento &) { return 7; }), 7);
+    EXPECT_THROW(aspetta(i.ambiente, &form, u"guasta"_s, [](Avanzamento &) { throw std::bad_alloc(); }),
+                 std::bad_alloc);
+    const auto finita = std::make_shared<std::atomic<bool>>(false);
+    Guida guida;
+    guida.quando("Attesa", [](QWidget &w) {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return trova<QProgressBar>(w, "Barra").value() == 40; }));
+        EXPECT_EQ(trova<QLabel>(w, "Label1").text(), u"lunga"_s);
+        EXPECT_EQ(didascalieTagliate(w), QStringList());
+        fotografa(w);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    });
+    const bool fatta = aspetta(i.ambiente, &form, u"lunga"_s, [finita](Avanzamento &a) {
+        a.setParte(2, 5);
+        while (!a.annullato())
+            QThread::msleep(1);
+        *finita = true;
+    });
+    EXPECT_FALSE(fatta);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return finita->load(); }));
 }
 
 TEST_F(ProvaElementi, EliminaSoloLeProprie) {

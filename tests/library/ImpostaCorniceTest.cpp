@@ -62,13 +62,10 @@ TEST_F(ProvaCornice, UnaCategoriaVuotaApplicaIlVuoto) {
 TEST_F(ProvaCornice, IlFileMancanteOIllegibileNonSiApplica) {
     const struct {
         const char *file;
-        const char *anteprima;
-        const char *messaggio;
-    } casi[] = {
-        {" manca.gif", "File non trovato:  manca.gif", "File non trovato."},
-        {" testo.gif", "Il file non è un'immagine leggibile:  testo.gif", "Il file non è un'immagine leggibile."},
-        {" cartella.gif", "Il file non è un'immagine leggibile:  cartella.gif",
-         "Il file non è un'immagine leggibile."}};
+        const char *motivo;
+    } casi[] = {{" manca.gif", "File non trovato."},
+                {" testo.gif", "Il file non è un'immagine leggibile."},
+                {" cartella.gif", "Non è un file."}};
     QFile testo(decorazione(u"Cornici/ testo.gif"_s));
     ASSERT_TRUE(testo.open(QIODevice::WriteOnly) && testo.write("niente") > 0);
     testo.close();
@@ -76,9 +73,9 @@ TEST_F(ProvaCornice, IlFileMancanteOIllegibileNonSiApplica) {
     for (const auto &caso : casi) {
         i.esegui(u"UPDATE Decorazioni SET File='%1' WHERE ID=1"_s.arg(QString::fromUtf8(caso.file)));
         ImpostaCornice form(i.ambiente, 1, nullptr);
-        EXPECT_EQ(trova<AnteprimaImmagine>(form, "Image1").testo(), QString::fromUtf8(caso.anteprima));
-        EXPECT_EQ(premi(form, "Btn(0)"),
-                  u"Impossibile caricare l'immagine scelta !\n"_s + QString::fromUtf8(caso.messaggio));
+        const QString motivo = QString::fromUtf8(caso.motivo);
+        EXPECT_EQ(trova<AnteprimaImmagine>(form, "Image1").testo(), motivo + u'\n' + QString::fromUtf8(caso.file));
+        EXPECT_EQ(premi(form, "Btn(0)"), u"Impossibile caricare l'immagine scelta !\n"_s + motivo);
         EXPECT_FALSE(form.applicata());
     }
 }

@@ -1,6 +1,7 @@
 #include "library/forms/ImpostaSfondo.h"
 #include "kit/InstallazioneProva.h"
 #include "library/Premi.h"
+#include "shell/logic/SistemaFile.h"
 
 #include <QFile>
 #include <QImage>
@@ -70,7 +71,8 @@ TEST_F(ProvaSfondo, NelTotem) {
     scegli(*form, 0);
     clicca(*form, "PushButton1");
     clicca(*form, "PushButton1");
-    const QString rete = u"\\\\PC-PROVA"_s + QDir::current().filePath(u"L'età.JPG"_s).replace(u'/', u'\\');
+    const QString rete =
+        u"\\\\"_s + SistemaLocale().nomeMacchina() + QDir::current().filePath(u"L'età.JPG"_s).replace(u'/', u'\\');
     EXPECT_EQ(impostati, QStringList({rete, rete}));
     EXPECT_FALSE(premi(*form, "PushButton3").isEmpty());
     EXPECT_EQ(impostati.size(), 2);

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,11 +15,16 @@ namespace {
 
 class ProvaScelta : public testing::Test {
 protected:
-    std::unique_ptr<SceltaLayout> apri() {
-        return std::make_unique<SceltaLayout>(
-            i.ambiente, [this](const QString &tabella, QWidget *) { aperti << tabella; }, nullptr);
+    std::unique_ptr<SceltaLayout> apri() { return std::make_unique<SceltaLayout>(i.ambiente, 3, nullptr); }
+    // What the designer that comes next was opened on; it is closed at once.
+    void attendiTela() {
+        guida.quando("Form1", [this](QWidget &w) {
+            aperti << i.valori.LayoutCorrente;
+            clicca(w, "Btn(17)");
+        });
     }
     InstallazioneProva i;
+    Guida guida;
     QStringList aperti;
 };
 
@@ -84,12 +90,27 @@ TEST_F(ProvaScelta, CaricaLaLineaScelta) {
     const auto form = apri();
     EXPECT_EQ(premi(*form, "PB1(3)"), u"Selezionare un Layout !"_s);
     EXPECT_TRUE(aperti.isEmpty());
-    clicca(*form, "RB1(0)");
-    clicca(*form, "PB1(3)");
-    clicca(*form, "RB1(10)");
-    clicca(*form, "PB1(3)");
+    for (const char *linea : {"RB1(0)", "RB1(10)"}) {
+        attendiTela();
+        clicca(*form, linea);
+        clicca(*form, "PB1(3)");
+    }
     EXPECT_EQ(aperti, QStringList({u"LayoutBase"_s, u"Layout10"_s}));
-    EXPECT_EQ(i.valori.LayoutCorrente, u"Layout10"_s);
+}
+
+TEST_F(ProvaScelta, IlNomeSceglieEIlDoppioClicApre) {
+    const auto form = apri();
+    form->show();
+    auto &nome = trova<QLineEdit>(*form, "text1(12)");
+    QTest::mouseClick(&nome, Qt::RightButton);
+    EXPECT_NE(lineaAccesa(*form), 6);
+    QTest::mouseClick(&nome, Qt::LeftButton);
+    EXPECT_EQ(lineaAccesa(*form), 6);
+    QTest::mouseDClick(&trova<QLineEdit>(*form, "text1(7)"), Qt::LeftButton); // a description
+    attendiTela();
+    QTest::mouseDClick(&trova<QLineEdit>(*form, "text1(4)"), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return guida.finita(); }));
+    EXPECT_EQ(aperti, QStringList{u"Layout2"_s});
 }
 
 TEST_F(ProvaScelta, MenoDiUndiciDescrizioni) {
@@ -100,7 +121,8 @@ TEST_F(ProvaScelta, MenoDiUndiciDescrizioni) {
         QApplication::processEvents();
     EXPECT_TRUE(trova<QLineEdit>(*form, "text1(17)").isEnabled());
     EXPECT_FALSE(trova<QLineEdit>(*form, "text1(19)").isEnabled());
-    QApplication::processEvents();
+    for (int giro = 0; giro < 3; ++giro)
+        QApplication::processEvents(); // the activation is queued, and what it tells once more
     EXPECT_TRUE(i.dialoghi.unicoMessaggio().contains(u"Layout 9, Layout 10"_s));
     EXPECT_TRUE(premi(*form, "PB1(1)").startsWith(u"Salvataggio effettuato !"_s));
     EXPECT_EQ(i.valore(u"SELECT count(*) FROM DescrizioneLayout"_s).toInt(), 9);

@@ -134,10 +134,10 @@ TEST_F(Immagini, IlMotivoSiDiceAParole) {
 
 TEST_F(Immagini, LaLetturaSiVedeESiAnnulla) {
     const QString percorso = metti(jpeg());
-    AvanzamentoLettura avanzamento;
+    Avanzamento avanzamento;
     EXPECT_FALSE(leggi(percorso, stanza, Riduzione::Proporzioni, &avanzamento).immagine.isNull());
-    EXPECT_EQ(avanzamento.centesimi, 100);
-    avanzamento.annulla = true;
+    EXPECT_EQ(avanzamento.percento(), 100);
+    avanzamento.annulla();
     const ImmagineLetta letta = leggi(percorso, stanza, Riduzione::Proporzioni, &avanzamento);
     EXPECT_TRUE(letta.annullata && letta.immagine.isNull() && letta.motivo.isEmpty());
 }

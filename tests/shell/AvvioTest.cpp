@@ -1,5 +1,6 @@
 // The start of the program, orderly and not.
 #include "pannello/forms/Avvio.h"
+#include "kit/Fratello.h"
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
 
@@ -9,7 +10,7 @@
 #include <QLabel>
 #include <QTimer>
 #include <gtest/gtest.h>
-#include <sqlite3.h>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -160,12 +161,11 @@ TEST_F(Avvio, ArchivioTroncato) {
 }
 
 TEST_F(Avvio, ArchivioBloccatoDaUnAltroProgramma) {
-    sqlite3 *altro = nullptr;
-    ASSERT_EQ(sqlite3_open(prova.archivio().toUtf8().constData(), &altro), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(altro, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+    std::optional<Fratello> altro(prova.archivio());
+    ASSERT_EQ(altro->esegui(u"BEGIN EXCLUSIVE"_s), SQLITE_OK);
     EXPECT_EQ(esegui(), 1);
     EXPECT_TRUE(prova.dialoghi.unicoMessaggio().contains(u"Zuvora.mdb"_s));
-    sqlite3_close(altro);
+    altro.reset();
 }
 
 } // namespace

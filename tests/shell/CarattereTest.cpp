@@ -18,11 +18,13 @@ TEST(CarattereCasa, LAltezzaDellaRigaEQuellaPerCuiSonoFattiIPosti) {
     EXPECT_NEAR(metrica.descent(), 1000 * 423 / 2048.0, 2);
     QFont grassetto = font;
     grassetto.setBold(true);
-    EXPECT_GT(QFontMetricsF(grassetto).horizontalAdvance(QStringLiteral("Zuvora")), metrica.horizontalAdvance(QStringLiteral("Zuvora")) * 1.1);
+    EXPECT_GT(QFontMetricsF(grassetto).horizontalAdvance(QStringLiteral("Zuvora")),
+              metrica.horizontalAdvance(QStringLiteral("Zuvora")) * 1.1);
 }
 
 TEST(CarattereCasa, UnFileCheNonEUnCarattereRestaComEra) {
-    for (const QByteArray &dati : {QByteArray(), QByteArray(12, '\xff'), QByteArray("\0\1\0\0\0\1\0\0\0\0\0\0OS/2", 16)})
+    for (const QByteArray &dati :
+         {QByteArray(), QByteArray(12, '\xff'), QByteArray("\0\1\0\0\0\1\0\0\0\0\0\0OS/2", 16)})
         EXPECT_EQ(carattereCorretto(dati), dati);
 }
 

@@ -1,5 +1,6 @@
 // The panel's own pages: resolutions, position, client.
 #include "Composizione.h"
+#include "kit/Fratello.h"
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
 #include "pannello/forms/SplasModule.h"
@@ -7,7 +8,7 @@
 #include <QRadioButton>
 #include <QTest>
 #include <gtest/gtest.h>
-#include <sqlite3.h>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -126,13 +127,12 @@ TEST_F(Pagine, ClientSenzaPortaNonScrive) {
 TEST_F(Pagine, SalvataggioSuArchivioBloccatoLoDiceENonPerdeNulla) {
     QWidget &pagina = apriPagina("PB1(10)", "BoxImpostazioni(1)");
     trova<QLineEdit>(pagina, "LaPorta").setText(u"6000"_s);
-    sqlite3 *altro = nullptr;
-    ASSERT_EQ(sqlite3_open(prova.archivio().toUtf8().constData(), &altro), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(altro, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    std::optional<Fratello> altro(prova.archivio());
+    ASSERT_EQ(altro->esegui(u"BEGIN IMMEDIATE"_s), SQLITE_OK);
     clicca(pagina, "SaveIP");
     EXPECT_FALSE(prova.dialoghi.unicoMessaggio().isEmpty());
     EXPECT_EQ(trova<QLineEdit>(pagina, "LaPorta").text(), u"6000"_s);
-    sqlite3_close(altro);
+    altro.reset();
     clicca(pagina, "SaveIP"); // once free, the same click stores it
     EXPECT_EQ(colonna(u"RHPort"_s).toString(), u"6000"_s);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kit/Fratello.h"
 #include "shell/store/Data.h"
 #include "shell/store/Database.h"
 #include "shell/store/EngineError.h"
@@ -7,7 +8,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 // Readable failures.
 inline void PrintTo(const QString &s, std::ostream *os) {
@@ -18,32 +18,7 @@ namespace zuvora::prova {
 
 using namespace Qt::Literals::StringLiterals;
 
-// A connection of its own, as a sibling program has one.
-class Fratello {
-public:
-    explicit Fratello(const QString &percorso) { sqlite3_open(percorso.toUtf8().constData(), &m_db); }
-    ~Fratello() { sqlite3_close(m_db); }
-    Fratello(const Fratello &) = delete;
-    Fratello &operator=(const Fratello &) = delete;
-    int esegui(const char *sql) { return sqlite3_exec(m_db, sql, nullptr, nullptr, nullptr); }
-    QString leggi(const char *sql) {
-        sqlite3_stmt *s = nullptr;
-        sqlite3_prepare_v2(m_db, sql, -1, &s, nullptr);
-        QString testo = u"(no row)"_s;
-        if (sqlite3_step(s) == SQLITE_ROW) {
-            const auto *t = reinterpret_cast<const char *>(sqlite3_column_text(s, 0));
-            testo = t == nullptr ? u"(null)"_s : QString::fromUtf8(t);
-        }
-        sqlite3_finalize(s);
-        return testo;
-    }
-    sqlite3 *db() { return m_db; }
-
-private:
-    sqlite3 *m_db = nullptr;
-};
-
-inline constexpr const char *kSchema = R"(
+inline constexpr const char *schema = R"(
 PRAGMA synchronous=OFF; BEGIN;
 CREATE TABLE Versione(Numero TEXT, Data TEXT);
 INSERT INTO Versione VALUES('Versione 3.1.11', 'del 03 Ottobre 2013');
@@ -74,7 +49,7 @@ protected:
     void SetUp() override {
         ASSERT_TRUE(m_cartella.isValid());
         Fratello f(percorso());
-        ASSERT_EQ(f.esegui(kSchema), SQLITE_OK);
+        ASSERT_EQ(f.esegui(QString::fromUtf8(schema)), SQLITE_OK);
     }
     QString cartella() const { return m_cartella.path(); }
     QString percorso() const { return m_cartella.filePath(u"Zuvora.mdb"_s); }

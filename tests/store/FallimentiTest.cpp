@@ -73,7 +73,8 @@ TEST_F(Fallimenti, FileCheNonSonoDatabase) {
 }
 
 TEST_F(Fallimenti, UnaPaginaAzzerata) {
-    const QString pagina = Fratello(percorso()).leggi("SELECT rootpage FROM sqlite_master WHERE name='Configurazione'");
+    const QString pagina =
+        Fratello(percorso()).righe(u"SELECT rootpage FROM sqlite_master WHERE name='Configurazione'"_s).value(0);
     scrivi(conByte((pagina.toLongLong() - 1) * 4096, '\0', 4096));
     Data d;
     fallisce(3049, [&] { apri(d, u"Configurazione"_s); });
@@ -113,7 +114,7 @@ TEST_F(Fallimenti, TabellaColonnaRigaMancanti) {
     fallisce(3021, [&] { apri(d, u"Vuota"_s)[u"Testo"].Value(); });
     // The column goes away between opening and reading.
     Recordset &rs = apri(d, u"Configurazione"_s);
-    Fratello(percorso()).esegui("ALTER TABLE Configurazione DROP COLUMN Nominativo");
+    Fratello(percorso()).esegui(u"ALTER TABLE Configurazione DROP COLUMN Nominativo"_s);
     fallisce(3265, [&] { rs[u"dindon"].Value(); });
     fallisce(3265, [&] { modifica(d); });
 }
@@ -159,7 +160,7 @@ TEST_F(Fallimenti, PermessiDellaPiattaforma) {
         }
         QFile::setPermissions(cartella(), legge | scrive | entra);
         QFile::setPermissions(percorso(), legge | scrive);
-        EXPECT_EQ(Fratello(percorso()).leggi("SELECT Nominativo FROM Configurazione"), u"(null)"_s);
+        EXPECT_EQ(Fratello(percorso()).righe(u"SELECT Nominativo FROM Configurazione"_s).value(0), u"NULL"_s);
     }
 }
 
@@ -208,10 +209,10 @@ TEST_F(Fallimenti, NessunBloccoFraLeOperazioni) {
     rs.Edit();
     rs[u"NomeRadio"].SetValue(u"in corso"_s);
     Fratello f(percorso());
-    EXPECT_EQ(f.esegui("BEGIN EXCLUSIVE; UPDATE radio SET PercorsoURL=''; COMMIT"), SQLITE_OK);
+    EXPECT_EQ(f.esegui(u"BEGIN EXCLUSIVE; UPDATE radio SET PercorsoURL=''; COMMIT"_s), SQLITE_OK);
     rs.Update();
     EXPECT_EQ(numeroDi([&] { rs.FindFirst(u"[nomeradio]like"_s); }), 3075); // not behind a failure either
-    EXPECT_EQ(f.esegui("BEGIN EXCLUSIVE; COMMIT"), SQLITE_OK);
+    EXPECT_EQ(f.esegui(u"BEGIN EXCLUSIVE; COMMIT"_s), SQLITE_OK);
 }
 
 TEST_F(Fallimenti, DiscoPieno) {
@@ -237,14 +238,14 @@ TEST_F(Fallimenti, DiscoPieno) {
 }
 
 TEST_F(Fallimenti, UnFileInWalTornaAlGiornale) {
-    Fratello(percorso()).esegui("PRAGMA journal_mode=WAL");
+    Fratello(percorso()).esegui(u"PRAGMA journal_mode=WAL"_s);
     Data d;
     {
         Fratello f(percorso());
-        EXPECT_EQ(f.leggi("PRAGMA journal_mode"), u"wal"_s);
+        EXPECT_EQ(f.righe(u"PRAGMA journal_mode"_s).value(0), u"wal"_s);
         apri(d, u"Configurazione"_s); // somebody has it open: it works all the same
         modifica(d);
-        EXPECT_EQ(f.leggi("SELECT Nominativo FROM Configurazione"), u"nuovo"_s);
+        EXPECT_EQ(f.righe(u"SELECT Nominativo FROM Configurazione"_s).value(0), u"nuovo"_s);
     }
     Data altro;
     d.DatabaseName = cartella() + u"/manca.mdb"_s; // lets its connection go

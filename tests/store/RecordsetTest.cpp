@@ -71,7 +71,7 @@ TEST_F(RecordsetTest, IlTipoDichiaratoDecide) {
 }
 
 TEST_F(RecordsetTest, UnContenutoDiAltroTipoArrivaComESta) {
-    Fratello(percorso()).esegui("UPDATE Configurazione SET MisuraFormWH='due', tempo='x', PlayDinDon=-1, dindon=5");
+    Fratello(percorso()).esegui(u"UPDATE Configurazione SET MisuraFormWH='due', tempo='x', PlayDinDon=-1, dindon=5"_s);
     Data d;
     Recordset &rs = apri(d, u"Configurazione"_s);
     EXPECT_EQ(rs[u"MisuraFormWH"].Value(), Valore(u"due"_s));
@@ -87,15 +87,15 @@ TEST_F(RecordsetTest, UpdateScriveSoloLeColonneMesse) {
     rs.Edit();
     rs[u"PercorsoURL"].SetValue(u"nuovo"_s);
     Fratello f(percorso());
-    f.esegui("UPDATE radio SET NomeRadio='del fratello' WHERE ID=3");
+    f.esegui(u"UPDATE radio SET NomeRadio='del fratello' WHERE ID=3"_s);
     rs.Update();
-    EXPECT_EQ(f.leggi("SELECT NomeRadio || PercorsoURL FROM radio WHERE ID=3"), u"del fratellonuovo"_s);
+    EXPECT_EQ(f.righe(u"SELECT NomeRadio || PercorsoURL FROM radio WHERE ID=3"_s).value(0), u"del fratellonuovo"_s);
     // A record set on SQL text writes through an alias too.
     Recordset &alias = apri(d, u"select PercorsoURL as U, ID from radio order by ID desc"_s);
     alias.Edit();
     alias[u"u"].SetValue(u"ultimo"_s);
     alias.Update();
-    EXPECT_EQ(f.leggi("SELECT PercorsoURL FROM radio WHERE ID=9"), u"ultimo"_s);
+    EXPECT_EQ(f.righe(u"SELECT PercorsoURL FROM radio WHERE ID=9"_s).value(0), u"ultimo"_s);
 }
 
 TEST_F(RecordsetTest, IlCambioDiUnFratelloSiVede) {
@@ -104,8 +104,8 @@ TEST_F(RecordsetTest, IlCambioDiUnFratelloSiVede) {
     Fratello f(percorso());
     EXPECT_EQ(rs[u"PercorsoURL"].Value(), Valore(u"u3"_s));
     EXPECT_EQ(rs.leggi(1, 2), Valore(u"u5"_s));
-    f.esegui("UPDATE radio SET PercorsoURL='altro'");
-    f.esegui("DELETE FROM radio WHERE ID=7");
+    f.esegui(u"UPDATE radio SET PercorsoURL='altro'"_s);
+    f.esegui(u"DELETE FROM radio WHERE ID=7"_s);
     rs.SetAbsolutePosition(0); // where it is already
     EXPECT_EQ(rs[u"PercorsoURL"].Value(), Valore(u"altro"_s));
     EXPECT_EQ(rs.leggi(1, 2), Valore(u"altro"_s));
@@ -119,7 +119,7 @@ TEST_F(RecordsetTest, IlCambioDiUnFratelloSiVede) {
     rs[u"PercorsoURL"].SetValue(u"perso"_s);
     EXPECT_EQ(numeroDi([&] { rs.Update(); }), 3021);
     EXPECT_EQ(numeroDi([&] { rs.Delete(); }), 3021);
-    EXPECT_EQ(f.leggi("SELECT count(*) FROM radio WHERE PercorsoURL='perso'"), u"0"_s);
+    EXPECT_EQ(f.righe(u"SELECT count(*) FROM radio WHERE PercorsoURL='perso'"_s).value(0), u"0"_s);
     d.Refresh();
     EXPECT_EQ(rs.RecordCount(), 3); // the reference stays good over a Refresh
 }
@@ -152,7 +152,7 @@ TEST_F(RecordsetTest, AggiungereECancellare) {
     rs.AddNew();
     rs.Update(); // nothing stored: a record of Nulls
     EXPECT_EQ(rs.AbsolutePosition(), 0);
-    EXPECT_EQ(Fratello(percorso()).leggi("SELECT NomeRadio FROM radio"), u"(null)"_s);
+    EXPECT_EQ(Fratello(percorso()).righe(u"SELECT NomeRadio FROM radio"_s).value(0), u"NULL"_s);
 }
 
 TEST_F(RecordsetTest, SenzaRecordOSenzaEdit) {
@@ -181,13 +181,13 @@ TEST_F(RecordsetTest, SenzaRecordOSenzaEdit) {
     radio.MoveNext();
     EXPECT_TRUE(radio.Eof());
     EXPECT_EQ(numeroDi([&] { radio.MoveNext(); }), 3021);
-    EXPECT_EQ(Fratello(percorso()).leggi("SELECT count(*) FROM radio WHERE NomeRadio='persa'"), u"0"_s);
+    EXPECT_EQ(Fratello(percorso()).righe(u"SELECT count(*) FROM radio WHERE NomeRadio='persa'"_s).value(0), u"0"_s);
 }
 
 TEST_F(RecordsetTest, LaFinestraDelleListeTieneLOrdine) {
     Fratello(percorso())
-        .esegui("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<200) "
-                "INSERT INTO VideoYT SELECT i+100, printf('t%03d', 1000-i), '' FROM n");
+        .esegui(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<200) "
+                "INSERT INTO VideoYT SELECT i+100, printf('t%03d', 1000-i), '' FROM n"_s);
     Data d;
     Recordset &rs = apri(d, u"Select * from [VideoYT] where ID>100 order by[Titolo]"_s);
     ASSERT_EQ(rs.RecordCount(), 200);
@@ -200,7 +200,7 @@ TEST_F(RecordsetTest, LaConnessioneSegueIlFile) {
     Recordset &rs = apri(d, u"radio"_s);
     const QString copia = cartella() + u"/copia.mdb"_s;
     ASSERT_TRUE(QFile::copy(percorso(), copia));
-    Fratello(copia).esegui("DELETE FROM radio");
+    Fratello(copia).esegui(u"DELETE FROM radio"_s);
     rs.Edit();
     rs[u"NomeRadio"].SetValue(u"persa"_s);
     ASSERT_TRUE(QFile::remove(percorso()));

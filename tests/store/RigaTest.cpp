@@ -18,7 +18,8 @@ TEST_F(RigaTest, SiLeggeESiScriveLaPrima) {
 
     scriviRigaDi(percorso(), u"Select * from radio order by [NomeRadio]"_s, {{u"PercorsoURL", u"nuovo"_s}});
     EXPECT_EQ(leggiRigaDi(percorso(), u"Select * from radio order by [NomeRadio]"_s).testo(u"NomeRadio"), u"alfa"_s);
-    EXPECT_EQ(Fratello(percorso()).leggi("SELECT group_concat(ID) FROM radio WHERE PercorsoURL='nuovo'"), u"3"_s);
+    EXPECT_EQ(Fratello(percorso()).righe(u"SELECT group_concat(ID) FROM radio WHERE PercorsoURL='nuovo'"_s).value(0),
+              u"3"_s);
 }
 
 TEST_F(RigaTest, UnaColonnaSbagliataNonScriveLeAltre) {
@@ -44,8 +45,8 @@ TEST_F(RigaTest, SenzaRigaLoDiceConLaTabella) {
 
 TEST_F(RigaTest, UnaVistaSenzaFineSiFermaAlLimite) {
     Fratello(percorso())
-        .esegui("CREATE VIEW Infinita AS WITH RECURSIVE n(Testo) AS (SELECT 1 UNION ALL SELECT Testo+1 FROM n) "
-                "SELECT Testo FROM n");
+        .esegui(u"CREATE VIEW Infinita AS WITH RECURSIVE n(Testo) AS (SELECT 1 UNION ALL SELECT Testo+1 FROM n) "
+                "SELECT Testo FROM n"_s);
     Data d;
     for (const auto &[sorgente, limite, righe, tagliata] :
          {std::tuple(u"Infinita"_s, 70, 70, true), std::tuple(u"Select * from Infinita"_s, 3, 3, true),

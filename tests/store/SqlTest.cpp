@@ -74,7 +74,7 @@ TEST_F(Sql, TestiSbagliatiDannoIlLoroNumero) {
             << QString::fromUtf16(caso.sorgente).toStdString();
         EXPECT_FALSE(d.aperto());
     }
-    EXPECT_EQ(Fratello(percorso()).leggi("SELECT count(*) FROM radio"), u"4"_s);
+    EXPECT_EQ(Fratello(percorso()).righe(u"SELECT count(*) FROM radio"_s).value(0), u"4"_s);
 }
 
 TEST_F(Sql, FindFirstTrovaIlPrimoNellOrdineDellaSorgente) {

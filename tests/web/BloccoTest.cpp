@@ -74,13 +74,16 @@ TEST(BloccoWeb, ALinkToADeadServerIsToldAndALinkToAnotherWindowDoesNothing) {
 
 TEST(BloccoWeb, NothingOutlivesAPage) {
     ServerProva server;
-    server.pagine[u"/"_s] = {"<script>document.title = localStorage.x || 'nuova'; localStorage.x = 'vecchia'</script>",
+    server.pagine[u"/"_s] = {"<script>document.title = (localStorage.x || 'nuova') + ' ' + window.indexedDB;"
+                             "localStorage.x = 'vecchia'; setTimeout(() => location.href = '/oltre', 200)</script>",
                              "200 OK", "Set-Cookie: visita=1; Max-Age=99999\r\nCache-Control: max-age=99999\r\n"};
+    server.pagine[u"/oltre"_s] = {"<script>document.title = localStorage.x</script>"};
     FinestraWeb finestra;
     for (int volta = 0; volta < 2; ++volta) {
         server.chieste.clear();
         EXPECT_TRUE(finestra.apri(server.indirizzo(u"/"_s)));
-        EXPECT_TRUE(finestra.attendiTitolo(u"nuova"_s));
+        EXPECT_TRUE(finestra.attendiTitolo(u"nuova undefined"_s));
+        EXPECT_TRUE(finestra.attendiTitolo(u"vecchia"_s)) << "within one visit a site remembers";
         EXPECT_TRUE(server.chieste.contains(u"/"_s));
         EXPECT_FALSE(server.chieste[u"/"_s].contains("visita"));
     }
@@ -88,12 +91,13 @@ TEST(BloccoWeb, NothingOutlivesAPage) {
         EXPECT_FALSE(QDir(QStandardPaths::writableLocation(dove) + u"/QtWebEngine"_s).exists());
 }
 
-// The engine may be at work on the file when its page goes.
+// The engine may be at work on the file when its page goes. ZUVORA_VOLTE asks for more pages than a test has time for.
 TEST(BloccoWeb, APageThatSendsAFileCanBeLeftAtAnyMoment) {
     ServerProva server;
     server.pagine[u"/zip"_s] = {"PK", "200 OK", "Content-Disposition: attachment; filename=a.zip\r\n"};
     FinestraWeb finestra;
-    for (int volta = 0; volta < 16; ++volta) {
+    const int volte = std::max(16, qEnvironmentVariableIntValue("ZUVORA_VOLTE"));
+    for (int volta = 0; volta < volte && !HasFailure(); ++volta) {
         const QByteArray titolo = "pagina " + QByteArray::number(volta);
         server.pagine[u"/"_s] = {"<script>location.href = '/zip'; setTimeout(() => document.title = '" + titolo +
                                  "', " + QByteArray::number(3 * (volta % 8)) + ")</script>"};

@@ -2,6 +2,7 @@
 #include "web/ServerProva.h"
 
 #include <QFile>
+#include <QNetworkProxy>
 #include <QSslCertificate>
 #include <QSslConfiguration>
 #include <QSslKey>
@@ -97,6 +98,55 @@ TEST(BrowserWeb, TrustsNoCertificateThatNobodyVouchesFor) {
     EXPECT_FALSE(finestra.apri(u"https://127.0.0.1:%1/"_s.arg(server.porta())));
     EXPECT_TRUE(finestra.browser.avviso().contains(u"certificato"_s)) << finestra.browser.avviso().toStdString();
     EXPECT_TRUE(server.chieste.isEmpty());
+}
+
+TEST(BrowserWeb, APasswordIsRefusedAndTold) {
+    ServerProva server;
+    const QByteArray sfida = " realm=\"x\"\r\n";
+    server.pagine[u"/chiusa"_s] = {"<title>vietato</title>", "401 Unauthorized", "WWW-Authenticate: Basic" + sfida};
+    server.pagine[u"/muro"_s] = {"<title>vietato</title>", "401 Unauthorized"};
+    server.pagine[u"/figura"_s] = {
+        "<title>aperta</title><img src='/chiusa' onerror=\"document.title = 'senza figura'\">"};
+    FinestraWeb finestra;
+    EXPECT_FALSE(finestra.apri(server.indirizzo(u"/chiusa"_s)));
+    EXPECT_TRUE(finestra.browser.avviso().startsWith(u"La pagina chiede un nome utente e una password"_s))
+        << finestra.browser.avviso().toStdString();
+    EXPECT_LE(server.quante, 2);
+    EXPECT_TRUE(finestra.apri(server.indirizzo(u"/muro"_s))) << "the server's own page on its error";
+    EXPECT_TRUE(finestra.apri(server.indirizzo(u"/figura"_s))) << "only a part of the page is closed";
+    EXPECT_TRUE(finestra.attendiTitolo(u"senza figura"_s));
+}
+
+TEST(BrowserWeb, AProxyThatWantsAPasswordIsTold) {
+    ServerProva proxy;
+    proxy.pagine[u"http://sito.example/"_s] = {"<title>vietato</title>", "407 Proxy Authentication Required",
+                                               "Proxy-Authenticate: Basic realm=\"x\"\r\n"};
+    proxy.pagine[u"sito.example:443"_s] = proxy.pagine[u"http://sito.example/"_s];
+    QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, u"127.0.0.1"_s, proxy.porta()});
+    FinestraWeb finestra;
+    for (const QString &indirizzo : {u"http://sito.example/"_s, u"https://sito.example/"_s}) {
+        EXPECT_FALSE(finestra.apri(indirizzo));
+        EXPECT_TRUE(finestra.browser.avviso().contains(u"il proxy della rete chiede"_s))
+            << finestra.browser.avviso().toStdString();
+    }
+    EXPECT_LE(proxy.quante, 4);
+    QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+}
+
+TEST(BrowserWeb, APageThatTakesAllMemoryIsEnded) {
+    ServerProva server;
+    const QByteArray avida = "<title>avida</title><script>const a = []; setInterval(() => a.push(new "
+                             "Uint8Array(2e7).fill(1)), 10)</script>";
+    server.pagine[u"/"_s] = {avida};
+    server.pagine[u"/cornice"_s] = {
+        "<title>avida</title><iframe src='http://localhost:" + QByteArray::number(server.porta()) + "/'></iframe>"};
+    FinestraWeb finestra;
+    for (const QString &percorso : {u"/"_s, u"/cornice"_s}) {
+        EXPECT_TRUE(finestra.apri(server.indirizzo(percorso)));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return finestra.browser.avviso().contains(u"occupava troppa memoria"_s); },
+                                    Attesa_ms))
+            << percorso.toStdString();
+    }
 }
 
 TEST(BrowserWeb, NamesTheAddressThatFailed) {

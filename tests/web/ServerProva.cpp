@@ -31,6 +31,7 @@ void ServerProva::rispondi(QTcpSocket *presa) {
     presa->readAll();
     const QString percorso = QString::fromUtf8(finora.split(' ').value(1));
     chieste.insert(percorso, finora);
+    ++quante;
     const Pagina pagina = pagine.value(percorso);
     if (!pagina.muta)
         presa->write("HTTP/1.1 " + pagina.stato +

@@ -23,6 +23,7 @@ public:
 
     QHash<QString, Pagina> pagine;
     QHash<QString, QByteArray> chieste; // the header lines that came, by path; the last ones stand
+    int quante = 0;                     // requests that came
 
     QString indirizzo(const QString &percorso) const; // http, with the server's port
     quint16 porta() const { return m_server->serverPort(); }

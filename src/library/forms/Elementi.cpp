@@ -1,7 +1,9 @@
 #include "library/forms/Elementi.h"
 
+#include "library/logic/Aggiunta.h"
 #include "library/logic/Decorazioni.h"
 #include "shell/host/AnteprimaImmagini.h"
+#include "shell/host/Attesa.h"
 #include "shell/host/Dialoghi.h"
 #include "shell/host/ImmagineIllegibile.h"
 #include "shell/logic/CopiaFile.h"
@@ -22,6 +24,7 @@ Elementi::Elementi(const Ambiente &ambiente_, QWidget *padre)
     alClic(PushButton2, [this] { aggiungi(); });
     alClic(PushButton3, [this] { anteprima(); });
     alClic(Command5, [this] { scarica(); });
+    riparaAggiunte(cartella());
     scegliCategoria(0);
     grid.setFocus();
 }
@@ -63,25 +66,50 @@ void Elementi::elimina() {
     avvisa(u"Immagine cancellata !"_s);
 }
 
+// Adds the picked file: nothing is written before the user has decided and the copy stands ready, and a copy that can't
+// be made leaves the row.
 void Elementi::aggiungi() {
-    const auto scelto = ambiente().dialoghi.apriFile(this, {u"Selezionare il file da inserire in Decorazioni"_s,
-                                                            u"(*.bmp;*.jpg;*.gif)|*.bmp;*.jpg;*.gif"_s, cartella()});
-    const QString origine = scelto.value_or(QString());
+    const QString origine = scegliFile();
     const QString nome = FileScelto(origine);
     IlFileX.setText(origine);
     if (nome.isEmpty() || avvisaSeIllegibile(ambiente(), origine, this))
         return;
-    // Asked before anything is written: a no leaves neither a row nor a changed file.
-    const Incontro incontro = incontroCopia(origine, CartellaDestinazione);
-    if (incontro == Incontro::Diverso && !conferma(u"Il file esiste già nella cartella."_s, u"Sostituirlo ?"_s))
+    const QString destinazione = CartellaDestinazione + nome;
+    const auto incontro = aspettaEsito<Incontro>(
+        ambiente(), this, u"Confronto con il file che esiste già..."_s,
+        [origine, destinazione](Avanzamento &a) { return incontroCopia(origine, destinazione, a); });
+    if (!incontro ||
+        (*incontro == Incontro::Diverso && !conferma(u"Il file esiste già nella cartella."_s, u"Sostituirlo ?"_s)))
+        return;
+    std::shared_ptr<CopiaPreparata> copia;
+    if (*incontro != Incontro::LoStesso && (copia = preparaCopia(origine)) == nullptr)
         return;
     const Valore ID = aggiungiDecorazione(Data1.Recordset(), nome, TipoCategoria);
-    const QString guasto = incontro == Incontro::LoStesso ? QString() : copiaFile(origine, CartellaDestinazione);
+    const QString guasto = copia ? copia->colloca(destinazione) : QString();
     mostraAggiunta(ID);
     if (guasto.isEmpty())
         avvisa(u"Memorizzazione e Copia effettuate !"_s);
     else
         avvisa(u"Controllare la procedura ed eseguirla nuovamente !"_s, guasto);
+}
+
+QString Elementi::scegliFile() {
+    return ambiente()
+        .dialoghi
+        .apriFile(this, {u"Selezionare il file da inserire in Decorazioni"_s,
+                         u"(*.bmp;*.jpg;*.gif)|*.bmp;*.jpg;*.gif"_s, cartella()})
+        .value_or(QString());
+}
+
+// Null when the user called it off.
+std::shared_ptr<CopiaPreparata> Elementi::preparaCopia(const QString &origine) {
+    const QString temporaneo = postoTemporaneo(CartellaDestinazione, ultimoID(cartella()), FileScelto(origine));
+    return aspettaEsito<std::shared_ptr<CopiaPreparata>>(ambiente(), this, u"Copia del file in corso..."_s,
+                                                         [origine, temporaneo](Avanzamento &a) {
+                                                             return std::make_shared<CopiaPreparata>(origine,
+                                                                                                     temporaneo, a);
+                                                         })
+        .value_or(nullptr);
 }
 
 void Elementi::mostraAggiunta(const Valore &ID) {

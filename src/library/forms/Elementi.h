@@ -3,7 +3,10 @@
 #include "shell/host/AnteprimaImmagine.h"
 #include "shell/host/Form.h"
 #include "shell/host/Grid.h"
+#include "shell/logic/CopiaFile.h"
 #include "shell/store/Data.h"
+
+#include <memory>
 
 namespace zuvora {
 
@@ -18,6 +21,8 @@ private:
     QString percorsoRiga(); // picture of the current row; empty without rows
     void elimina();
     void aggiungi();
+    QString scegliFile();
+    std::shared_ptr<CopiaPreparata> preparaCopia(const QString &origine);
     void mostraAggiunta(const Valore &ID);
     void anteprima();
 

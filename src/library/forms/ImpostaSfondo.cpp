@@ -1,8 +1,7 @@
 #include "library/forms/ImpostaSfondo.h"
 
-#include "library/logic/Sfondi.h"
 #include "shell/host/ImmagineIllegibile.h"
-#include "shell/host/Piattaforma.h"
+#include "shell/logic/Percorsi.h"
 
 #include <QDir>
 
@@ -23,6 +22,8 @@ ImpostaSfondo::ImpostaSfondo(const Ambiente &ambiente_, ModoSfondo modo, UsoSfon
     : Form(ambiente_, "ImpostaSfondo", "Imposta Sfondo schermata FrontEnd", {8130, 8955}, padre), m_modo(modo),
       m_uso(std::move(uso)) {
     Label5.setCaption(parolaModo(m_modo));
+    for (Label *accanto : {&Label4, &Label2(0), &Label2(1)}) // to boxes, whose texts stand in the middle
+        accanto->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     Drive1.setAccessibleName(u"Disco"_s);
     Dir1.setAccessibleName(u"Cartelle"_s);
     File1.setAccessibleName(u"File"_s);
@@ -68,9 +69,7 @@ void ImpostaSfondo::imposta() {
         return;
     if (!SfondoScelto.isEmpty() && avvisaSeIllegibile(ambiente(), SfondoScelto, this))
         return;
-    const QString risultato =
-        totem ? percorsoDiRete(SfondoScelto, ambiente().piattaforma.nomeMacchina()) : SfondoScelto;
-    if (!m_uso.imposta(risultato))
+    if (!m_uso.imposta(totem ? Percorsi().diRete(SfondoScelto) : SfondoScelto))
         avvisa(u"Impossibile caricare l'immagine scelta !"_s, u"Lo sfondo resta quello di prima."_s);
 }
 
@@ -85,12 +84,14 @@ void apriSfondoLayout(const Ambiente &ambiente, const UsoSfondo &uso, QWidget *p
     ImpostaSfondo(ambiente, ModoSfondo::Layout, uso, padre).mostraModale();
 }
 
-void apriSfondoTotem(const Ambiente &ambiente, const std::function<void(const QString &)> &FF1, QWidget *padre) {
-    const auto imposta = [&FF1](const QString &percorso) {
-        FF1(percorso);
+std::optional<QString> apriSfondoTotem(const Ambiente &ambiente, QWidget *padre) {
+    std::optional<QString> impostato;
+    const auto imposta = [&impostato](const QString &percorso) {
+        impostato = percorso;
         return true;
     };
     ImpostaSfondo(ambiente, ModoSfondo::SfondoTotem, {imposta, {}}, padre).mostraModale();
+    return impostato;
 }
 
 } // namespace zuvora

@@ -5,7 +5,7 @@
 #include "shell/host/ElenchiFile.h"
 #include "shell/host/Form.h"
 
-#include <functional>
+#include <optional>
 
 namespace zuvora {
 
@@ -49,7 +49,8 @@ private:
 
 // The form for the background of the open layout.
 void apriSfondoLayout(const Ambiente &ambiente, const UsoSfondo &uso, QWidget *padre);
-// The form for the kiosk's background: each "Imposta" gives the network path of the picked file to `FF1`.
-void apriSfondoTotem(const Ambiente &ambiente, const std::function<void(const QString &)> &FF1, QWidget *padre);
+// The form for the kiosk's background. Gives the network path of the picture last set, when the form has closed;
+// nothing when none was.
+std::optional<QString> apriSfondoTotem(const Ambiente &ambiente, QWidget *padre);
 
 } // namespace zuvora

@@ -1,10 +1,12 @@
 #include "library/forms/SceltaLayout.h"
 
+#include "library/forms/ApriTela.h"
 #include "library/forms/CancellaLayout.h"
 #include "library/forms/CopiaLayout.h"
 #include "shell/disegni/Disegni.h"
 #include "shell/host/Dialoghi.h"
 
+#include <QMouseEvent>
 #include <QTimer>
 #include <utility>
 
@@ -39,8 +41,8 @@ void mostraTesto(Edit &campo, const QString &testo) {
 
 } // namespace
 
-SceltaLayout::SceltaLayout(const Ambiente &ambiente_, CaricaLayout carica, QWidget *padre)
-    : Form(ambiente_, "SceltaLayout", "Selezione del Layout", {5175, 5595}, padre), m_carica(std::move(carica)),
+SceltaLayout::SceltaLayout(const Ambiente &ambiente_, int risoluzione, QWidget *padre)
+    : Form(ambiente_, "SceltaLayout", "Selezione del Layout", {5175, 5595}, padre), m_risoluzione(risoluzione),
       m_lette(lineeIniziali()),
       RB1("RB1", 0, numeroLayout - 1,
           [this](int i, const char *nome) {
@@ -52,6 +54,7 @@ SceltaLayout::SceltaLayout(const Ambiente &ambiente_, CaricaLayout carica, QWidg
           return std::make_unique<Button>(&GroupBox1, nome, "", Posto{4440, topLinea(i), 375, 285});
       }) {
     disponiLinee();
+    Label1.setAlignment(Qt::AlignLeft | Qt::AlignVCenter); // to the box beside it
     Label2.setReadOnly(true);
     Label2.setFocusPolicy(Qt::ClickFocus);
     riempi();
@@ -59,7 +62,7 @@ SceltaLayout::SceltaLayout(const Ambiente &ambiente_, CaricaLayout carica, QWidg
     alClic(PB1(0), [this] { scarica(); });
     alClic(PB1(1), [this] { salvaDati(); });
     alClic(PB1(2), [this] { rendiPredefinita(); });
-    alClic(PB1(3), [this] { this->carica(); });
+    alClic(PB1(3), [this] { CaricaLayout(); });
     alClic(PB1(4), [this] { CopiaLayout(ambiente(), this).mostraModale(); });
 }
 
@@ -71,6 +74,7 @@ void SceltaLayout::disponiLinee() {
         nome.setAccessibleName(u"Nome di "_s + nomeLinea(i));
         descrizione.setAccessibleName(u"Descrizione di "_s + nomeLinea(i));
         nome.setReadOnly(true);
+        nome.installEventFilter(this);
         nome.setFocusPolicy(Qt::ClickFocus); // Tab goes from the radio buttons to what can be edited
         descrizione.setReadOnly(i == 0);
         nome.setMaxLength(MassimoTesto);
@@ -110,6 +114,21 @@ void SceltaLayout::attivata() {
         });
 }
 
+// The name of a line acts like its radio button; a double click opens the layout as well.
+bool SceltaLayout::eventFilter(QObject *oggetto, QEvent *evento) {
+    const bool doppio = evento->type() == QEvent::MouseButtonDblClick;
+    const bool clic = doppio || evento->type() == QEvent::MouseButtonPress;
+    if (!clic || static_cast<QMouseEvent *>(evento)->button() != Qt::LeftButton)
+        return false;
+    for (int i = 0; i < numeroLayout; ++i)
+        if (oggetto == &text1(2 * i))
+            RB1(i).setChecked(true);
+    if (doppio) // once the click is over: the designer must not open inside it
+        QMetaObject::invokeMethod(
+            this, [this] { proteggi([this] { CaricaLayout(); }); }, Qt::QueuedConnection);
+    return false;
+}
+
 LineeLayout SceltaLayout::linee() const {
     LineeLayout linee = m_lette;
     for (int i = 0; i < numeroLayout; ++i) {
@@ -138,14 +157,14 @@ void SceltaLayout::rendiPredefinita() {
     mostra(esito.messaggio);
 }
 
-void SceltaLayout::carica() {
+void SceltaLayout::CaricaLayout() {
     const auto linea = lineaScelta();
     if (!linea) {
         mostra(messaggioNessunaLinea());
         return;
     }
     valori().LayoutCorrente = tabellaLayout(*linea);
-    m_carica(valori().LayoutCorrente, this);
+    apriTela(ambiente(), m_risoluzione, valori().LayoutCorrente, this);
 }
 
 void SceltaLayout::mostra(const Messaggio &messaggio) {

@@ -4,21 +4,18 @@
 #include "shell/host/Form.h"
 #include "shell/store/Data.h"
 
-#include <functional>
-
 namespace zuvora {
 
 // The gate to the eleven layouts: one line a layout, with its name, its description and a button that clears it.
 class SceltaLayout : public Form {
 public:
-    // Opens the designer on the layout that LayoutCorrente names, and returns when it closes.
-    using CaricaLayout = std::function<void(const QString &tabella, QWidget *padre)>;
-
-    // Reads the lines and the default; throws EngineError when they can't be read.
-    SceltaLayout(const Ambiente &ambiente, CaricaLayout carica, QWidget *padre);
+    // Reads the lines and the default; throws EngineError when they can't be read. `risoluzione` is that of the call
+    // display, 1 to 4, 0 while none is chosen.
+    SceltaLayout(const Ambiente &ambiente, int risoluzione, QWidget *padre);
 
 protected:
     void attivata() override;
+    bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
 private:
     void disponiLinee();
@@ -27,12 +24,12 @@ private:
     std::optional<int> lineaScelta() const;
     void salvaDati();
     void rendiPredefinita();
-    void carica();
+    void CaricaLayout();
     void mostra(const Messaggio &messaggio);
 
     Data Data1;
     Data Data2;
-    CaricaLayout m_carica;
+    int m_risoluzione;
     LineeLayout m_lette;
     QString m_avviso; // shown once, over the form
 

@@ -20,7 +20,7 @@ PaginaClient::PaginaClient(const Apertura &apertura) : Pagina(apertura, "BoxImpo
     NameS1.setAccessibleName(u"Nome della macchina del server"_s);
     for (Edit *campo : {&ipS1, &LaPorta, &NameS1})
         campo->setToolTip(campo->accessibleName());
-    LaPorta.setTastiAmmessi(soloCifre);
+    LaPorta.setFiltro(soloCifre);
     alClic(SaveIP, [this] { salva(); });
     PaginaClient::applicaPrincipale(apertura.principale);
 }

@@ -12,12 +12,13 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-// Pixels up to which a picture is decoded within the time that the eye takes for at once.
-constexpr qint64 SubitoFinoA = 3'000'000;
+// Pixels and bytes up to which a picture is decoded within the time that the eye takes for at once.
+constexpr qint64 puntiSubito = 3'000'000;
+constexpr qint64 byteSubito = 4 * 1024 * 1024;
 
 bool eGrande(const QString &percorso) {
     const QSize misura = misuraImmagine(percorso);
-    return misura.isEmpty() || qint64{misura.width()} * misura.height() > SubitoFinoA;
+    return qint64{misura.width()} * misura.height() > puntiSubito || QFileInfo(percorso).size() > byteSubito;
 }
 
 QPixmap scacchiera(const QPalette &palette) {
@@ -37,17 +38,25 @@ AnteprimaImmagine::AnteprimaImmagine(QWidget *padre, const char *nome, const Pos
     setCornice(true);
     connect(&m_attesa, &QFutureWatcherBase::finished, this, [this] {
         if (m_stato == Stato::InCorso)
-            concludi(m_attesa.future().resultCount() > 0 ? m_attesa.result() : QImage());
+            concludi(m_attesa.result());
     });
 }
 
 AnteprimaImmagine::~AnteprimaImmagine() {
-    m_attesa.cancel();
+    smetti();
+}
+
+void AnteprimaImmagine::smetti() {
+    if (m_lettura)
+        m_lettura->annulla();
+    m_lettura.reset();
+    m_attesa.setFuture({});
 }
 
 void AnteprimaImmagine::svuota(const QString &testo) {
-    m_attesa.cancel();
+    smetti();
     m_percorso.clear();
+    m_guasto.clear();
     m_stato = Stato::Vuota;
     setTesto(testo);
     setImmagine({});
@@ -58,43 +67,35 @@ void AnteprimaImmagine::mostra(const QString &percorso) {
     if (percorso.isEmpty())
         return;
     m_percorso = percorso;
-    if (!QFileInfo::exists(percorso)) {
-        fallisci(Stato::NonTrovata);
-        return;
-    }
-    if (!pareImmagine(percorso)) {
-        fallisci(Stato::NonLeggibile);
-        return;
-    }
     const QSize misura = size() * devicePixelRatioF();
     if (eGrande(percorso))
         leggiAParte(misura);
     else
-        concludi(leggiImmagine(percorso, misura, Riduzione::Riempi));
+        concludi(leggi(percorso, misura, Riduzione::Riempi));
 }
 
 void AnteprimaImmagine::leggiAParte(const QSize &misura) {
     m_stato = Stato::InCorso;
     setTesto(u"Caricamento dell'immagine..."_s);
-    const auto promessa = std::make_shared<QPromise<QImage>>();
+    const auto promessa = std::make_shared<QPromise<ImmagineLetta>>();
     m_attesa.setFuture(promessa->future());
-    QThreadPool::globalInstance()->start([promessa, percorso = m_percorso, misura] {
+    m_lettura = std::make_shared<Avanzamento>();
+    QThreadPool::globalInstance()->start([promessa, percorso = m_percorso, misura, lettura = m_lettura] {
         promessa->start();
-        if (!promessa->isCanceled())
-            promessa->addResult(leggiImmagine(percorso, misura, Riduzione::Riempi));
+        promessa->addResult(leggi(percorso, misura, Riduzione::Riempi, lettura.get()));
         promessa->finish();
     });
 }
 
-void AnteprimaImmagine::concludi(const QImage &letta) {
-    if (letta.isNull()) {
-        fallisci(Stato::NonLeggibile);
+void AnteprimaImmagine::concludi(const ImmagineLetta &letta) {
+    if (letta.immagine.isNull()) {
+        fallisci(letta.motivo);
         return;
     }
     m_stato = Stato::Mostrata;
-    m_trasparente = letta.hasAlphaChannel();
+    m_trasparente = letta.immagine.hasAlphaChannel();
     setTesto({});
-    setImmagine(QPixmap::fromImage(letta));
+    setImmagine(QPixmap::fromImage(letta.immagine));
     Q_EMIT cambiata();
 }
 
@@ -104,19 +105,11 @@ void AnteprimaImmagine::paintEvent(QPaintEvent *e) {
     PictureBox::paintEvent(e);
 }
 
-void AnteprimaImmagine::fallisci(Stato stato) {
-    m_stato = stato;
-    setTesto(guasto());
+void AnteprimaImmagine::fallisci(const QString &motivo) {
+    m_stato = Stato::NonLeggibile;
+    m_guasto = motivo + u'\n' + QFileInfo(m_percorso).fileName();
+    setTesto(m_guasto);
     Q_EMIT cambiata();
-}
-
-QString AnteprimaImmagine::guasto() const {
-    const QString nome = QFileInfo(m_percorso).fileName();
-    if (m_stato == Stato::NonTrovata)
-        return u"File non trovato: "_s + nome;
-    if (m_stato == Stato::NonLeggibile)
-        return u"Il file non è un'immagine leggibile: "_s + nome;
-    return {};
 }
 
 } // namespace zuvora

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "shell/host/PictureBox.h"
+#include "shell/immagini/LetturaImmagine.h"
 
 #include <QFutureWatcher>
-#include <QImage>
+#include <memory>
 
 namespace zuvora {
 
@@ -13,7 +14,7 @@ namespace zuvora {
 class AnteprimaImmagine : public PictureBox {
     Q_OBJECT
 public:
-    enum class Stato { Vuota, InCorso, Mostrata, NonTrovata, NonLeggibile };
+    enum class Stato { Vuota, InCorso, Mostrata, NonLeggibile };
 
     AnteprimaImmagine(QWidget *padre, const char *nome, const Posto &posto);
     ~AnteprimaImmagine() override;
@@ -23,7 +24,7 @@ public:
     Stato stato() const { return m_stato; }
     const QString &percorso() const { return m_percorso; }
     // An Italian sentence when the file last asked for can't be shown, else empty.
-    QString guasto() const;
+    const QString &guasto() const { return m_guasto; }
 
 Q_SIGNALS:
     void cambiata(); // a picture, or the reason why there is none, stands in the control
@@ -33,13 +34,16 @@ protected:
 
 private:
     void leggiAParte(const QSize &misura);
-    void concludi(const QImage &letta);
-    void fallisci(Stato stato);
+    void concludi(const ImmagineLetta &letta);
+    void fallisci(const QString &motivo);
+    void smetti(); // gives up the reading under way
 
     QString m_percorso;
     Stato m_stato = Stato::Vuota;
     bool m_trasparente = false;
-    QFutureWatcher<QImage> m_attesa;
+    QString m_guasto;
+    QFutureWatcher<ImmagineLetta> m_attesa;
+    std::shared_ptr<Avanzamento> m_lettura;
 };
 
 } // namespace zuvora

@@ -38,6 +38,14 @@ QString testoEsito(EsitoWeb esito, const QUrl &indirizzo) {
         return u"L'indirizzo non porta a una pagina web che si possa mostrare qui:\n\n%1\n\nSono ammesse le pagine "
                u"http "
                "e https; i file da scaricare e quelli del computer no."_s.arg(quale);
+    case EsitoWeb::ChiedePassword:
+        return u"La pagina chiede un nome utente e una password, che qui non si possono dare:\n\n%1\n\nImpostare "
+               "l'indirizzo di una pagina aperta a tutti."_s.arg(quale);
+    case EsitoWeb::ProxyChiedePassword:
+        return u"La pagina non viene mostrata, perché il proxy della rete chiede un nome utente e una password, che "
+               "qui non si possono dare:\n\n%1\n\nChiedere a chi amministra la rete."_s.arg(quale);
+    case EsitoWeb::TroppaMemoria:
+        return u"La pagina è stata chiusa, perché occupava troppa memoria:\n\n%1"_s.arg(quale);
     case EsitoWeb::Interrotta:
         return u"La pagina si è chiusa per un errore:\n\n%1\n\nPer riprovare chiudere la finestra e riaprirla."_s.arg(
             quale);

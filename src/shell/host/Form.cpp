@@ -1,8 +1,13 @@
 #include "shell/host/Form.h"
 
+#include "shell/host/Tastiera.h"
+
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <limits>
 #include <utility>
 
@@ -67,7 +72,15 @@ void Form::setMisuraInterna(const Misura &interno) {
 
 void Form::mostraModale() {
     setModal(true);
+    const QPointer<Form> apritore =
+        parentWidget() == nullptr ? nullptr : dynamic_cast<Form *>(parentWidget()->window());
+    if (apritore != nullptr)
+        ++apritore->m_sopra;
     exec();
+    if (apritore == nullptr)
+        return;
+    --apritore->m_sopra;
+    apritore->accodaAttivazione();
 }
 
 void Form::scarica() {
@@ -90,24 +103,45 @@ void Form::closeEvent(QCloseEvent *e) {
     done(QDialog::Rejected);
 }
 
-bool Form::event(QEvent *e) {
-    const bool esito = QDialog::event(e);
-    if (e->type() == QEvent::WindowDeactivate)
-        m_attiva = false;
-    if (e->type() == QEvent::WindowActivate && m_mostrata && !std::exchange(m_attiva, true))
-        proteggi([this] { attivata(); });
-    return esito;
+// Enter belongs to the kit, not to the dialog's own default button.
+void Form::keyPressEvent(QKeyEvent *e) {
+    const bool invio = e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter;
+    const auto modi = e->modifiers() & ~Qt::KeypadModifier;
+    if (!invio || modi != Qt::NoModifier) {
+        QDialog::keyPressEvent(e);
+        return;
+    }
+    e->accept();
+    QAbstractButton *bottone = bottonePerInvio(focusWidget());
+    // A key held down presses once, but for a button that repeats by itself.
+    if (bottone != nullptr && (!e->isAutoRepeat() || bottone->autoRepeat()))
+        bottone->click();
 }
 
 void Form::showEvent(QShowEvent *e) {
     QDialog::showEvent(e);
     if (m_mostrata || e->spontaneous())
         return;
-    // Some platforms activate a window late or never: the first activation comes with the form itself.
     m_mostrata = true;
-    m_attiva = true;
     nominaCampi(this);
+    ordinaFuochi(*this);
+    if (QWidget *primo = focusWidget() == nullptr ? primoFuoco(*this) : nullptr)
+        primo->setFocus(Qt::TabFocusReason);
+    accodaAttivazione();
+}
+
+void Form::accodaAttivazione() {
+    if (isVisible() && !m_inAttivazione && !std::exchange(m_inCoda, true))
+        QMetaObject::invokeMethod(this, &Form::attiva, Qt::QueuedConnection);
+}
+
+void Form::attiva() {
+    m_inCoda = false;
+    if (!isVisible() || m_sopra > 0)
+        return; // the return of the form above raises it again
+    m_inAttivazione = true;
     proteggi([this] { attivata(); });
+    m_inAttivazione = false;
 }
 
 } // namespace zuvora

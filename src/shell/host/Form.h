@@ -27,16 +27,22 @@ public:
 
 protected:
     virtual bool puoScaricarsi() { return true; }
-    // On opening and on each return to the form.
+    // After the first showing and after each return from a form that this one opened, but for those opened in here.
+    // Always from the event loop, so that the form may unload itself; never while another form stands over it.
     virtual void attivata() {}
 
     void closeEvent(QCloseEvent *e) override;
-    bool event(QEvent *e) override;
+    void keyPressEvent(QKeyEvent *e) override;
     void showEvent(QShowEvent *e) override;
 
 private:
+    void accodaAttivazione();
+    void attiva();
+
+    int m_sopra = 0; // forms that this one opened and that are still there
     bool m_mostrata = false;
-    bool m_attiva = false;
+    bool m_inCoda = false;
+    bool m_inAttivazione = false;
 };
 
 // Gives every field without an accessible name that of the label beside or above it.

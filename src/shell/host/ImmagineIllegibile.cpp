@@ -1,20 +1,21 @@
 #include "shell/host/ImmagineIllegibile.h"
 
+#include "shell/host/Attesa.h"
 #include "shell/host/MsgForm.h"
 #include "shell/immagini/LetturaImmagine.h"
-
-#include <QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 
 bool avvisaSeIllegibile(const Ambiente &ambiente, const QString &percorso, QWidget *padre) {
-    if (pareImmagine(percorso))
-        return false;
-    mostraMessaggio(ambiente, padre, u"Impossibile caricare l'immagine scelta !"_s,
-                    QFileInfo::exists(percorso) ? u"Il file non è un'immagine leggibile."_s : u"File non trovato."_s);
-    return true;
+    constexpr QSize prova{64, 64}; // the file is read whole all the same
+    const auto letta = aspettaEsito<ImmagineLetta>(
+        ambiente, padre, u"Lettura dell'immagine in corso..."_s,
+        [percorso, prova](Avanzamento &a) { return leggi(percorso, prova, Riduzione::Riempi, &a); });
+    if (letta && !letta->motivo.isEmpty())
+        mostraMessaggio(ambiente, padre, u"Impossibile caricare l'immagine scelta !"_s, letta->motivo);
+    return !letta || letta->immagine.isNull();
 }
 
 } // namespace zuvora

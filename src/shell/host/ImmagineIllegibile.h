@@ -8,7 +8,8 @@ class QWidget;
 
 namespace zuvora {
 
-// Tells the user when a picture file can't be used, missing or no picture; true when it did.
+// Reads a picture file whole, beside the window, and tells the user when it can't be used. True also when the user
+// called the reading off: the picture is not to be used.
 bool avvisaSeIllegibile(const Ambiente &ambiente, const QString &percorso, QWidget *padre);
 
 } // namespace zuvora

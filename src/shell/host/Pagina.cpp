@@ -1,6 +1,7 @@
 #include "shell/host/Pagina.h"
 
 #include "shell/host/Form.h"
+#include "shell/host/Tastiera.h"
 
 namespace zuvora {
 namespace {
@@ -29,6 +30,9 @@ void Pagina::apri() {
     sposta(LeftAperta, m_topAperta);
     raise();
     show();
+    ordinaFuochi(*window());
+    if (QWidget *primo = primoFuoco(*this))
+        primo->setFocus(Qt::TabFocusReason);
 }
 
 } // namespace zuvora

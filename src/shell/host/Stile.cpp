@@ -3,13 +3,11 @@
 #include "shell/disegni/Disegni.h"
 #include "shell/disegni/Tavolozza.h"
 #include "shell/host/CarattereCasa.h"
+#include "shell/host/StileCasa.h"
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
 #include <array>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 namespace {
@@ -44,7 +42,7 @@ QPalette paletteCasa() {
     for (const Ruolo &r : Ruoli)
         palette.setColor(r.ruolo, r.colore);
     for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, ruolo, tavolozza::bordo.darker(120));
+        palette.setColor(QPalette::Disabled, ruolo, tavolozza::testoSpento);
     palette.setColor(QPalette::Disabled, QPalette::Base, tavolozza::sfondo);
     return palette;
 }
@@ -52,7 +50,7 @@ QPalette paletteCasa() {
 } // namespace
 
 void preparaAspetto(QApplication &applicazione) {
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new StileCasa);
     QApplication::setFont(carattereCasa());
     QApplication::setPalette(paletteCasa());
     applicazione.setWindowIcon(icona(Disegno::Zuvora));

@@ -4,7 +4,7 @@ class QApplication;
 
 namespace zuvora {
 
-// The look of the whole program: Fusion with the house palette and Tahoma 8 where the platform has it.
+// The look of the whole program: the house's style, palette and font.
 void preparaAspetto(QApplication &applicazione);
 
 } // namespace zuvora

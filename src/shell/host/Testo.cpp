@@ -38,6 +38,12 @@ QFont fontAdatto(const QString &testo, const QFont &base, const QSize &spazio, b
     return font;
 }
 
+QString abbreviata(const QString &testo, const QFont &font, int larghezza) {
+    if (misuraDidascalia(testo, font).width() <= larghezza)
+        return testo;
+    return QFontMetrics(font).elidedText(QString(testo).remove(QLatin1Char('&')), Qt::ElideRight, larghezza);
+}
+
 bool didascaliaTagliata(const QWidget *w) {
     const auto *controllo = dynamic_cast<const ConDidascalia *>(w);
     if (controllo == nullptr || w->isHidden())

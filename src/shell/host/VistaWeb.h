@@ -16,8 +16,11 @@ enum class EsitoWeb {
     Mostrata,
     NonRaggiunta, // unknown host, refused connection, no network
     CertificatoRifiutato,
-    NonAmmessa, // the address leads out of http and https, or to something that is no page
-    Interrotta, // the process that draws the page has ended
+    NonAmmessa,          // the address leads out of http and https, or to something that is no page
+    ChiedePassword,      // the server wants a name and a password, which nobody can give here
+    ProxyChiedePassword, // the network's proxy does
+    Interrotta,          // the process that draws the page has ended
+    TroppaMemoria,       // it was ended, because it took too much memory
 };
 
 // What shows web pages. It comes from a component that is loaded at first use.

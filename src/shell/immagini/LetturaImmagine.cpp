@@ -20,8 +20,7 @@ constexpr int limiteLettore = 2000;                    // MB; the reader counts 
 // A picture file that counts what is read of it, and reads as ended when its reading is given up.
 class FileSorvegliato : public QFile {
 public:
-    FileSorvegliato(const QString &percorso, AvanzamentoLettura *avanzamento)
-        : QFile(percorso), m_avanzamento(avanzamento) {}
+    FileSorvegliato(const QString &percorso, Avanzamento *avanzamento) : QFile(percorso), m_avanzamento(avanzamento) {}
     // From now on what is read is decoded; before, it was only looked through.
     void siDecodifica() { m_conta = true; }
 
@@ -29,16 +28,16 @@ protected:
     qint64 readData(char *dati, qint64 massimo) override {
         if (m_avanzamento == nullptr)
             return QFile::readData(dati, massimo);
-        if (m_avanzamento->annulla)
+        if (m_avanzamento->annullato())
             return -1;
         const qint64 letti = QFile::readData(dati, massimo);
         if (m_conta)
-            m_avanzamento->centesimi = static_cast<int>(std::min<qint64>((m_letti += letti) * 100 / size(), 100));
+            m_avanzamento->setParte(std::min(m_letti += letti, size()), size());
         return letti;
     }
 
 private:
-    AvanzamentoLettura *m_avanzamento;
+    Avanzamento *m_avanzamento;
     bool m_conta = false;
     qint64 m_letti = 0;
 };
@@ -143,9 +142,8 @@ QString difettoImmagine(const QString &percorso) {
     return prepara(lettore, file);
 }
 
-ImmagineLetta leggi(const QString &percorso, const QSize &massimo, Riduzione riduzione,
-                    AvanzamentoLettura *avanzamento) {
-    const auto annullata = [&] { return avanzamento != nullptr && avanzamento->annulla; };
+ImmagineLetta leggi(const QString &percorso, const QSize &massimo, Riduzione riduzione, Avanzamento *avanzamento) {
+    const auto annullata = [&] { return avanzamento != nullptr && avanzamento->annullato(); };
     FileSorvegliato file(percorso, avanzamento);
     QString motivo = apri(file);
     QImageReader lettore(&file);
@@ -167,7 +165,7 @@ ImmagineLetta leggi(const QString &percorso, const QSize &massimo, Riduzione rid
     if (letta.isNull())
         return {{}, nonImmagine(), false};
     if (avanzamento != nullptr)
-        avanzamento->centesimi = 100; // what follows the picture in the file is not read
+        avanzamento->setParte(1, 1); // what follows the picture in the file is not read
     if (supera(letta.size(), massimo))
         letta = riduci(letta, ridotta(letta.size(), massimo, riduzione));
     return {letta, {}, false};

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "shell/logic/Avanzamento.h"
+
 #include <QImage>
 #include <QSize>
 #include <QString>
-#include <atomic>
 
 namespace zuvora {
 
@@ -12,12 +13,6 @@ namespace zuvora {
 // any thread.
 
 inline constexpr qint64 fileImmagineMassimo = 200LL * 1024 * 1024; // bytes
-
-// The reading of a picture as another thread sees it.
-struct AvanzamentoLettura {
-    std::atomic<bool> annulla = false; // set from outside: the reading ends at once
-    std::atomic<int> centesimi = 0;    // of the file
-};
 
 enum class Riduzione {
     Proporzioni, // to fit into the room, proportions kept
@@ -30,8 +25,9 @@ struct ImmagineLetta {
     bool annullata = false;
 };
 // The picture decoded whole, reduced when it is larger than `massimo` (pixels) in either direction, never enlarged.
+// Ends at once when it is called off.
 ImmagineLetta leggi(const QString &percorso, const QSize &massimo, Riduzione riduzione = Riduzione::Proporzioni,
-                    AvanzamentoLettura *avanzamento = nullptr);
+                    Avanzamento *avanzamento = nullptr);
 QImage leggiImmagine(const QString &percorso, const QSize &massimo, Riduzione riduzione = Riduzione::Proporzioni);
 
 // The picture's top left corner at the picture's own size, at most `misura` (pixels) of it. Null when it can't be read.

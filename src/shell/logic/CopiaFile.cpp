@@ -1,42 +1,39 @@
 #include "shell/logic/CopiaFile.h"
 
+#include "shell/logic/FileAtomico.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
+#include <cerrno>
+#include <filesystem>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 namespace {
 
-constexpr qint64 Blocco = 1 << 20; // bytes
+constexpr qint64 blocco = 1 << 20; // bytes
 
-QString destinazione(const QString &origine, const QString &cartella) {
-    return QDir(QDir::fromNativeSeparators(cartella)).filePath(FileScelto(origine));
-}
-
-bool stessoContenuto(const QString &a, const QString &b) {
+bool stessoContenuto(const QString &a, const QString &b, const Avanzamento &avanzamento) {
     QFile primo(a);
     QFile secondo(b);
     if (primo.size() != secondo.size() || !primo.open(QIODevice::ReadOnly) || !secondo.open(QIODevice::ReadOnly))
         return false;
-    while (!primo.atEnd()) {
-        const QByteArray letto = primo.read(Blocco);
-        if (letto.isEmpty() || letto != secondo.read(Blocco))
+    while (!primo.atEnd() && !avanzamento.annullato()) {
+        const QByteArray letto = primo.read(blocco);
+        if (letto.isEmpty() || letto != secondo.read(blocco))
             return false;
     }
     return primo.error() == QFileDevice::NoError;
 }
 
-// A full disk shows at the flush or not at all once the file is committed: nothing is committed on doubt.
-bool riversa(QFile &da, QSaveFile &in) {
-    while (!da.atEnd()) {
-        const QByteArray letto = da.read(Blocco);
-        if (letto.isEmpty() || in.write(letto) != letto.size())
-            return false;
-    }
-    return da.error() == QFileDevice::NoError && in.flush() && in.error() == QFileDevice::NoError;
+std::filesystem::path diSistema(const QString &percorso) {
+    return QFile::encodeName(percorso).toStdString();
+}
+
+QString motivoUltimo() {
+    return motivoSistema(errno != 0 ? errno : EIO);
 }
 
 } // namespace
@@ -45,32 +42,70 @@ QString FileScelto(const QString &percorso) {
     return QFileInfo(QDir::fromNativeSeparators(percorso)).fileName();
 }
 
-Incontro incontroCopia(const QString &origine, const QString &cartella) {
-    const QFileInfo meta(destinazione(origine, cartella));
+Incontro incontroCopia(const QString &origine, const QString &destinazione, const Avanzamento &avanzamento) {
+    const QFileInfo meta(destinazione);
     if (!meta.exists())
         return Incontro::Nessuno;
     if (!meta.isFile())
         return Incontro::Impedito;
-    if (meta == QFileInfo(origine) || stessoContenuto(origine, meta.filePath()))
+    if (meta == QFileInfo(origine) || stessoContenuto(origine, destinazione, avanzamento))
         return Incontro::LoStesso;
     return Incontro::Diverso;
 }
 
-QString copiaFile(const QString &origine, const QString &cartella) {
+CopiaPreparata::CopiaPreparata(const QString &origine, const QString &temporaneo, Avanzamento &avanzamento)
+    : m_temporaneo(temporaneo), m_motivo(scrivi(origine, avanzamento)) {
+    if (!m_motivo.isEmpty())
+        togli();
+}
+
+CopiaPreparata::~CopiaPreparata() {
+    togli();
+}
+
+void CopiaPreparata::togli() const {
+    QFile::remove(m_temporaneo);
+    QDir().rmdir(QFileInfo(m_temporaneo).path());
+}
+
+QString CopiaPreparata::scrivi(const QString &origine, Avanzamento &avanzamento) const {
     QFile da(origine);
+    errno = 0;
     if (!QFileInfo(origine).isFile() || !da.open(QIODevice::ReadOnly))
-        return u"Il file scelto non si può leggere."_s;
-    if (!QDir().mkpath(QDir::fromNativeSeparators(cartella)))
-        return u"La cartella di destinazione non si può creare."_s;
-    QSaveFile in(destinazione(origine, cartella));
-    if (!in.open(QIODevice::WriteOnly))
-        return u"La cartella di destinazione non è scrivibile."_s;
-    if (!riversa(da, in)) {
-        in.cancelWriting();
-        return in.error() == QFileDevice::NoError ? u"Il file scelto non si può leggere fino in fondo."_s
-                                                  : u"La copia si è interrotta: spazio su disco insufficiente ?"_s;
+        return u"Il file scelto non si può leggere. "_s + motivoSistema(errno != 0 ? errno : ENOENT);
+    errno = 0;
+    if (!QDir().mkpath(QFileInfo(m_temporaneo).path()))
+        return u"La cartella di destinazione non si può creare. "_s + motivoUltimo();
+    QFile in(m_temporaneo);
+    if (!in.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+        return motivoUltimo();
+    while (!da.atEnd()) {
+        errno = 0;
+        const QByteArray letto = da.read(blocco);
+        if (letto.isEmpty())
+            return u"Il file scelto non si può leggere fino in fondo. "_s + motivoUltimo();
+        if (in.write(letto) != letto.size())
+            return motivoUltimo();
+        avanzamento.setParte(in.pos(), da.size());
+        if (avanzamento.annullato())
+            return u"La copia è stata annullata."_s;
     }
-    return in.commit() ? QString() : u"Il file non si può mettere nella cartella di destinazione."_s;
+    const QString cartella = QFileInfo(m_temporaneo).path();
+    const bool suDisco =
+        sincronizza(in.handle()) && sincronizzaCartella(cartella) && sincronizzaCartella(QFileInfo(cartella).path());
+    return suDisco ? QString() : motivoUltimo();
+}
+
+QString CopiaPreparata::colloca(const QString &destinazione) {
+    return m_motivo.isEmpty() ? collocaFile(m_temporaneo, destinazione) : m_motivo;
+}
+
+QString collocaFile(const QString &temporaneo, const QString &destinazione) {
+    std::error_code errore;
+    std::filesystem::rename(diSistema(temporaneo), diSistema(destinazione), errore);
+    if (errore)
+        return motivoSistema(errore.value());
+    return sincronizzaCartella(QFileInfo(destinazione).path()) ? QString() : motivoUltimo();
 }
 
 } // namespace zuvora

@@ -1,0 +1,109 @@
+#include "shell/host/Label.h"
+
+#include "shell/host/StileCasa.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace zuvora {
+
+Label::Label(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto)
+    : Controllo(padre, nome, posto), m_base(font()) {
+    setWordWrap(true);
+    setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setCaption(QString::fromUtf8(didascalia));
+}
+
+void Label::setCaption(const QString &testo) {
+    m_caption = testo;
+    setText(testo);
+    adatta();
+}
+
+void Label::setFontBase(const QFont &f) {
+    m_base = f;
+    adatta();
+}
+
+void Label::setAutosize(bool autosize) {
+    m_autosize = autosize;
+    setWordWrap(!autosize);
+    adatta();
+}
+
+void Label::setAllineamento(Qt::Alignment orizzontale) {
+    setAlignment(orizzontale | Qt::AlignTop);
+}
+
+void Label::setColori(const QColor &testo, const QColor &sfondo) {
+    QPalette colori;
+    if (testo.isValid())
+        colori.setColor(QPalette::WindowText, testo);
+    if (sfondo.isValid())
+        colori.setColor(QPalette::Window, sfondo);
+    setPalette(colori);
+    setAutoFillBackground(sfondo.isValid());
+}
+
+void Label::setAbbrevia(bool abbrevia) {
+    m_abbrevia = abbrevia;
+    setWordWrap(!abbrevia);
+    adatta();
+}
+
+QSize Label::spazioDidascalia() const {
+    return contentsRect().size();
+}
+
+void Label::adatta() {
+    if (m_autosize) {
+        setFont(m_base);
+        const QSize serve = sizeHint();
+        setPosto({posto().left, posto().top, twipsDa(serve.width()), twipsDa(serve.height())});
+        return;
+    }
+    const QFont adatto = fontAdatto(m_caption, m_base, spazioDidascalia(), wordWrap());
+    setFont(adatto);
+    if (!m_abbrevia)
+        return;
+    const QString corto = abbreviata(m_caption, adatto, spazioDidascalia().width());
+    setText(corto);
+    setToolTip(corto == m_caption ? QString() : m_caption);
+}
+
+void Label::resizeEvent(QResizeEvent *e) {
+    Controllo::resizeEvent(e);
+    if (!m_autosize)
+        adatta();
+}
+
+LabelLink::LabelLink(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto)
+    : Label(padre, nome, didascalia, posto) {
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::TabFocus);
+    setForegroundRole(QPalette::Link);
+}
+
+void LabelLink::paintEvent(QPaintEvent *e) {
+    Label::paintEvent(e);
+    if (!hasFocus())
+        return;
+    QPainter pittore(this);
+    disegnaAnello(pittore, rect());
+}
+
+void LabelLink::mouseReleaseEvent(QMouseEvent *e) {
+    if (e->button() == Qt::LeftButton && rect().contains(e->position().toPoint()))
+        Q_EMIT clicked();
+}
+
+void LabelLink::keyPressEvent(QKeyEvent *e) {
+    if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter || e->key() == Qt::Key_Space)
+        Q_EMIT clicked();
+    else
+        Label::keyPressEvent(e);
+}
+
+} // namespace zuvora

@@ -1,0 +1,171 @@
+// A picture's way into the catalogue, and what is left of it when the program ends on the way.
+#include "library/logic/Aggiunta.h"
+#include "kit/InstallazioneProva.h"
+#include "library/logic/Decorazioni.h"
+#include "shell/logic/CopiaFile.h"
+#include "shell/store/Data.h"
+
+#include <QDir>
+#include <QFile>
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <random>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// What was made sure to be on the disk, in that order; the disk can be made to refuse.
+QStringList *scaricati = nullptr;
+bool discoRifiuta = false;
+
+} // namespace
+
+extern "C" int fsync(int descrittore);
+extern "C" int fsync(int descrittore) {
+    if (scaricati != nullptr)
+        *scaricati << QFile::symLinkTarget(u"/proc/self/fd/%1"_s.arg(descrittore));
+    if (discoRifiuta) {
+        errno = EIO;
+        return -1;
+    }
+    return static_cast<int>(syscall(SYS_fsync, descrittore));
+}
+
+namespace zuvora {
+namespace {
+
+class Aggiunta : public testing::Test {
+protected:
+    Aggiunta() { scaricati = &scritti; }
+    ~Aggiunta() override {
+        scaricati = nullptr;
+        discoRifiuta = false;
+    }
+    QString scrivi(const QString &nome, const QByteArray &contenuto) {
+        QFile file(i.file(nome));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(contenuto) == contenuto.size());
+        return file.fileName();
+    }
+    QByteArray leggi(const QString &percorso) {
+        QFile file(percorso);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    QStringList inAttesa() {
+        return QDir(categoria).entryList({u".*"_s}, QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+    qlonglong scriviRiga(const QString &nome) {
+        Data dato;
+        return aggiungiDecorazione(apri(dato, i.cartella(), u"Decorazioni"_s), nome, 1).toLongLong();
+    }
+    QString posto(const QString &nome) { return postoTemporaneo(categoria, ultimoID(i.cartella()), nome); }
+
+    InstallazioneProva i;
+    QString categoria = cartellaDecorazioni(i.cartella(), 0);
+    QStringList scritti;
+    Avanzamento avanzamento;
+};
+
+TEST_F(Aggiunta, LaCopiaEGiaSulDiscoPrimaDelNomeEIlNomePrimaDelSuccesso) {
+    const QString origine = scrivi(u"L'età.jpg"_s, QByteArray(3 << 20, 'n'));
+    const QString temporaneo = posto(u"L'età.jpg"_s);
+    const QString meta = categoria + u"L'età.jpg"_s;
+    scrivi(u"ZuvoraDecorazioni/Cornici/L'età.jpg"_s, "vecchio");
+    scritti.clear();
+    CopiaPreparata copia(origine, temporaneo, avanzamento);
+    EXPECT_EQ(copia.motivo(), QString());
+    const QString cartella = QFileInfo(temporaneo).path();
+    EXPECT_EQ(scritti, QStringList({temporaneo, cartella, QFileInfo(cartella).path()}));
+    EXPECT_EQ(avanzamento.percento(), 100);
+    EXPECT_EQ(leggi(meta), "vecchio");
+    scritti.clear();
+    EXPECT_EQ(copia.colloca(meta), QString());
+    EXPECT_EQ(scritti, QStringList{QFileInfo(meta).path()});
+    EXPECT_EQ(leggi(meta), leggi(origine));
+}
+
+TEST_F(Aggiunta, UnaCopiaCheNonRiesceNonLasciaNulla) {
+    const QString origine = scrivi(u"a.jpg"_s, QByteArray(3 << 20, 'n'));
+    const auto prova = [&](const QString &da) { return CopiaPreparata(da, posto(u"a.jpg"_s), avanzamento).motivo(); };
+    EXPECT_TRUE(prova(i.file(u"manca.jpg"_s)).contains(u"non esiste"_s));
+    EXPECT_FALSE(prova(i.cartella()).isEmpty()) << "a folder is no file";
+    discoRifiuta = true;
+    EXPECT_TRUE(prova(origine).contains(u"Errore del disco"_s));
+    discoRifiuta = false;
+    rlimit prima{};
+    getrlimit(RLIMIT_FSIZE, &prima);
+    const auto segnale = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit stretto{2 << 20, prima.rlim_max}; // as a disk that gets full
+    setrlimit(RLIMIT_FSIZE, &stretto);
+    EXPECT_TRUE(prova(origine).contains(u"troppo grande"_s));
+    setrlimit(RLIMIT_FSIZE, &prima);
+    std::signal(SIGXFSZ, segnale);
+    { CopiaPreparata abbandonata(origine, posto(u"a.jpg"_s), avanzamento); }
+    QDir(categoria).mkdir(u"a.jpg"_s);
+    EXPECT_FALSE(CopiaPreparata(origine, posto(u"a.jpg"_s), avanzamento).colloca(categoria + u"a.jpg"_s).isEmpty());
+    avanzamento.annulla();
+    EXPECT_FALSE(prova(origine).isEmpty());
+    EXPECT_EQ(inAttesa(), QStringList());
+}
+
+TEST_F(Aggiunta, IncontraCioCheCera) {
+    const QString origine = scrivi(u"x.jpg"_s, "primo");
+    const QString meta = scrivi(u"y.jpg"_s, "primo");
+    EXPECT_EQ(incontroCopia(origine, i.file(u"z.jpg"_s), avanzamento), Incontro::Nessuno);
+    EXPECT_EQ(incontroCopia(origine, meta, avanzamento), Incontro::LoStesso);
+    EXPECT_EQ(incontroCopia(origine, origine, avanzamento), Incontro::LoStesso);
+    scrivi(u"y.jpg"_s, "prima");
+    EXPECT_EQ(incontroCopia(origine, meta, avanzamento), Incontro::Diverso);
+    EXPECT_EQ(incontroCopia(origine, i.cartella(), avanzamento), Incontro::Impedito);
+}
+
+// The process is killed between two steps or inside one, many times over: a row always has its whole picture in the
+// end, and nothing is left that waits.
+TEST_F(Aggiunta, UnaFineImprovvisaSiRiparaAllaProssimaApertura) {
+    constexpr int passi = 4;
+    const QByteArray contenuto(2 << 20, 'n');
+    std::mt19937 caso(1); // the same moments in each run
+    std::array<int, passi> sospese{};
+    for (int volta = 0; volta < 15 * passi; ++volta) {
+        const QString nome = u"n%1.jpg"_s.arg(volta);
+        const QString origine = scrivi(nome, contenuto);
+        int canale[2];
+        ASSERT_EQ(pipe(canale), 0);
+        const pid_t figlio = fork();
+        if (figlio == 0) {
+            const auto segna = [&] { return write(canale[1], "x", 1) == 1; };
+            segna();
+            CopiaPreparata copia(origine, posto(nome), avanzamento);
+            segna();
+            scriviRiga(nome);
+            segna();
+            copia.colloca(categoria + nome);
+            segna();
+            pause();
+        }
+        char letto[passi];
+        for (int passo = 0; passo <= volta % passi; ++passo)
+            ASSERT_EQ(read(canale[0], letto, 1), 1);
+        usleep(std::uniform_int_distribution<useconds_t>(0, 1500)(caso));
+        kill(figlio, SIGKILL);
+        waitpid(figlio, nullptr, 0);
+        close(canale[0]);
+        close(canale[1]);
+        sospese[std::size_t(volta % passi)] += inAttesa().isEmpty() ? 0 : 1;
+        const bool riga = i.valore(u"SELECT count(*) FROM Decorazioni WHERE File='%1'"_s.arg(nome)).toInt() > 0;
+        riparaAggiunte(i.cartella());
+        EXPECT_EQ(leggi(categoria + nome) == contenuto, riga) << volta;
+        EXPECT_EQ(QFile::exists(categoria + nome), riga) << volta;
+        EXPECT_EQ(inAttesa(), QStringList()) << volta;
+    }
+    EXPECT_GT(sospese[1], 0) << "the kills must hit";
+    EXPECT_GT(sospese[2], 0);
+}
+
+} // namespace
+} // namespace zuvora
