@@ -1,6 +1,7 @@
 #include "kiosk/forms/BottoneTotem.h"
 
 #include <QFontMetrics>
+#include <QPaintEvent>
 #include <QPainter>
 
 namespace zuvora {
@@ -22,6 +23,7 @@ QColor fondoPer(const QColor &testo) {
 
 BottoneTotem::BottoneTotem(QWidget *padre, const char *nome, const QString &didascalia, const Posto &posto)
     : Controllo(padre, nome, posto), m_font(font()) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_TransparentForMouseEvents); // a press on it moves the window, as one beside it
     setCaption(didascalia);
 }
@@ -29,11 +31,26 @@ BottoneTotem::BottoneTotem(QWidget *padre, const char *nome, const QString &dida
 void BottoneTotem::setCaption(const QString &testo) {
     m_caption = testo;
     setAccessibleName(testo.trimmed());
-    update();
+    dimentica();
 }
 
 void BottoneTotem::setFontTesto(const QFont &font) {
     m_font = font;
+    dimentica();
+}
+
+void BottoneTotem::setColoreTesto(const QColor &colore) {
+    m_colore = colore;
+    dimentica();
+}
+
+void BottoneTotem::setSfondo(const QPixmap &sfondo) {
+    m_sfondo = sfondo;
+    dimentica();
+}
+
+void BottoneTotem::dimentica() {
+    m_faccia = {};
     update();
 }
 
@@ -53,9 +70,23 @@ QFont BottoneTotem::fontMostrato() const {
     return adatto;
 }
 
-void BottoneTotem::paintEvent(QPaintEvent *) {
-    QPainter pittore(this);
+void BottoneTotem::paintEvent(QPaintEvent *e) {
+    const QSize misura = size() * devicePixelRatioF();
+    if (m_faccia.size() != misura) {
+        m_faccia = QPixmap(misura);
+        m_faccia.setDevicePixelRatio(devicePixelRatioF());
+        QPainter pittore(&m_faccia);
+        dipingiFaccia(pittore);
+    }
+    const QRectF parte = e->rect();
+    QPainter(this).drawPixmap(parte, m_faccia,
+                              {parte.topLeft() * devicePixelRatioF(), parte.size() * devicePixelRatioF()});
+}
+
+void BottoneTotem::dipingiFaccia(QPainter &pittore) const {
     const QColor fondo = fondoPer(m_colore);
+    pittore.fillRect(rect(), palette().color(QPalette::Window));
+    pittore.drawPixmap(QPoint(), m_sfondo, geometry());
     pittore.setRenderHint(QPainter::Antialiasing);
     pittore.setPen(QPen(fondo.lightness() > 128 ? fondo.darker(150) : fondo.lighter(170), 2));
     pittore.setBrush(fondo);

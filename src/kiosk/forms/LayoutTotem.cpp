@@ -49,12 +49,12 @@ LayoutTotem::LayoutTotem(const Ambiente &ambiente_, const RichiestaAnteprima &ri
       }) {
     for (const auto &[indice, bottone] : Bottone)
         bottone->hide();
-    for (Label *etichetta : {&TitoloTXT, &Label1, &Avviso}) {
+    for (Label *etichetta : {&TitoloTXT, &Label1, &Avviso})
         etichetta->setAttribute(Qt::WA_TransparentForMouseEvents);
+    for (Label *etichetta : {&TitoloTXT, &Label1}) {
         etichetta->setAutosize(true);
-    }
-    for (Label *etichetta : {&TitoloTXT, &Label1})
         etichetta->setFontBase(fontIniziale());
+    }
     Label1.setAllineamento(Qt::AlignRight);
     Label1.setLeft(richiesta.finestra.width - twipsDa(Label1.width()) - margineDestro);
     TitoloTXT.setVisible(richiesta.testoVisibile);
@@ -109,6 +109,7 @@ void LayoutTotem::vestiPulsanti() {
         BottoneTotem &bottone = Bottone(i + 1);
         bottone.setCaption(u' ' + m_richiesta.servizi[i]);
         bottone.setFontTesto(fontDa(stile));
+        bottone.setSfondo(m_sfondo);
         if (stile.coloreDato)
             bottone.setColoreTesto(coloreDa(stile.colore));
     }
@@ -121,9 +122,18 @@ void LayoutTotem::avverti(const QString &frase) {
         m_avvisi << frase;
 }
 
+// In the part of the window that any monitor shows, whatever its width.
 void LayoutTotem::mostraAvvisi() {
     Avviso.setVisible(!m_avvisi.isEmpty());
-    Avviso.setCaption(m_avvisi.join(u'\n'));
+    const QString testo = m_avvisi.join(u'\n');
+    QFont leggibile = font();
+    leggibile.setPointSizeF(11);
+    const int larghezza = std::min(width(), screen()->availableGeometry().width()) - pixelDa(2 * Avviso.Left());
+    const QRect spazio =
+        QFontMetrics(leggibile).boundingRect(QRect(0, 0, larghezza, height()), Qt::TextWordWrap, testo);
+    Avviso.setPosto({Avviso.Left(), Avviso.Top(), twipsDa(spazio.width() + 1), twipsDa(spazio.height())});
+    Avviso.setFontBase(leggibile);
+    Avviso.setCaption(testo);
     Avviso.setColori(Qt::black, QColor(0xFF, 0xF4, 0xC4));
     Avviso.raise();
 }
