@@ -60,7 +60,7 @@ QRect BottoneTotem::spazio() const {
 
 bool BottoneTotem::entra(const QFont &font, int opzioni) const {
     const QRect r = spazio();
-    return r.contains(QFontMetrics(font, this).boundingRect(r, opzioni, m_caption));
+    return r.contains(QFontMetrics(font, this).boundingRect(r, opzioni, m_caption.trimmed()));
 }
 
 QFont BottoneTotem::fontMostrato() const {
@@ -94,7 +94,7 @@ void BottoneTotem::dipingiFaccia(QPainter &pittore) const {
     const QFont mostrato = fontMostrato();
     pittore.setFont(mostrato);
     pittore.setPen(m_colore);
-    pittore.drawText(spazio(), entra(mostrato, aParole) ? aParole : ovunque, m_caption);
+    pittore.drawText(spazio(), entra(mostrato, aParole) ? aParole : ovunque, m_caption.trimmed());
 }
 
 } // namespace zuvora

@@ -4,6 +4,7 @@
 #include "shell/host/ColorPicker.h"
 
 #include <QDate>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -152,7 +153,23 @@ void LayoutTotem::showEvent(QShowEvent *e) {
         move(monitor.topLeft());
 }
 
-// It is moved by any place of it, for its frame may be out of reach.
+// It is moved by any place of it and by the arrow keys, for its frame may be out of reach.
+void LayoutTotem::keyPressEvent(QKeyEvent *e) {
+    constexpr int passo = 60; // pixels
+    switch (e->key()) {
+    case Qt::Key_Left:
+        return move(x() - passo, y());
+    case Qt::Key_Right:
+        return move(x() + passo, y());
+    case Qt::Key_Up:
+        return move(x(), y() - passo);
+    case Qt::Key_Down:
+        return move(x(), y() + passo);
+    default:
+        Form::keyPressEvent(e);
+    }
+}
+
 void LayoutTotem::mousePressEvent(QMouseEvent *e) {
     if (e->button() == Qt::LeftButton)
         m_presa = e->globalPosition().toPoint() - frameGeometry().topLeft();
