@@ -18,7 +18,7 @@ Elementi::Elementi(const Ambiente &ambiente_, QWidget *padre)
     grid.lega(Data1);
     grid.setAccessibleName(u"Immagini Decorazioni"_s);
     RB1(0).setChecked(true);
-    quando(grid, &Grid::cliccata, [this] { mostraRiga(); });
+    quando(grid, &Grid::rigaCambiata, [this] { mostraRiga(); });
     alClic(RB1, [this](int indice) { scegliCategoria(indice); });
     alClic(PushButton1, [this] { elimina(); });
     alClic(PushButton2, [this] { aggiungi(); });

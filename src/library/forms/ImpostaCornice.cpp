@@ -19,7 +19,7 @@ ImpostaCornice::ImpostaCornice(const Ambiente &ambiente_, int i, QWidget *padre)
     Label2.hide();
     grid.lega(Data1);
     RB1(0).setChecked(true);
-    quando(grid, &Grid::cliccata, [this] { mostraRiga(); });
+    quando(grid, &Grid::rigaCambiata, [this] { mostraRiga(); });
     alClic(RB1, [this](int indice) { scegliCategoria(indice); });
     alClic(Btn(0), [this] { applica(); });
     alClic(Btn(1), [this] { scarica(); });
