@@ -35,8 +35,8 @@ private:
     QFont m_font;
     QColor m_colore = Qt::black;
     QPixmap m_sfondo;
-    // Drawn once and without holes: the window beneath needs no painting, and twenty buttons cost what their part of the
-    // picture would.
+    // Drawn once and without holes: the window beneath needs no painting, and twenty buttons cost what their part of
+    // the picture would.
     QPixmap m_faccia;
 };
 
