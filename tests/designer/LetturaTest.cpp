@@ -4,7 +4,7 @@
 #include "shell/store/EngineError.h"
 #include "shell/store/NomiFile.h"
 
-#include "designer/ArchivioLayout.h"
+#include "kit/ArchivioLayout.h"
 
 #include <gmock/gmock.h>
 
