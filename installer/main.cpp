@@ -3,8 +3,12 @@
 #include "installer/Verifica.h"
 #include "installer/copia/Ripristina.h"
 #include "installer/copia/Salva.h"
+#include "installer/importa/FonteAccess.h"
+#include "installer/importa/Importa.h"
+#include "installer/importa/LettoreAccess.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QHash>
 #include <array>
 #include <csignal>
@@ -23,6 +27,9 @@ const auto istruzioni =
     "  crea [--esempio] [--notizie URL] CARTELLA\n"
     "                      crea un'installazione completa nella cartella, nuova o vuota; --esempio aggiunge\n"
     "                      contenuti di esempio, --notizie sceglie la pagina delle notizie\n"
+    "  importa VECCHIO.mdb [--totem VECCHIO_TOTEM.mdb] [--cartella VECCHIA] CARTELLA\n"
+    "                      crea un'installazione dai database di una vecchia, in formato Access 97 o 2000-2003;\n"
+    "                      --cartella prende dalla vecchia cartella immagini, playlist, suoni e frase\n"
     "  salva [--tieni N] CARTELLA FILE\n"
     "                      salva l'installazione in un file, anche con il programma aperto; con --tieni il nome\n"
     "                      prende la data e restano le ultime N copie\n"
@@ -64,6 +71,26 @@ int crea(const Richiesta &richiesta) {
     opzioni.esempio = richiesta.opzioni.contains(u"--esempio"_s);
     opzioni.notizie = richiesta.opzioni.value(u"--notizie"_s);
     return riferisci(creaInstallazione(opzioni));
+}
+
+int importa(const Richiesta &richiesta) {
+    ascoltaInterruzioni();
+    OpzioniImporta opzioni;
+    opzioni.archivio = richiesta.argomenti.at(0);
+    opzioni.crea.cartella = richiesta.argomenti.at(1);
+    opzioni.totem = richiesta.opzioni.value(u"--totem"_s);
+    opzioni.vecchia = richiesta.opzioni.value(u"--cartella"_s);
+    return riferisci(importaInstallazione(opzioni, [](const QString &riga) {
+        scrivi(stdout, riga + u'\n');
+        std::fflush(stdout);
+    }));
+}
+
+int leggiPerAltri(const QString &file) {
+    QFile uscita;
+    if (!uscita.open(stdout, QIODevice::WriteOnly))
+        return NonRiuscito;
+    return leggiAccess(file, uscita);
 }
 
 int salva(const Richiesta &richiesta) {
@@ -141,6 +168,8 @@ int main(int argc, char **argv) {
 
     const std::array comandi{
         Comando{"crea"_L1, {u"--esempio"_s}, {u"--notizie"_s}, {u"la cartella"_s}, crea},
+        Comando{
+            "importa"_L1, {}, {u"--totem"_s, u"--cartella"_s}, {u"il vecchio database"_s, u"la cartella"_s}, importa},
         Comando{"salva"_L1, {}, {u"--tieni"_s}, {u"la cartella"_s, u"il file della copia"_s}, salva},
         Comando{"ripristina"_L1, {u"--sopra"_s}, {}, {u"il file della copia"_s, u"la cartella"_s}, ripristina},
         Comando{"elenca"_L1, {}, {}, {u"il file della copia"_s}, elenca},
@@ -149,6 +178,8 @@ int main(int argc, char **argv) {
     if (argomenti.isEmpty())
         return usoErrato(u"Manca il comando."_s);
     const QString nome = argomenti.takeFirst();
+    if (nome == parolaLettore && argomenti.size() == 1)
+        return leggiPerAltri(argomenti.first());
     if (nome == u"--help"_s || nome == u"-h"_s) {
         scrivi(stdout, istruzioni);
         return InOrdine;

@@ -83,8 +83,6 @@ public:
     void copiaDa(Database &origine);
     // The engine's quick check of the file.
     bool integro();
-    // The engine's own check of the whole file: one finding a line, empty when it is sound.
-    QStringList verifica();
     void Close();
 
 private:

@@ -1,0 +1,21 @@
+#include "shell/host/ComponenteVoce.h"
+
+#include "shell/host/Componente.h"
+#include "shell/host/VoceSistema.h"
+
+namespace zuvora {
+
+EsitoComponenteVoce creaVoce(const QString &cartella) {
+    QString motivo;
+    auto *fabbrica =
+        qobject_cast<FabbricaVoce *>(radiceComponente(cartella, QString::fromLatin1(FileComponenteVoce), motivo));
+    if (fabbrica == nullptr)
+        return {nullptr, motivo};
+    return {fabbrica->crea(), {}};
+}
+
+std::unique_ptr<Voce> creaVoceSistema() {
+    return std::make_unique<VoceSistema>();
+}
+
+} // namespace zuvora
