@@ -15,6 +15,7 @@ CancellaLayout::CancellaLayout(const Ambiente &ambiente_, const QString &numero,
     Label3.setFontBase(grande);
     Label3.setCaption(numero);
     setAccessibleName(u"Cancellazione del Layout "_s + numero);
+    PB1(1).setRuolo(Ruolo::Distruttivo);
     alClic(PB1(1), [this] { conferma(); });
     alClic(PB1(0), [this] { scarica(); });
     PB1(0).setFocus();

@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr QStringView Modello = u"*.jpg;*.bmp";
+constexpr QStringView modello = u"*.jpg;*.bmp";
 
 QString parolaModo(ModoSfondo modo) {
     return modo == ModoSfondo::Layout ? u"Layout"_s : u"Sfondo Totem"_s;
@@ -34,6 +34,8 @@ ImpostaSfondo::ImpostaSfondo(const Ambiente &ambiente_, ModoSfondo modo, UsoSfon
     quando(Drive1, &DriveListBox::cambiato, [this] { cambiaDisco(); });
     quando(Dir1, &DirListBox::cambiata, [this] { cambiaCartella(); });
     quando(File1, &FileListBox::cliccato, [this] { clicFile(); });
+    PushButton1.setRuolo(Ruolo::Principale);
+    PushButton3.setRuolo(Ruolo::Distruttivo);
     alClic(PushButton1, [this] { imposta(); });
     alClic(PushButton3, [this] { elimina(); });
     alClic(Command5, [this] { scarica(); });
@@ -50,7 +52,7 @@ void ImpostaSfondo::cambiaDisco() {
 
 void ImpostaSfondo::cambiaCartella() {
     Drive1.setDrive(Dir1.Path());
-    File1.setPattern(Modello.toString());
+    File1.setPattern(modello.toString());
     File1.setPath(Dir1.Path());
 }
 
@@ -69,15 +71,19 @@ void ImpostaSfondo::imposta() {
         return;
     if (!SfondoScelto.isEmpty() && avvisaSeIllegibile(ambiente(), SfondoScelto, this))
         return;
-    if (!m_uso.imposta(totem ? Percorsi().diRete(SfondoScelto) : SfondoScelto))
+    if (m_uso.imposta(totem ? Percorsi().diRete(SfondoScelto) : SfondoScelto))
+        PushButton1.spunta();
+    else
         avvisa(u"Impossibile caricare l'immagine scelta !"_s, u"Lo sfondo resta quello di prima."_s);
 }
 
 void ImpostaSfondo::elimina() {
-    if (m_uso.elimina)
-        m_uso.elimina();
-    else
+    if (!m_uso.elimina) {
         avvisa(u"Nessun Layout aperto: lo sfondo del Totem"_s, u"si elimina dalla sua schermata."_s);
+        return;
+    }
+    m_uso.elimina();
+    PushButton3.spunta();
 }
 
 void apriSfondoLayout(const Ambiente &ambiente, const UsoSfondo &uso, QWidget *padre) {
