@@ -37,7 +37,7 @@ const std::array tabelleZuvora{
 const std::array tabelleTotem{
     Tabella{"Numerazione"_L1, "Numerazione"_L1, 1, 1},
     Tabella{"NumerazioneIniziale"_L1, "NumerazioneIniziale"_L1, 1, 1},
-    Tabella{"DatiDaStampareIMP"_L1, "DatiDaStampareIMP"_L1, 1, senzaLimite},
+    Tabella{"DatiDaStampareIMP"_L1, "DatiDaStampareIMP"_L1, 1, senzaLimite, true},
 };
 
 constexpr std::array cartelle{"ZuvoraDecorazioni"_L1, "ZuvoraSfondiHD"_L1, "Suoni"_L1};

@@ -11,6 +11,7 @@ struct Tabella {
     QLatin1StringView righe; // file of start rows, without ".csv"; the table begins empty when there is none
     int minimo;              // rows that a sound installation has
     int massimo;
+    bool colonneLibere = false; // the user may have others in their place
 };
 
 struct Archivio {

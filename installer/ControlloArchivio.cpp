@@ -1,7 +1,11 @@
 #include "installer/ControlloArchivio.h"
 
+#include "installer/Csv.h"
+
+#include "pannello/logic/Versione.h"
 #include "shell/store/EngineError.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -18,7 +22,7 @@ QString difettoDelFile(const QString &percorso) {
     if (!info.isFile())
         return u"non è un file"_s;
     if (info.size() == 0)
-        return u"il file è vuoto"_s;
+        return u"il file è vuoto, non è un archivio"_s;
     QFile file(percorso);
     if (!file.open(QIODevice::ReadOnly))
         return u"il file non si può leggere: verificare i permessi"_s;
@@ -48,7 +52,12 @@ QString frase(const EngineError &errore) {
 }
 
 QString sqlColonne(QStringView tabella) {
-    return u"SELECT name FROM pragma_table_info('%1')"_s.arg(tabella);
+    return u"SELECT name FROM pragma_table_info('%1')"_s.arg(tabella.toString().replace(u'\'', "''"_L1));
+}
+
+QString versioneCorrente() {
+    const Csv csv = leggiCsv(righeDi("Versione"_L1), u"Versione"_s);
+    return csv.righe.first().at(csv.colonne.indexOf(u"Numero"_s));
 }
 
 QString attese(const Tabella &tabella) {
@@ -61,7 +70,11 @@ ControlloArchivio::ControlloArchivio(const Archivio &archivio, QString file)
     : m_archivio(archivio), m_file(std::move(file)) {}
 
 void ControlloArchivio::segnala(const QString &difetto) {
-    m_difetti += QFileInfo(m_file).fileName() + u": "_s + difetto;
+    m_rapporto.difetti += QDir::toNativeSeparators(m_file) + u": "_s + difetto;
+}
+
+void ControlloArchivio::annota(const QString &nota) {
+    m_rapporto.note += QDir::toNativeSeparators(m_file) + u": "_s + nota;
 }
 
 bool ControlloArchivio::ha(QLatin1StringView tabella, QLatin1StringView colonna) const {
@@ -97,6 +110,7 @@ void ControlloArchivio::controlla() {
         for (const QStringList &tabella : db.leggiTesti(u"SELECT name FROM sqlite_master WHERE type = 'table'"_s))
             for (const QStringList &colonna : db.leggiTesti(sqlColonne(tabella.first())))
                 m_colonne[tabella.first().toLower()] += colonna.first().toLower();
+        controllaVersione();
         Database modello = Database::inMemoria();
         modello.esegui(QString::fromUtf8(schemaDi(m_archivio)));
         for (const Tabella &tabella : m_archivio.tabelle)
@@ -110,9 +124,28 @@ void ControlloArchivio::controllaTabella(const Tabella &tabella, Database &model
         return;
     }
     for (const QStringList &colonna : modello.leggiTesti(sqlColonne(QString(tabella.nome))))
-        if (!ha(tabella.nome, QLatin1StringView(colonna.first().toLatin1())))
+        if (!ha(tabella.nome, QLatin1StringView(colonna.first().toLatin1())) && !puoMancare(tabella, colonna.first()))
             segnala(u"nella tabella %1 manca la colonna %2"_s.arg(tabella.nome, colonna.first()));
     controllaRighe(tabella);
+}
+
+// The upgrade at the program's start adds these to an older version. What a ticket prints is the user's choice.
+bool ControlloArchivio::puoMancare(const Tabella &tabella, const QString &colonna) const {
+    const bool tarda = colonna == "TestoVisibile"_L1 || colonna == "DataVisibile"_L1;
+    return tabella.colonneLibere || (m_daAggiornare && tarda && tabella.nome == "ConfigurazioneTotem"_L1);
+}
+
+void ControlloArchivio::controllaVersione() {
+    if (!ha("Versione"_L1, "Numero"_L1))
+        return;
+    const QList<QStringList> righe = m_db->leggiTesti(u"SELECT Numero FROM Versione LIMIT 1"_s);
+    const QString etichetta = righe.isEmpty() ? QString() : righe.first().first();
+    const auto vecchia = versioneDaAggiornare(etichetta);
+    m_daAggiornare = vecchia.has_value();
+    if (vecchia)
+        annota(u"i dati sono della versione %1: avviare il programma per aggiornarli"_s.arg(*vecchia));
+    else if (!righe.isEmpty() && etichetta != versioneCorrente())
+        segnala(u"tabella Versione: «%1» non è una versione conosciuta"_s.arg(accorciato(etichetta)));
 }
 
 void ControlloArchivio::controllaRighe(const Tabella &tabella) {

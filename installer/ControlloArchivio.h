@@ -1,11 +1,11 @@
 #pragma once
 
 #include "installer/Contenuto.h"
+#include "installer/Verifica.h"
 #include "shell/store/Database.h"
 
 #include <QHash>
 #include <QSet>
-#include <QStringList>
 #include <functional>
 #include <optional>
 
@@ -24,15 +24,19 @@ public:
 
     bool ha(QLatin1StringView tabella, QLatin1StringView colonna) const;
     void segnala(const QString &difetto); // adds a finding on this database
-    const QStringList &difetti() const { return m_difetti; }
+    void annota(const QString &nota);     // adds what is no fault
+    const Rapporto &rapporto() const { return m_rapporto; }
 
 private:
     void controllaTabella(const Tabella &tabella, Database &modello);
     void controllaRighe(const Tabella &tabella);
+    void controllaVersione();
+    bool puoMancare(const Tabella &tabella, const QString &colonna) const;
 
     const Archivio &m_archivio;
     QString m_file;
-    QStringList m_difetti;
+    Rapporto m_rapporto;
+    bool m_daAggiornare = false;             // an older version: the program adds what it lacks
     QHash<QString, QSet<QString>> m_colonne; // by table, all in lower case
     std::optional<Database> m_db;            // set once the engine's own check has passed
 };

@@ -7,6 +7,7 @@ namespace zuvora::installa {
 struct OpzioniCrea {
     QString cartella;         // of the new installation; made, with its parents, when it isn't there
     bool esempio = false;     // with sample content
+    QString notizie;          // address of the news source; empty: that of the start rows
     bool conProgramma = true; // with the program, its plugins and this tool; without them only the data is made
     // Folder of the program, its plugins and the picture folders. Empty: the folder of the running executable.
     QString origine;
@@ -18,8 +19,7 @@ struct Esito {
 };
 
 // Makes a complete installation. It appears whole, Zuvora.mdb last, or not at all: after a failure or a refusal the
-// folder, and whether it exists, is as it was. Refused: a folder that holds a database already, or anything of the name
-// of what would be put there. Never throws.
+// folder, and whether it exists, is as it was. Refused: a folder that isn't new or empty. Never throws.
 Esito creaInstallazione(const OpzioniCrea &opzioni);
 
 } // namespace zuvora::installa

@@ -1,7 +1,10 @@
 #include "installer/Riferimenti.h"
 
+#include "installer/ControlloFile.h"
 #include "installer/Csv.h"
-#include "installer/Percorsi.h"
+
+#include "shell/logic/Percorsi.h"
+#include "shell/store/NomiFile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -11,12 +14,10 @@ namespace zuvora::installa {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-enum class Specie { File, Cartella };
-
 struct Riferimento {
     QLatin1StringView tabella;
     QLatin1StringView colonna;
-    Specie specie = Specie::File;
+    Atteso atteso = Atteso::File;
 };
 
 // What the designer stores as background of a layout that never had one.
@@ -26,9 +27,9 @@ constexpr std::array riferimenti{
     Riferimento{"Configurazione"_L1, "dindon"_L1},
     Riferimento{"Configurazione"_L1, "playlistFoto"_L1},
     Riferimento{"Configurazione"_L1, "playlistVideo"_L1},
-    Riferimento{"Configurazione"_L1, "cartellamp3"_L1, Specie::Cartella},
-    Riferimento{"ConfigurazioneTotem"_L1, "SfondoTotem"_L1},
-    Riferimento{"Servizi"_L1, "Percorsofoto"_L1},
+    Riferimento{"Configurazione"_L1, "cartellamp3"_L1, Atteso::Cartella},
+    Riferimento{"ConfigurazioneTotem"_L1, "SfondoTotem"_L1, Atteso::Immagine},
+    Riferimento{"Servizi"_L1, "Percorsofoto"_L1, Atteso::Immagine},
     Riferimento{"DinDon"_L1, "DinDon"_L1},
 };
 
@@ -46,11 +47,9 @@ void controllaRiferimento(ControlloArchivio &zuvora, Database &db, const Riferim
         const QString &valore = valori.first();
         if (valore.isEmpty() || valore == nessunoSfondo)
             continue;
-        const auto file = fileLocale(valore);
-        const bool cartella = r.specie == Specie::Cartella;
-        if (file && !(cartella ? QFileInfo(*file).isDir() : QFileInfo(*file).isFile()))
-            zuvora.segnala(u"tabella %1, riga %2: manca %3 %4"_s.arg(r.tabella).arg(riga).arg(
-                cartella ? u"la cartella"_s : u"il file"_s, valore));
+        const QString difetto = difettoDi(valore, r.atteso);
+        if (!difetto.isEmpty())
+            zuvora.segnala(u"tabella %1, riga %2: %3"_s.arg(r.tabella, QString::number(riga), difetto));
     }
 }
 
@@ -81,8 +80,8 @@ void controllaCatalogo(ControlloArchivio &zuvora, Database &db, const QString &c
         const QString file = u"%1/ZuvoraDecorazioni/%2/%3"_s.arg(cartella, categoria, riga.at(1));
         if (categoria.isEmpty())
             zuvora.segnala(u"tabella Decorazioni, ID %1: il Tipo non è una categoria"_s.arg(riga.at(0)));
-        else if (!QFileInfo(file).isFile())
-            zuvora.segnala(u"tabella Decorazioni, ID %1: manca il file %2"_s.arg(riga.at(0), nativo(file)));
+        else if (const QString difetto = difettoDi(nativo(file), Atteso::Immagine); !difetto.isEmpty())
+            zuvora.segnala(u"tabella Decorazioni, ID %1: %2"_s.arg(riga.at(0), difetto));
     }
     controllaPredefinite(zuvora, db, presenti);
 }
@@ -99,23 +98,27 @@ void controllaRiferimenti(ControlloArchivio &zuvora, const QString &cartella) {
         for (const Riferimento &r : riferimenti)
             controllaRiferimento(zuvora, db, r);
         for (const Tabella &layout : archivioZuvora.tabelle)
-            controllaRiferimento(zuvora, db, {layout.nome, "PercorsoImmagine"_L1});
+            controllaRiferimento(zuvora, db, {layout.nome, "PercorsoImmagine"_L1, Atteso::Immagine});
         controllaCatalogo(zuvora, db, cartella);
     });
 }
 
-std::optional<QString> cartellaTotem(ControlloArchivio &zuvora, const QString &cartella) {
-    QString percorso = nativo(cartella + u"/Totem"_s);
+std::optional<QString> archivioDelTotem(ControlloArchivio &zuvora, const QString &cartella) {
+    const Percorsi percorsi;
+    QString percorso = percorsi.unisci(cartella, nomi::cartellaTotem);
     if (zuvora.ha("ConfigurazioneTotem"_L1, "PercorsoReteTotem"_L1))
         zuvora.controlla([&](Database &db) { percorso = percorsoTotem(db); });
     if (percorso.isEmpty()) {
         zuvora.segnala(u"il percorso di rete del totem non è impostato"_s);
         return std::nullopt;
     }
-    auto locale = fileLocale(percorso);
-    if (!locale)
-        zuvora.segnala(u"il totem è su un'altra macchina, da qui non si può verificare: %1"_s.arg(percorso));
-    return locale;
+    const auto locale = percorsi.nativo(percorso);
+    if (!locale) {
+        zuvora.annota(u"il totem è su un'altra macchina, da qui non si può verificare: %1"_s.arg(percorso));
+        return std::nullopt;
+    }
+    const auto esame = percorsi.esamina(percorsi.unisci(percorso, nomi::archivioTotem));
+    return esame.percorso.isEmpty() ? percorsi.unisci(*locale, nomi::archivioTotem) : esame.percorso;
 }
 
 } // namespace zuvora::installa

@@ -1,6 +1,8 @@
 #include "installer/Verifica.h"
 
 #include "installer/ControlloArchivio.h"
+#include "installer/ControlloFile.h"
+#include "installer/ControlloValori.h"
 #include "installer/Riferimenti.h"
 
 #include <QDir>
@@ -9,25 +11,46 @@
 namespace zuvora::installa {
 using namespace Qt::Literals::StringLiterals;
 
-QStringList verificaInstallazione(const QString &cartella) {
+namespace {
+// The program and its siblings write the databases, and journals beside them.
+void controllaScrittura(Rapporto &rapporto, const QString &file) {
+    const QFileInfo info(file);
+    const QFileInfo cartella(info.path());
+    for (const QFileInfo &voce : {cartella, info})
+        if (voce.exists() && !voce.isWritable())
+            rapporto.difetti += u"Mancano i permessi per scrivere %1"_s.arg(QDir::toNativeSeparators(voce.filePath()));
+}
+
+void controllaProgramma(Rapporto &rapporto, const QString &base) {
+    const QFileInfo programma(base + u"/zuvora"_s);
+    if (programma.isFile() && !programma.isExecutable())
+        rapporto.difetti += u"Mancano i permessi per eseguire %1"_s.arg(QDir::toNativeSeparators(programma.filePath()));
+}
+} // namespace
+
+Rapporto verificaInstallazione(const QString &cartella) {
     const QString base = QDir::cleanPath(QFileInfo(cartella).absoluteFilePath());
     if (cartella.isEmpty() || !QFileInfo(base).isDir())
-        return {u"La cartella %1 non esiste."_s.arg(QDir::toNativeSeparators(cartella))};
+        return {{u"La cartella %1 non esiste."_s.arg(QDir::toNativeSeparators(cartella))}, {}};
 
     ControlloArchivio zuvora(archivioZuvora, base + u'/' + archivioZuvora.file);
     zuvora.controlla();
+    controllaValori(zuvora);
     controllaRiferimenti(zuvora, base);
-    const auto totem = cartellaTotem(zuvora, base);
-    QStringList difetti = zuvora.difetti();
+    const auto totem = archivioDelTotem(zuvora, base);
+    Rapporto rapporto = zuvora.rapporto();
+    controllaScrittura(rapporto, base + u'/' + archivioZuvora.file);
     if (totem) {
-        ControlloArchivio kiosk(archivioTotem, *totem + u'/' + QFileInfo(QString(archivioTotem.file)).fileName());
+        ControlloArchivio kiosk(archivioTotem, *totem);
         kiosk.controlla();
-        difetti += kiosk.difetti();
+        rapporto += kiosk.rapporto();
+        controllaScrittura(rapporto, *totem);
     }
     for (const QLatin1StringView file : fileNecessari())
-        if (!QFileInfo(base + u'/' + file).isFile())
-            difetti += u"Manca il file %1"_s.arg(QDir::toNativeSeparators(QString(file)));
-    return difetti;
+        if (const QString difetto = difettoDi(base + u'/' + file, Atteso::Immagine); !difetto.isEmpty())
+            rapporto.difetti += u"Nell'installazione %1"_s.arg(difetto);
+    controllaProgramma(rapporto, base);
+    return rapporto;
 }
 
 } // namespace zuvora::installa

@@ -1,7 +1,9 @@
 #include "installer/Crea.h"
+#include "installer/Interruzione.h"
 #include "installer/Verifica.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <array>
 #include <csignal>
 #include <cstdio>
@@ -12,17 +14,19 @@ using namespace zuvora::installa;
 namespace {
 enum Uscita { InOrdine = 0, NonRiuscito = 1, UsoErrato = 2 };
 
-const auto istruzioni = u"Uso: zuvora-installa COMANDO\n"
-                        "\n"
-                        "Comandi:\n"
-                        "  crea [--esempio] CARTELLA   crea un'installazione completa nella cartella, nuova o vuota;\n"
-                        "                              con --esempio aggiunge contenuti di esempio\n"
-                        "  verifica CARTELLA           controlla un'installazione senza modificarla: una riga per\n"
-                        "                              ogni difetto\n"
-                        "  --help                      mostra queste istruzioni\n"
-                        "  --version                   mostra la versione\n"
-                        "\n"
-                        "Esito: 0 tutto in ordine, 1 non riuscito o difetti trovati, 2 comando errato.\n"_s;
+const auto istruzioni =
+    u"Uso: zuvora-installa COMANDO\n"
+    "\n"
+    "Comandi:\n"
+    "  crea [--esempio] [--notizie URL] CARTELLA\n"
+    "                      crea un'installazione completa nella cartella, nuova o vuota; --esempio aggiunge\n"
+    "                      contenuti di esempio, --notizie sceglie la pagina delle notizie\n"
+    "  verifica CARTELLA   controlla un'installazione senza modificarla: una riga per ogni difetto; le note\n"
+    "                      non sono difetti\n"
+    "  --help              mostra queste istruzioni\n"
+    "  --version           mostra la versione\n"
+    "\n"
+    "Esito: 0 tutto in ordine, 1 non riuscito o difetti trovati, 2 comando errato.\n"_s;
 
 void scrivi(std::FILE *dove, const QString &testo) {
     std::fputs(testo.toLocal8Bit().constData(), dove);
@@ -33,46 +37,66 @@ int usoErrato(const QString &motivo) {
     return UsoErrato;
 }
 
-// Takes `opzione` out of the arguments; true when it was there.
-bool prendi(QStringList &argomenti, const QString &opzione) {
-    return argomenti.removeAll(opzione) > 0;
-}
-
-int crea(const QStringList &dati) {
-    QStringList argomenti = dati;
-    OpzioniCrea opzioni;
-    opzioni.esempio = prendi(argomenti, u"--esempio"_s);
-    opzioni.cartella = argomenti.value(0);
-    const Esito esito = creaInstallazione(opzioni);
+int riferisci(const Esito &esito) {
     scrivi(esito.riuscito ? stdout : stderr, esito.messaggio + u'\n');
     return esito.riuscito ? InOrdine : NonRiuscito;
 }
 
-int verifica(const QStringList &argomenti) {
-    const QStringList difetti = verificaInstallazione(argomenti.value(0));
-    for (const QString &difetto : difetti)
+// What stood on the command line: options with their value (empty when they take none), and the rest in its order.
+struct Richiesta {
+    QHash<QString, QString> opzioni;
+    QStringList argomenti;
+};
+
+int crea(const Richiesta &richiesta) {
+    ascoltaInterruzioni();
+    OpzioniCrea opzioni;
+    opzioni.cartella = richiesta.argomenti.first();
+    opzioni.esempio = richiesta.opzioni.contains(u"--esempio"_s);
+    opzioni.notizie = richiesta.opzioni.value(u"--notizie"_s);
+    return riferisci(creaInstallazione(opzioni));
+}
+
+int verifica(const Richiesta &richiesta) {
+    const Rapporto rapporto = verificaInstallazione(richiesta.argomenti.first());
+    for (const QString &difetto : rapporto.difetti)
         scrivi(stdout, difetto + u'\n');
-    if (difetti.isEmpty())
+    for (const QString &nota : rapporto.note)
+        scrivi(stdout, u"Nota: %1\n"_s.arg(nota));
+    if (rapporto.difetti.isEmpty())
         scrivi(stdout, u"Installazione in ordine.\n"_s);
-    return difetti.isEmpty() ? InOrdine : NonRiuscito;
+    return rapporto.difetti.isEmpty() ? InOrdine : NonRiuscito;
 }
 
 struct Comando {
     QLatin1StringView nome;
-    QStringList opzioni;
-    int (*esegui)(const QStringList &argomenti); // its options and one folder
+    QStringList opzioni;   // without a value
+    QStringList conValore; // with one
+    QStringList argomenti; // what each stands for
+    int (*esegui)(const Richiesta &richiesta);
 };
 
-int esegui(const Comando &comando, const QStringList &argomenti) {
-    int cartelle = 0;
-    for (const QString &argomento : argomenti) {
-        if (argomento.startsWith(u'-') && !comando.opzioni.contains(argomento))
-            return usoErrato(u"Opzione sconosciuta: %1"_s.arg(argomento));
-        cartelle += argomento.startsWith(u'-') ? 0 : 1;
+int esegui(const Comando &comando, QStringList parole) {
+    Richiesta richiesta;
+    while (!parole.isEmpty()) {
+        const QString parola = parole.takeFirst();
+        if (comando.conValore.contains(parola)) {
+            if (parole.isEmpty())
+                return usoErrato(u"Manca il valore di %1."_s.arg(parola));
+            richiesta.opzioni.insert(parola, parole.takeFirst());
+        } else if (comando.opzioni.contains(parola)) {
+            richiesta.opzioni.insert(parola, {});
+        } else if (parola.startsWith(u'-')) {
+            return usoErrato(u"Opzione sconosciuta: %1"_s.arg(parola));
+        } else {
+            richiesta.argomenti += parola;
+        }
     }
-    if (cartelle != 1)
-        return usoErrato(cartelle == 0 ? u"Manca la cartella."_s : u"Indicare una sola cartella."_s);
-    return comando.esegui(argomenti);
+    if (richiesta.argomenti.size() < comando.argomenti.size())
+        return usoErrato(u"Manca: %1."_s.arg(comando.argomenti.at(richiesta.argomenti.size())));
+    if (richiesta.argomenti.size() > comando.argomenti.size())
+        return usoErrato(u"Argomento di troppo: %1"_s.arg(richiesta.argomenti.at(comando.argomenti.size())));
+    return comando.esegui(richiesta);
 }
 } // namespace
 
@@ -84,7 +108,8 @@ int main(int argc, char **argv) {
     const QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationVersion(QStringLiteral(ZUVORA_VERSIONE));
 
-    const std::array comandi{Comando{"crea"_L1, {u"--esempio"_s}, crea}, Comando{"verifica"_L1, {}, verifica}};
+    const std::array comandi{Comando{"crea"_L1, {u"--esempio"_s}, {u"--notizie"_s}, {u"la cartella"_s}, crea},
+                             Comando{"verifica"_L1, {}, {}, {u"la cartella"_s}, verifica}};
     QStringList argomenti = QCoreApplication::arguments().mid(1);
     if (argomenti.isEmpty())
         return usoErrato(u"Manca il comando."_s);

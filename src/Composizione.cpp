@@ -1,5 +1,7 @@
 #include "Composizione.h"
 
+#include "kiosk/forms/Impostatotem.h"
+#include "kiosk/forms/VarieImpostaTotem.h"
 #include "library/forms/Elementi.h"
 #include "library/forms/SceltaLayout.h"
 #include "pannello/forms/PaginaClient.h"
@@ -18,6 +20,13 @@ void mostraSceltaLayout(const Apertura &a) {
     SceltaLayout(a.ambiente, a.risoluzione, a.padre).mostraModale();
 }
 const ApriForm sceltaLayout = mostraSceltaLayout;
+
+// The size of the kiosk's preview outlives the form that opens it.
+ApriForm impostaTotem() {
+    return [anteprima = std::make_shared<Misura>()](const Apertura &a) {
+        Impostatotem(a.ambiente, *anteprima, a.padre).mostraModale();
+    };
+}
 
 constexpr bool soloPrincipale = true;
 constexpr bool tutte = false;
@@ -44,8 +53,8 @@ std::vector<VoceMenu> vociDelPannello() {
         {"PB1(1)", 5040, "  Modulo Vocale (TTS)", u"Modulo Vocale", tutte, nulla},
         {"PB1(6)", 5400, "  Gestione &Radio", u"Gestione Radio", tutte, nulla},
         {"PB1(11)", 6120, "  PlayList di &YouTube", u"Playlist YouTube", tutte, nulla},
-        {"PB1(12)", 6480, "  Imposta schermata Totem", invariato, soloPrincipale, nulla},
-        {"PB1(13)", 6840, "  Varie impostazioni Totem", invariato, soloPrincipale, nulla},
+        {"PB1(12)", 6480, "  Imposta schermata Totem", invariato, soloPrincipale, impostaTotem()},
+        {"PB1(13)", 6840, "  Varie impostazioni Totem", invariato, soloPrincipale, form<VarieImpostaTotem>},
     };
 }
 

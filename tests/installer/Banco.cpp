@@ -32,7 +32,7 @@ void Banco::scrivi(const QString &nome, const QByteArray &contenuto) const {
 }
 
 zuvora::installa::OpzioniCrea opzioni(const QString &cartella, bool esempio) {
-    return {cartella, esempio, false, QFileInfo(QStringLiteral(ZUVORA_INSTALLA)).path()};
+    return {cartella, esempio, {}, false, QFileInfo(QStringLiteral(ZUVORA_INSTALLA)).path()};
 }
 
 QString sql(const QString &archivio, const QString &istruzione) {

@@ -2,7 +2,8 @@
 #include "installer/Guasto.h"
 #include "installer/Percorsi.h"
 
-#include <QSysInfo>
+#include "shell/logic/Percorsi.h"
+
 #include <gtest/gtest.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,24 +22,10 @@ TEST(Csv, DistingueNullDaVuotoEScioglieLeVirgolette) {
         EXPECT_THROW(leggiCsv(errato, u"prova"_s), Guasto) << errato;
 }
 
-TEST(Percorsi, OgniFormaPortaAlSuoFile) {
-    const QString questa = QSysInfo::machineHostName();
-    struct Caso {
-        QString percorso;
-        std::optional<QString> file;
-    };
-    const Caso casi[] = {
-        {u"/dati/foto.jpg"_s, u"/dati/foto.jpg"_s},
-        {u"C:\\dati\\foto.jpg"_s, u"/dati/foto.jpg"_s},
-        {u"\\\\"_s + questa + u"\\dati\\din.wav"_s, u"/dati/din.wav"_s},
-        {u"\\\\"_s + questa.toUpper() + u"\\dati\\din.wav"_s, u"/dati/din.wav"_s},
-        {u"\\\\ALTRA-MACCHINA\\dati\\din.wav"_s, std::nullopt},
-        {u"\\\\"_s + questa, std::nullopt},
-    };
-    for (const Caso &caso : casi)
-        EXPECT_EQ(fileLocale(caso.percorso), caso.file) << qPrintable(caso.percorso);
-    // What the start rows name is found again.
-    EXPECT_EQ(fileLocale(espandi(u"{RETE}/Suoni/a.wav"_s, u"/mio impianto"_s)), u"/mio impianto/Suoni/a.wav"_s);
-    EXPECT_EQ(fileLocale(espandi(u"{CARTELLA}/x.jpg"_s, u"/mio impianto"_s)), u"/mio impianto/x.jpg"_s);
+TEST(Percorsi, LeRigheDiPartenzaPortanoAlLoroFile) {
+    const zuvora::Percorsi percorsi;
+    EXPECT_EQ(percorsi.nativo(espandi(u"{RETE}/Suoni/a.wav"_s, u"/mio impianto"_s)), u"/mio impianto/Suoni/a.wav"_s);
+    EXPECT_EQ(percorsi.nativo(espandi(u"{CARTELLA}/x.jpg"_s, u"/mio impianto"_s)), u"/mio impianto/x.jpg"_s);
+    EXPECT_EQ(espandi(u"altro"_s, u"/i"_s), u"altro"_s);
     EXPECT_TRUE(espandi({}, u"/i"_s).isNull());
 }

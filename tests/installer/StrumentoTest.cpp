@@ -48,7 +48,9 @@ TEST_F(Strumento, VerificaDiceOgniDifettoEUscendoLoConferma) {
     QFile::remove(cartella + u"/FraseTTS.txt"_s);
     const Risposta r = strumento({u"verifica"_s, cartella});
     EXPECT_EQ(r.uscita, 1);
-    EXPECT_EQ(r.testo, u"Manca il file FraseTTS.txt\nManca il file th19.rtf\n"_s);
+    EXPECT_EQ(r.testo,
+              u"Nell'installazione manca il file %1/FraseTTS.txt\nNell'installazione manca il file %1/th19.rtf\n"_s.arg(
+                  cartella));
 }
 
 TEST_F(Strumento, CreaRifiutaConUno) {

@@ -6,7 +6,8 @@
 #include <sqlite3.h>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace zuvora::installa;
+using zuvora::installa::Rapporto;
+using zuvora::installa::verificaInstallazione;
 using namespace prova;
 
 namespace {
@@ -23,10 +24,13 @@ void sostituisci(const QString &nome, const QByteArray &contenuto) {
     file.write(contenuto);
 }
 
+enum Esito { Difetto, Nota, Sana };
+
 struct Caso {
     const char *nome;
     void (*guasta)(const QString &impianto);
-    const char *difetto; // part of one of the findings; "" when the installation is still sound
+    const char *detto; // part of one of the findings
+    Esito esito = Difetto;
 };
 
 void PrintTo(const Caso &caso, std::ostream *dove) {
@@ -58,9 +62,31 @@ const Caso casi[] = {
      [](const QString &i) {
          sql(impostazioni(i), u"UPDATE ConfigurazioneTotem SET PercorsoReteTotem = '\\\\X9\\Totem'"_s);
      },
-     "il totem è su un'altra macchina"},
+     "il totem è su un'altra macchina", Nota},
     {"totem_mancante", [](const QString &i) { QFile::remove(totem(i)); }, "TotemZuvora.mdb: il file manca"},
-    {"vuoto", [](const QString &i) { sostituisci(impostazioni(i), {}); }, "Zuvora.mdb: il file è vuoto"},
+    {"vuoto", [](const QString &i) { sostituisci(impostazioni(i), {}); }, "il file è vuoto, non è un archivio"},
+    {"di_un_byte", [](const QString &i) { sostituisci(impostazioni(i), "x"); }, "il file non è un archivio"},
+    {"versione_sconosciuta",
+     [](const QString &i) { sql(impostazioni(i), u"UPDATE Versione SET Numero = 'Versione 9'"_s); },
+     "«Versione 9» non è una versione conosciuta"},
+    {"layout_fuori_campo",
+     [](const QString &i) { sql(impostazioni(i), u"UPDATE Configurazione SET qualelayout = 11"_s); },
+     "qualelayout vale 11"},
+    {"risoluzione_fuori_campo",
+     [](const QString &i) { sql(impostazioni(i), u"UPDATE Configurazione SET MisuraFormWH = 0"_s); },
+     "MisuraFormWH vale 0"},
+    {"immagine_vuota", [](const QString &i) { sostituisci(i + u"/ZuvoraDecorazioni/Cornici/stondata.gif"_s, {}); },
+     "stondata.gif è vuoto"},
+    {"sfondo_del_totem",
+     [](const QString &i) { sql(impostazioni(i), u"UPDATE ConfigurazioneTotem SET SfondoTotem = '/nessuno.jpg'"_s); },
+     "tabella ConfigurazioneTotem, riga 1: manca il file /nessuno.jpg"},
+    {"versione_precedente",
+     [](const QString &i) {
+         sql(impostazioni(i), u"UPDATE Versione SET Numero = 'Versione 3.1.9';"
+                              "ALTER TABLE ConfigurazioneTotem DROP COLUMN TestoVisibile;"
+                              "ALTER TABLE ConfigurazioneTotem DROP COLUMN DataVisibile"_s);
+     },
+     "versione 3.1.9: avviare il programma", Nota},
     {"estraneo", [](const QString &i) { sostituisci(impostazioni(i), QByteArray(9000, 'x')); },
      "Zuvora.mdb: il file non è un archivio"},
     {"cartella_al_posto",
@@ -70,17 +96,17 @@ const Caso casi[] = {
      },
      "TotemZuvora.mdb: non è un file"},
     {"troncato", [](const QString &i) { QFile::resize(impostazioni(i), 20480); },
-     "Zuvora.mdb: l'archivio è danneggiato"},
+     "impianto/Zuvora.mdb: l'archivio è danneggiato"},
     {"pagina_azzerata",
      [](const QString &i) {
          QByteArray byte = leggi(impostazioni(i));
          sostituisci(impostazioni(i), byte.replace(byte.size() - 8192, 4096, QByteArray(4096, '\0')));
      },
-     "Zuvora.mdb: l'archivio è danneggiato"},
+     "impianto/Zuvora.mdb: l'archivio è danneggiato"},
     {"wal", [](const QString &i) { sql(impostazioni(i), u"PRAGMA journal_mode = WAL"_s); }, "l'archivio è in modo WAL"},
     {"cornice", [](const QString &i) { QFile::remove(i + u"/ZuvoraDecorazioni/Cornici/stondata.gif"_s); },
      "stondata.gif"},
-    {"frase", [](const QString &i) { QFile::remove(i + u"/FraseTTS.txt"_s); }, "Manca il file FraseTTS.txt"},
+    {"frase", [](const QString &i) { QFile::remove(i + u"/FraseTTS.txt"_s); }, "impianto/FraseTTS.txt"},
     {"immagine_di_layout",
      [](const QString &i) {
          sql(impostazioni(i), u"UPDATE Layout7 SET PercorsoImmagine = '/nessuna/foto.jpg' WHERE rowid = 40"_s);
@@ -97,20 +123,29 @@ const Caso casi[] = {
     {"numeri_del_catalogo", [](const QString &i) { sql(impostazioni(i), u"UPDATE sqlite_sequence SET seq = 9"_s); },
      "non inizierebbero da 172"},
     // What users and sibling programs may do leaves an installation sound.
+    {"variabili_del_biglietto",
+     [](const QString &i) { sql(totem(i), u"ALTER TABLE DatiDaStampareIMP DROP COLUMN Messaggio"_s); }, "", Sana},
+    {"scelte_non_fatte",
+     [](const QString &i) {
+         sql(impostazioni(i), u"UPDATE Configurazione SET MisuraFormWH = NULL, qualelayout = NULL"_s);
+     },
+     "", Sana},
+    {"tabelle_con_apostrofi", [](const QString &i) { sql(impostazioni(i), u"CREATE TABLE [L'altra] ([c'è] TEXT)"_s); },
+     "", Sana},
     {"nomi_in_altre_lettere",
      [](const QString &i) {
          sql(impostazioni(i), u"ALTER TABLE radio RENAME TO r; ALTER TABLE r RENAME TO RADIO;"
                               "ALTER TABLE Configurazione RENAME COLUMN tempo TO TEMPO"_s);
      },
-     ""},
+     "", Sana},
     {"layout_senza_sfondo",
      [](const QString &i) {
          sql(impostazioni(i), u"UPDATE Layout3 SET PercorsoImmagine = 'Label2' WHERE rowid = 32"_s);
      },
-     ""},
+     "", Sana},
     {"suono_di_altra_macchina",
      [](const QString &i) { sql(impostazioni(i), u"INSERT INTO DinDon(DinDon) VALUES ('\\\\X9\\Suoni\\a.wav')"_s); },
-     ""},
+     "", Sana},
 };
 } // namespace
 
@@ -119,13 +154,14 @@ TEST_P(Danni, OgniDannoHaLaSuaRigaENullaCambia) {
     GetParam().guasta(cartella);
     const auto prima = istantanea(cartella);
 
-    const QStringList difetti = verificaInstallazione(cartella);
+    const Rapporto rapporto = verificaInstallazione(cartella);
 
-    const QString atteso = QString::fromUtf8(GetParam().difetto);
-    if (atteso.isEmpty())
-        EXPECT_TRUE(difetti.isEmpty()) << qPrintable(difetti.join(u'\n'));
-    else
-        EXPECT_FALSE(difetti.filter(atteso).isEmpty()) << qPrintable(difetti.join(u'\n'));
+    const QString atteso = QString::fromUtf8(GetParam().detto);
+    const bool nota = GetParam().esito == Nota;
+    EXPECT_EQ(rapporto.difetti.isEmpty(), GetParam().esito != Difetto) << qPrintable(rapporto.difetti.join(u'\n'));
+    EXPECT_EQ(rapporto.note.isEmpty(), !nota) << qPrintable(rapporto.note.join(u'\n'));
+    EXPECT_FALSE(!atteso.isEmpty() && (nota ? rapporto.note : rapporto.difetti).filter(atteso).isEmpty())
+        << qPrintable((rapporto.difetti + rapporto.note).join(u'\n'));
     EXPECT_EQ(istantanea(cartella), prima);
 }
 
@@ -141,17 +177,16 @@ TEST_F(Verifica, UnaScritturaAltruiAMetaEDetta) {
     const char *meta = "PRAGMA cache_size = 1; BEGIN EXCLUSIVE; UPDATE ComuniMeteo SET Regione = Regione || Regione";
     ASSERT_EQ(sqlite3_exec(altro, meta, nullptr, nullptr, nullptr), SQLITE_OK);
 
-    EXPECT_EQ(verificaInstallazione(cartella).filter(u"occupato da un altro programma"_s).size(), 1);
+    EXPECT_EQ(verificaInstallazione(cartella).difetti.filter(u"occupato da un altro programma"_s).size(), 1);
 
     for (const auto file : {"impianto/Zuvora.mdb"_L1, "impianto/Zuvora.mdb-journal"_L1})
         scrivi(u"morto/"_s + file, leggi(percorso(file)));
-    EXPECT_EQ(verificaInstallazione(percorso(u"morto/impianto"_s)).filter(u"rimasta a metà"_s).size(), 1);
+    EXPECT_EQ(verificaInstallazione(percorso(u"morto/impianto"_s)).difetti.filter(u"rimasta a metà"_s).size(), 1);
     EXPECT_TRUE(QFile::exists(percorso(u"morto/impianto/Zuvora.mdb-journal"_s)));
     sqlite3_close(altro);
 }
 
 TEST_F(Verifica, LaCartellaCheMancaEDetta) {
-    EXPECT_FALSE(verificaInstallazione(percorso(u"nessuna"_s)).isEmpty());
-    EXPECT_FALSE(verificaInstallazione({}).isEmpty());
-    EXPECT_FALSE(verificaInstallazione(percorso()).isEmpty());
+    for (const QString &cartella : {percorso(u"nessuna"_s), QString(), percorso()})
+        EXPECT_FALSE(verificaInstallazione(cartella).difetti.isEmpty()) << cartella.toStdString();
 }

@@ -1,6 +1,6 @@
 #include "kiosk/logic/Numerazione.h"
 #include "kiosk/DueArchivi.h"
-#include "kiosk/logic/ProvaTotem.h"
+#include "kiosk/logic/ArchivioTotem.h"
 
 namespace zuvora::prova {
 namespace {

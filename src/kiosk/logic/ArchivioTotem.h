@@ -1,54 +1,50 @@
 #pragma once
 
-#include "kiosk/logic/ConfigurazioneTotem.h"
+#include "shell/logic/Domanda.h"
 #include "shell/store/EngineError.h"
 
-#include <QStringList>
-#include <bitset>
-#include <optional>
+#include <QString>
+#include <variant>
 
 namespace zuvora {
 
-class Riga;
+class Percorsi;
 
-// The names of the active services, in the order of the table.
-QStringList serviziAttivi(const QString &cartella);
+inline constexpr QStringView nomeArchivioTotem = u"TotemZuvora.mdb";
+inline constexpr QStringView nomeTicket = u"Ticket.lbl";
 
-// Brings the kiosk's row to the form and back. A load can stop early; what it didn't show is not overwritten later.
-class ArchivioTotem {
-public:
-    explicit ArchivioTotem(QString cartella);
+// The native path of a file in the kiosk's folder, whether it is there or not. Asks the disk, and may block.
+QString fileTotem(const Percorsi &percorsi, const QString &cartellaTotem, QStringView nome);
 
-    // Throws EngineError when the row itself can't be read.
-    void carica();
-    // The three parts of it, in their order.
-    void caricaInizio();
-    bool caricaServizi(); // false ends the load
-    void caricaResto();
+// Whether the kiosk's database can be opened: false when its folder or file is missing. Any other failure (locked,
+// damaged, foreign) counts as reached: the forms that use the file tell it. Blocks as long as the disk does.
+bool totemRaggiungibile(const QString &archivio);
 
-    const ContenutoTotem &contenuto() const { return m_contenuto; }
-    const QStringList &servizi() const { return m_servizi; }
-    // What stopped the load, if it was a failure.
-    const std::optional<EngineError> &guasto() const { return m_guasto; }
+// The same off the thread, for a folder as the row has it: the answer comes within 5 s, and not at all when `ricevente`
+// is gone.
+void provaTotem(const Percorsi &percorsi, const QString &cartellaTotem, QObject &ricevente,
+                std::function<void(bool)> risposta);
 
-    // Two writes: path and screen, then the rest. Written is what the load has shown or `adesso` has changed since; a
-    // screen that isn't chosen stays as it was.
-    void salva(const ContenutoTotem &adesso);
+// The failure of a kiosk that doesn't answer. What was asked of it may still happen later.
+EngineError totemMuto();
 
-private:
-    void mostra(CampoTotem campo, const Riga &riga);
-    bool mostraVisibilita(const Riga &riga);
-    void scrivi(const ContenutoTotem &adesso, QList<CampoTotem> campi);
-    bool daScrivere(CampoTotem campo, const ContenutoTotem &adesso) const;
-
-    QString m_cartella;
-    ContenutoTotem m_contenuto;
-    std::bitset<colonneTotem.size()> m_mostrati;
-    QStringList m_servizi;
-    std::optional<EngineError> m_guasto;
-};
-
-// Adds the two columns that older databases lack; one that is there already stays.
-void AggiungiColonneTotem(const QString &cartella);
+// Runs a piece of work on the kiosk's files off the thread and waits for it: a kiosk that doesn't answer gives
+// totemMuto in 5 s. The work must own what it uses. Throws EngineError.
+template <class T> T alTotem(std::function<T()> lavoro) {
+    using Esito = std::variant<T, EngineError>;
+    const std::function<Esito()> domanda = [lavoro = std::move(lavoro)]() -> Esito {
+        try {
+            return lavoro();
+        } catch (const EngineError &e) {
+            return e;
+        }
+    };
+    const auto esito = chiediEAspetta(domanda, std::chrono::seconds(5));
+    if (!esito)
+        throw totemMuto();
+    if (const auto *errore = std::get_if<EngineError>(&*esito))
+        throw *errore;
+    return std::get<T>(*esito);
+}
 
 } // namespace zuvora

@@ -65,11 +65,11 @@ inline constexpr std::array<ColonnaTotem, 21> colonneTotem = {{
     {u"DataVisibile", GenereTotem::Logico, u"0"},
 }};
 
-inline constexpr std::size_t posto(CampoTotem campo) {
+inline constexpr std::size_t indice(CampoTotem campo) {
     return static_cast<std::size_t>(campo);
 }
 inline constexpr const ColonnaTotem &colonna(CampoTotem campo) {
-    return colonneTotem[posto(campo)];
+    return colonneTotem[indice(campo)];
 }
 
 // What the form's boxes hold, by column: a box's text, "1" or "0" of a check box, the index of the chosen screen or
@@ -77,8 +77,8 @@ inline constexpr const ColonnaTotem &colonna(CampoTotem campo) {
 class ContenutoTotem {
 public:
     ContenutoTotem();
-    QString &operator[](CampoTotem campo) { return m_testi[posto(campo)]; }
-    const QString &operator[](CampoTotem campo) const { return m_testi[posto(campo)]; }
+    QString &operator[](CampoTotem campo) { return m_testi[indice(campo)]; }
+    const QString &operator[](CampoTotem campo) const { return m_testi[indice(campo)]; }
 
 private:
     std::array<QString, colonneTotem.size()> m_testi;

@@ -61,8 +61,9 @@ void Connessione::controllaFile() const {
     const QFileInfo file(m_percorso);
     if (m_percorso.isEmpty() || !file.exists())
         throw mancante(Azione::Apertura);
-    // An empty file would pass for an empty database; a pipe would block for ever.
-    if (!file.isFile() || file.size() == 0)
+    // An empty file would pass for an empty database, and one of a single byte counts as empty; a pipe would block for
+    // ever.
+    if (!file.isFile() || file.size() <= 1)
         throw errore(Errore::NonDatabase, Azione::Apertura);
 }
 
@@ -131,7 +132,7 @@ bool Connessione::spostato() const {
 }
 
 bool Connessione::vale(const QString &percorso) const {
-    return m_db != nullptr && percorso == m_richiesto && !spostato() && QFileInfo(m_percorso).size() > 0;
+    return m_db != nullptr && percorso == m_richiesto && !spostato() && QFileInfo(m_percorso).size() > 1;
 }
 
 bool Connessione::soloLettura() const {

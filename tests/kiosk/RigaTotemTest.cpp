@@ -1,4 +1,4 @@
-#include "kiosk/logic/ArchivioTotem.h"
+#include "kiosk/logic/RigaTotem.h"
 #include "kiosk/DueArchivi.h"
 #include "kiosk/logic/Aspetto.h"
 
@@ -19,7 +19,7 @@ protected:
     void imposta(const QString &assegni) { esegui(zuvora(), u"UPDATE ConfigurazioneTotem SET "_s + assegni); }
     QString riga() { return esegui(zuvora(), u"SELECT * FROM ConfigurazioneTotem"_s).value(0); }
     // All boxes as the load left them.
-    static QStringList mostrati(const ArchivioTotem &a) {
+    static QStringList mostrati(const RigaTotem &a) {
         QStringList testi;
         for (std::size_t i = 0; i < colonneTotem.size(); ++i)
             testi << a.contenuto()[static_cast<CampoTotem>(i)];
@@ -31,7 +31,7 @@ constexpr QStringView piena = u"2|/totem|/s.jpg|Titolo|Tahoma|36|255|1|0|Verdana
 constexpr QStringView prima = u"|||||Arial|10|0|0|0|Arial|10|0|0|0|Arial|10|0|0|0|0|0";
 
 TEST_F(Totem, EveryColumnGoesToItsBoxAndBack) {
-    ArchivioTotem a(cartella());
+    RigaTotem a(cartella());
     a.carica();
     EXPECT_FALSE(a.guasto());
     EXPECT_EQ(mostrati(a).join(u'|'), piena.toString());
@@ -54,7 +54,7 @@ TEST_F(Totem, ColumnsAreFoundInAnySpelling) {
                                 {u"FontForecolorData"_s, u"FontForeColordata"_s},
                                 {u"FontItalic"_s, u"Fontitalic"_s}})
         esegui(zuvora(), u"ALTER TABLE ConfigurazioneTotem RENAME COLUMN %1 TO %2"_s.arg(da, a));
-    ArchivioTotem archivio(cartella());
+    RigaTotem archivio(cartella());
     archivio.carica();
     EXPECT_EQ(mostrati(archivio).join(u'|'), piena.toString());
     archivio.salva(archivio.contenuto());
@@ -64,7 +64,7 @@ TEST_F(Totem, ColumnsAreFoundInAnySpelling) {
 TEST_F(Totem, NullShowsAnEmptyBoxButASizeItsFirstValue) {
     imposta(u"RisoluzioneTotem=NULL,SfondoTotem=NULL,FontTitolo=NULL,FontSizeTitolo=NULL,FontForecolorTitolo=NULL,"
             "FontBoldTitolo=NULL,DataVisibile=NULL"_s);
-    ArchivioTotem a(cartella());
+    RigaTotem a(cartella());
     a.carica();
     EXPECT_EQ(a.contenuto()[CampoTotem::RisoluzioneTotem], u""_s);
     EXPECT_EQ(a.contenuto()[CampoTotem::SfondoTotem], u""_s);
@@ -78,7 +78,7 @@ TEST_F(Totem, NullShowsAnEmptyBoxButASizeItsFirstValue) {
 TEST_F(Totem, AScreenThatIsNoneOfTheFourStaysUntilOneIsChosen) {
     for (const QString &stored : {u"7"_s, u"NULL"_s, u"-1"_s}) {
         imposta(u"RisoluzioneTotem="_s + stored);
-        ArchivioTotem a(cartella());
+        RigaTotem a(cartella());
         a.carica();
         ContenutoTotem adesso = a.contenuto();
         EXPECT_EQ(adesso[CampoTotem::RisoluzioneTotem], u""_s);
@@ -91,7 +91,7 @@ TEST_F(Totem, AScreenThatIsNoneOfTheFourStaysUntilOneIsChosen) {
 
 TEST_F(Totem, WithoutServicesTheLoadStopsAndTheSaveKeepsWhatWasNotShown) {
     esegui(zuvora(), u"UPDATE Servizi SET ServizioAttivo=0"_s);
-    ArchivioTotem a(cartella());
+    RigaTotem a(cartella());
     a.carica();
     EXPECT_FALSE(a.guasto());
     EXPECT_EQ(mostrati(a).join(u'|'), u"2|/totem|||Arial|10|0|0|0|Arial|10|0|0|0|Arial|10|0|0|0|0|0"_s);
@@ -112,7 +112,7 @@ TEST_F(Totem, WithoutServicesTheLoadStopsAndTheSaveKeepsWhatWasNotShown) {
 }
 
 TEST_F(Totem, AFileThatGoesDuringTheLoadEmptiesThePathInTheBoxAlone) {
-    ArchivioTotem a(cartella());
+    RigaTotem a(cartella());
     a.caricaInizio();
     ASSERT_TRUE(a.caricaServizi());
     ASSERT_TRUE(QFile::rename(zuvora(), zuvora() + u"x"_s));
@@ -127,7 +127,7 @@ TEST_F(Totem, AFileThatGoesDuringTheLoadEmptiesThePathInTheBoxAlone) {
 }
 
 TEST_F(Totem, AnotherFailureThereLeavesThePath) {
-    ArchivioTotem a(cartella());
+    RigaTotem a(cartella());
     a.caricaInizio();
     ASSERT_TRUE(a.caricaServizi());
     esegui(zuvora(), u"ALTER TABLE ConfigurazioneTotem RENAME TO Altra"_s);
@@ -141,7 +141,7 @@ TEST_F(Totem, AnOlderDatabaseGainsItsTwoColumns) {
         esegui(zuvora(), u"ALTER TABLE ConfigurazioneTotem DROP COLUMN DataVisibile"_s);
         if (entrambe)
             esegui(zuvora(), u"ALTER TABLE ConfigurazioneTotem DROP COLUMN TestoVisibile"_s);
-        ArchivioTotem a(cartella());
+        RigaTotem a(cartella());
         a.carica();
         EXPECT_FALSE(a.guasto());
         EXPECT_EQ(mostrati(a).join(u'|'),
@@ -155,7 +155,7 @@ TEST_F(Totem, AnOlderDatabaseGainsItsTwoColumns) {
 
 TEST_F(Totem, AMissingOldColumnEndsTheLoadWithTheBoxesFilledSoFar) {
     esegui(zuvora(), u"ALTER TABLE ConfigurazioneTotem DROP COLUMN FontData"_s);
-    ArchivioTotem a(cartella());
+    RigaTotem a(cartella());
     a.carica();
     ASSERT_TRUE(a.guasto());
     EXPECT_EQ(a.guasto()->numero(), Errore::ColonnaNonTrovata);
@@ -165,7 +165,7 @@ TEST_F(Totem, AMissingOldColumnEndsTheLoadWithTheBoxesFilledSoFar) {
 
 TEST_F(Totem, WithoutItsRowNothingOpensAndNothingIsWritten) {
     esegui(zuvora(), u"DELETE FROM ConfigurazioneTotem"_s);
-    ArchivioTotem a(cartella());
+    RigaTotem a(cartella());
     EXPECT_EQ(numeroErrore([&] { a.carica(); }), 3021);
     EXPECT_EQ(numeroErrore([&] { leggiAspetto(cartella()); }), 3021);
 }

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+namespace zuvora::installa {
+
+enum class Atteso { File, Immagine, Cartella };
+
+// What is wrong with the file or folder that a row names, for the end of a sentence; empty when nothing is, or when the
+// path leads to another machine and can't be told from here. A picture must not be empty.
+QString difettoDi(const QString &scritto, Atteso atteso);
+
+} // namespace zuvora::installa

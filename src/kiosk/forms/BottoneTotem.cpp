@@ -1,0 +1,69 @@
+#include "kiosk/forms/BottoneTotem.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+
+namespace zuvora {
+namespace {
+
+constexpr int raggio = 14;  // pixels, of the corners
+constexpr int margine = 12; // between the edge and the name
+constexpr double puntiMinimi = 6;
+constexpr int aParole = Qt::AlignCenter | Qt::TextWordWrap;
+constexpr int ovunque = Qt::AlignCenter | Qt::TextWrapAnywhere;
+
+// A ground on which a text of that colour is read: light under a dark one, dark under a light one.
+QColor fondoPer(const QColor &testo) {
+    const double luce = 0.299 * testo.redF() + 0.587 * testo.greenF() + 0.114 * testo.blueF();
+    return luce < 0.55 ? QColor(0xF4, 0xF7, 0xFB) : QColor(0x1D, 0x3A, 0x5C);
+}
+
+} // namespace
+
+BottoneTotem::BottoneTotem(QWidget *padre, const char *nome, const QString &didascalia, const Posto &posto)
+    : Controllo(padre, nome, posto), m_font(font()) {
+    setAttribute(Qt::WA_TransparentForMouseEvents); // a press on it moves the window, as one beside it
+    setCaption(didascalia);
+}
+
+void BottoneTotem::setCaption(const QString &testo) {
+    m_caption = testo;
+    setAccessibleName(testo.trimmed());
+    update();
+}
+
+void BottoneTotem::setFontTesto(const QFont &font) {
+    m_font = font;
+    update();
+}
+
+QRect BottoneTotem::spazio() const {
+    return rect().adjusted(margine, margine, -margine, -margine);
+}
+
+bool BottoneTotem::entra(const QFont &font, int opzioni) const {
+    const QRect r = spazio();
+    return r.contains(QFontMetrics(font, this).boundingRect(r, opzioni, m_caption));
+}
+
+QFont BottoneTotem::fontMostrato() const {
+    QFont adatto = m_font;
+    while (!entra(adatto, aParole) && adatto.pointSizeF() > puntiMinimi)
+        adatto.setPointSizeF(adatto.pointSizeF() - 1);
+    return adatto;
+}
+
+void BottoneTotem::paintEvent(QPaintEvent *) {
+    QPainter pittore(this);
+    const QColor fondo = fondoPer(m_colore);
+    pittore.setRenderHint(QPainter::Antialiasing);
+    pittore.setPen(QPen(fondo.lightness() > 128 ? fondo.darker(150) : fondo.lighter(170), 2));
+    pittore.setBrush(fondo);
+    pittore.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), raggio, raggio);
+    const QFont mostrato = fontMostrato();
+    pittore.setFont(mostrato);
+    pittore.setPen(m_colore);
+    pittore.drawText(spazio(), entra(mostrato, aParole) ? aParole : ovunque, m_caption);
+}
+
+} // namespace zuvora

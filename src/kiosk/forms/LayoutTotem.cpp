@@ -1,0 +1,156 @@
+#include "kiosk/forms/LayoutTotem.h"
+
+#include "kiosk/logic/SfondoTotem.h"
+#include "shell/host/ColorPicker.h"
+
+#include <QDate>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr int margineDestro = 240;                    // twips, from the date to the screen's right edge
+constexpr Posto fuoriVista = {1000, 23000, 975, 330}; // where a button waits
+
+QFont fontDa(const StileTotem &stile) {
+    QFont font(stile.font);
+    font.setPointSize(stile.misura);
+    font.setBold(stile.grassetto);
+    font.setItalic(stile.italico);
+    return font;
+}
+
+QFont fontIniziale() {
+    QFont font(u"Tahoma"_s);
+    font.setPointSizeF(14.25);
+    font.setBold(true);
+    return font;
+}
+
+void scrivi(Label &etichetta, const QString &testo, const StileTotem &stile) {
+    etichetta.setCaption(testo);
+    etichetta.setFontBase(fontDa(stile));
+    etichetta.setColori(coloreDa(stile.colore));
+}
+
+} // namespace
+
+LayoutTotem::LayoutTotem(const Ambiente &ambiente_, const RichiestaAnteprima &richiesta, QWidget *padre,
+                         Percorsi percorsi)
+    : Form(ambiente_, "LayoutTotem", "Impostazione Layout Totem", richiesta.finestra, padre), m_richiesta(richiesta),
+      m_aspetto(leggiAspetto(cartella())), m_percorsi(std::move(percorsi)),
+      Bottone("Bottone", 1, serviziMassimi, [this](int i, const char *nome) {
+          return std::make_unique<BottoneTotem>(this, nome, u"Pulsante %1"_s.arg(i), fuoriVista);
+      }) {
+    for (const auto &[indice, bottone] : Bottone)
+        bottone->hide();
+    for (Label *etichetta : {&TitoloTXT, &Label1, &Avviso}) {
+        etichetta->setAttribute(Qt::WA_TransparentForMouseEvents);
+        etichetta->setAutosize(true);
+    }
+    for (Label *etichetta : {&TitoloTXT, &Label1})
+        etichetta->setFontBase(fontIniziale());
+    Label1.setAllineamento(Qt::AlignRight);
+    Label1.setLeft(richiesta.finestra.width - twipsDa(Label1.width()) - margineDestro);
+    TitoloTXT.setVisible(richiesta.testoVisibile);
+    Label1.setVisible(richiesta.dataVisibile);
+    if (richiesta.schermo && schermiTotem.at(std::size_t(*richiesta.schermo)).larghezza > 0)
+        DisponiPulsanti(*richiesta.schermo);
+    else
+        avverti(u"Nessuna disposizione dei pulsanti per questa risoluzione: scegliere 1280 x 1024, 1920 x 1080 o "
+                "1440 x 900."_s);
+    vestiPulsanti();
+    mostraAvvisi();
+}
+
+void LayoutTotem::DisponiPulsanti(int schermo) {
+    if (!mostraSfondo())
+        return;
+    scriviTitoloEData(schermo);
+    const auto servizi = static_cast<int>(m_richiesta.servizi.size());
+    const auto posti = disposizionePulsanti(schermo, servizi);
+    for (std::size_t i = 0; i < posti.size(); ++i) {
+        BottoneTotem &bottone = Bottone(static_cast<int>(i) + 1);
+        bottone.setPosto({posti[i].x(), posti[i].y(), posti[i].width(), posti[i].height()});
+        bottone.show();
+    }
+    if (servizi == 0)
+        avverti(u"Nessun servizio attivo: non ci sono pulsanti da disporre."_s);
+    if (const int fuori = fuoriSchermo(schermo, servizi); fuori > 0)
+        avverti(
+            u"Con %1 servizi l'ultima riga di pulsanti esce di %2 pixel sotto il bordo dello schermo."_s.arg(servizi)
+                .arg(pixelDa(fuori)));
+}
+
+// False when the picture ends the arrangement.
+bool LayoutTotem::mostraSfondo() {
+    const SfondoTotem sfondo = leggiSfondo(m_percorsi, m_aspetto.sfondo, pixelDa(m_richiesta.finestra));
+    avverti(fraseSfondo(sfondo.esito, m_aspetto.sfondo));
+    m_sfondo = QPixmap::fromImage(sfondo.immagine);
+    m_sfondo.setDevicePixelRatio(1);
+    return !fermaDisposizione(sfondo.esito);
+}
+
+void LayoutTotem::scriviTitoloEData(int schermo) {
+    scrivi(TitoloTXT, m_aspetto.titolo, m_aspetto.stileTitolo);
+    scrivi(Label1, dataInParole(QDate::currentDate()), m_aspetto.stileData);
+    Label1.setLeft(schermiTotem.at(std::size_t(schermo)).larghezza - twipsDa(Label1.width()) - margineDestro);
+}
+
+void LayoutTotem::vestiPulsanti() {
+    const StileTotem &stile = m_aspetto.stilePulsanti;
+    const auto quanti = std::min<qsizetype>(m_richiesta.servizi.size(), serviziMassimi);
+    for (int i = 0; i < quanti; ++i) {
+        BottoneTotem &bottone = Bottone(i + 1);
+        bottone.setCaption(u' ' + m_richiesta.servizi[i]);
+        bottone.setFontTesto(fontDa(stile));
+        if (stile.coloreDato)
+            bottone.setColoreTesto(coloreDa(stile.colore));
+    }
+    if (!m_aspetto.rifiutati.isEmpty())
+        avverti(u"Non sono numeri, e valgono quelli consueti: "_s + m_aspetto.rifiutati.join(u", "_s) + u'.');
+}
+
+void LayoutTotem::avverti(const QString &frase) {
+    if (!frase.isEmpty())
+        m_avvisi << frase;
+}
+
+void LayoutTotem::mostraAvvisi() {
+    Avviso.setVisible(!m_avvisi.isEmpty());
+    Avviso.setCaption(m_avvisi.join(u'\n'));
+    Avviso.setColori(Qt::black, QColor(0xFF, 0xF4, 0xC4));
+    Avviso.raise();
+}
+
+void LayoutTotem::paintEvent(QPaintEvent *e) {
+    QPainter pittore(this);
+    if (!m_sfondo.isNull())
+        pittore.drawPixmap(e->rect().topLeft(), m_sfondo, e->rect());
+}
+
+// A window larger than the monitor begins in its corner, with the frame in view.
+void LayoutTotem::showEvent(QShowEvent *e) {
+    Form::showEvent(e);
+    const QRect monitor = screen()->availableGeometry();
+    if (!e->spontaneous() && (width() > monitor.width() || height() > monitor.height()))
+        move(monitor.topLeft());
+}
+
+// It is moved by any place of it, for its frame may be out of reach.
+void LayoutTotem::mousePressEvent(QMouseEvent *e) {
+    if (e->button() == Qt::LeftButton)
+        m_presa = e->globalPosition().toPoint() - frameGeometry().topLeft();
+}
+
+void LayoutTotem::mouseMoveEvent(QMouseEvent *e) {
+    if (e->buttons() & Qt::LeftButton)
+        move(e->globalPosition().toPoint() - m_presa);
+}
+
+} // namespace zuvora

@@ -1,0 +1,100 @@
+#include "kiosk/forms/VarieImpostaTotem.h"
+
+#include "kiosk/forms/AttesaTotem.h"
+#include "kiosk/forms/Impostazione.h"
+#include "kiosk/logic/ArchivioTotem.h"
+#include "kiosk/logic/ConfigurazioneTotem.h"
+#include "shell/host/Dialoghi.h"
+#include "shell/host/Piattaforma.h"
+#include "shell/store/Riga.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr int progettoEtichetta = 1;
+const QString titoloMessaggi = u"Zuvora-Messaggio"_s;
+
+} // namespace
+
+VarieImpostaTotem::VarieImpostaTotem(const Ambiente &ambiente_, QWidget *padre, Percorsi percorsi,
+                                     ApriEtichette etichette)
+    : Form(ambiente_, "VarieImpostaTotem", "Varie impostazioni del Totem....", {6015, 2265}, padre),
+      m_apriEtichette(std::move(etichette)), m_percorsi(std::move(percorsi)) {
+    if (!m_apriEtichette)
+        m_apriEtichette = [this] { return creaEtichette(ambiente().piattaforma.cartellaEseguibile()); };
+    PRT.setText(leggiRiga(cartella(), tabellaTotem.toString()).testo(colonna(CampoTotem::PercorsoReteTotem).nome));
+    PRT.setSolaLettura(u"Il percorso si cambia in Imposta schermata Totem."_s);
+    PRT.setFocusPolicy(Qt::ClickFocus);
+    alClic(PB1(2), [this] { conTotem([this] { ImpostaStampa(); }); });
+    alClic(PB1(3), [this] { conTotem([this] { apriNumerazione(); }); });
+    alClic(PB1(0), [this] { scarica(); });
+}
+
+void VarieImpostaTotem::attivata() {
+    m_inProva = true;
+    Label2.setCaption(u"Verifica del Totem in corso..."_s);
+    provaTotem(m_percorsi, PRT.text(), *this, [this, prova = ++m_prova](bool raggiungibile) {
+        if (prova == m_prova)
+            proteggi([&] { concludiProva(raggiungibile); });
+    });
+}
+
+void VarieImpostaTotem::concludiProva(bool raggiungibile) {
+    m_inProva = false;
+    Label2.setCaption({});
+    const auto azione = std::exchange(m_dopoLaProva, nullptr);
+    if (!raggiungibile) {
+        ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, titoloMessaggi,
+                                      u"Percorso TOTEM non impostato o TOTEM non raggiungibile !"_s);
+        scarica();
+    } else if (azione) {
+        azione();
+    }
+}
+
+void VarieImpostaTotem::conTotem(std::function<void()> azione) {
+    if (m_inProva)
+        m_dopoLaProva = std::move(azione);
+    else
+        azione();
+}
+
+void VarieImpostaTotem::ImpostaStampa() {
+    struct Ticket {
+        QList<VariabileTicket> variabili;
+        QString file;
+    };
+    Ticket ticket;
+    {
+        const AttesaTotem attesa(m_occupata);
+        const std::function<Ticket()> lettura = [percorsi = m_percorsi, cartellaTotem = PRT.text()] {
+            return Ticket{variabiliTicket(fileTotem(percorsi, cartellaTotem, nomeArchivioTotem)),
+                          fileTotem(percorsi, cartellaTotem, nomeTicket)};
+        };
+        ticket = alTotem(lettura);
+    }
+    if (LL9 == nullptr) {
+        auto [etichette, motivo] = m_apriEtichette();
+        LL9 = std::move(etichette);
+        if (LL9 == nullptr) {
+            ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, titoloMessaggi, motivo);
+            return;
+        }
+    }
+    LL9->LlDefineVariableStart();
+    DefinisciVariabiliTicket(ticket.variabili);
+    LL9->LlDefineLayout(this, u"Impostazione Modulo"_s, progettoEtichetta, ticket.file);
+}
+
+void VarieImpostaTotem::DefinisciVariabiliTicket(const QList<VariabileTicket> &variabili) {
+    for (const VariabileTicket &variabile : variabili)
+        LL9->LlDefineVariableExt(variabile.nome, variabile.contenuto, variabile.tipo);
+}
+
+void VarieImpostaTotem::apriNumerazione() {
+    Impostazione(ambiente(), PRT.text(), this, m_percorsi).mostraModale();
+}
+
+} // namespace zuvora

@@ -1,0 +1,68 @@
+#include "kiosk/logic/SfondoTotem.h"
+
+#include "shell/immagini/LetturaImmagine.h"
+#include "shell/logic/Domanda.h"
+#include "shell/logic/Percorsi.h"
+
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+// A large picture on a slow network takes its time; one that is not here by then is given up.
+constexpr std::chrono::seconds attesaImmagine{20};
+
+QString cartellaDi(const QString &scritto) {
+    return scritto.left(std::max(scritto.lastIndexOf(u'\\'), scritto.lastIndexOf(u'/')));
+}
+
+SfondoTotem decodifica(const QString &percorso, const QSize &finestra) {
+    if (!QFileInfo(percorso).isReadable())
+        return {EsitoSfondo::Inaccessibile, {}};
+    QImage immagine = leggiRitaglio(percorso, finestra);
+    if (immagine.isNull())
+        return {EsitoSfondo::NonLeggibile, {}};
+    return {EsitoSfondo::Caricato, std::move(immagine)};
+}
+
+} // namespace
+
+SfondoTotem leggiSfondo(const Percorsi &percorsi, const QString &scritto, const QSize &finestra) {
+    if (scritto.isEmpty())
+        return {};
+    const auto esame = percorsi.chiediEAspetta(scritto);
+    if (esame.muto)
+        return {EsitoSfondo::Inaccessibile, {}};
+    if (esame.specie == Specie::Manca) {
+        const auto cartella = percorsi.chiediEAspetta(cartellaDi(scritto));
+        const bool esiste = cartella.specie == Specie::Cartella;
+        return {esiste ? EsitoSfondo::Mancante : EsitoSfondo::Inaccessibile, {}};
+    }
+    if (esame.specie != Specie::File)
+        return {EsitoSfondo::Inaccessibile, {}};
+    const std::function<SfondoTotem()> lettura = [=] { return decodifica(esame.percorso, finestra); };
+    return chiediEAspetta(lettura, attesaImmagine).value_or(SfondoTotem{EsitoSfondo::Inaccessibile, {}});
+}
+
+QString fraseSfondo(EsitoSfondo esito, const QString &scritto) {
+    switch (esito) {
+    case EsitoSfondo::Inaccessibile:
+        return u"Lo sfondo non è raggiungibile e non viene mostrato: "_s + scritto;
+    case EsitoSfondo::Mancante:
+        return u"Lo sfondo non esiste più: la schermata non è stata disposta. File: "_s + scritto;
+    case EsitoSfondo::NonLeggibile:
+        return u"Lo sfondo non è un'immagine leggibile: la schermata non è stata disposta. File: "_s + scritto;
+    case EsitoSfondo::Nessuno:
+    case EsitoSfondo::Caricato:
+        break;
+    }
+    return {};
+}
+
+bool fermaDisposizione(EsitoSfondo esito) {
+    return esito == EsitoSfondo::Mancante || esito == EsitoSfondo::NonLeggibile;
+}
+
+} // namespace zuvora

@@ -1,0 +1,233 @@
+#include "kiosk/forms/VarieImpostaTotem.h"
+#include "kiosk/forms/Impostazione.h"
+#include "kit/FintoSistema.h"
+#include "kit/Guida.h"
+#include "kit/InstallazioneProva.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTest>
+#include <sqlite3.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+const QString nonRaggiungibile = u"Percorso TOTEM non impostato o TOTEM non raggiungibile !"_s;
+
+// Notes the calls in their order.
+class FinteEtichette : public Etichette {
+public:
+    explicit FinteEtichette(QStringList &chiamate) : m_chiamate(chiamate) {}
+    void LlDefineVariableStart() override { m_chiamate << u"Start"_s; }
+    int LlDefineVariableExt(const QString &nome, const QString &contenuto, TipoEtichetta tipo) override {
+        m_chiamate << u"%1=%2 %3"_s.arg(nome, contenuto).arg(static_cast<int>(tipo), 0, 16);
+        return 0;
+    }
+    int LlDefineLayout(QWidget *finestra, const QString &titolo, int tipo, const QString &file) override {
+        m_chiamate << u"%1: %2 %3 %4"_s.arg(finestra->objectName(), titolo).arg(tipo).arg(file);
+        return 0;
+    }
+
+private:
+    QStringList &m_chiamate;
+};
+
+class ProvaVarie : public testing::Test {
+protected:
+    QString totem() const { return i.file(u"Totem/TotemZuvora.mdb"_s); }
+    void percorso(const QString &cartella) {
+        i.esegui(u"UPDATE ConfigurazioneTotem SET PercorsoReteTotem='%1'"_s.arg(cartella));
+    }
+    // The numbers as the kiosk's database has them.
+    QString numero(const QString &colonna, const QString &tabella = u"Numerazione"_s) const {
+        sqlite3 *db = nullptr;
+        QString testo;
+        sqlite3_open(totem().toUtf8().constData(), &db);
+        sqlite3_exec(
+            db, u"SELECT ifnull(%1,'NULL') FROM %2"_s.arg(colonna, tabella).toUtf8().constData(),
+            [](void *dove, int, char **valori, char **) {
+                *static_cast<QString *>(dove) = QString::fromUtf8(valori[0]);
+                return 0;
+            },
+            &testo, nullptr);
+        sqlite3_close(db);
+        return testo;
+    }
+    void aspettaProva(QWidget &form) {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return trova<Label>(form, "Label2").Caption().isEmpty(); }));
+    }
+    InstallazioneProva i;
+    Guida guida;
+};
+
+TEST_F(ProvaVarie, AKioskThatIsNotThereClosesTheFormWithItsBox) {
+    QFile vuoto(i.file(u"vuota"_s));
+    for (const QString &cartella : {u""_s, i.file(u"manca"_s), i.file(u"Suoni"_s), u"\\\\ALTRO\\Totem"_s}) {
+        percorso(cartella);
+        VarieImpostaTotem(i.ambiente, nullptr).mostraModale();
+        const auto box = i.dialoghi.prendiBox();
+        ASSERT_EQ(box.size(), 1U) << cartella.toStdString();
+        EXPECT_EQ(box.front().testo, nonRaggiungibile);
+        EXPECT_EQ(box.front().titolo, u"Zuvora-Messaggio"_s);
+        EXPECT_EQ(box.front().icona, Dialoghi::Icona::Informazione);
+    }
+    i.esegui(u"UPDATE ConfigurazioneTotem SET PercorsoReteTotem=NULL"_s);
+    VarieImpostaTotem(i.ambiente, nullptr).mostraModale();
+    EXPECT_EQ(i.dialoghi.unicoMessaggio(), nonRaggiungibile);
+}
+
+TEST_F(ProvaVarie, AKioskThatNeverAnswersCountsAsMissing) {
+    const auto sistema = std::make_shared<FintoSistema>();
+    sistema->muta = u"/lontano"_s;
+    percorso(u"/lontano/Totem"_s);
+    VarieImpostaTotem form(i.ambiente, nullptr, Percorsi(sistema));
+    QElapsedTimer orologio;
+    orologio.start();
+    form.mostraModale();
+    EXPECT_LE(orologio.elapsed(), 5000);
+    EXPECT_EQ(i.dialoghi.unicoMessaggio(), nonRaggiungibile);
+    sistema->risveglia();
+}
+
+TEST_F(ProvaVarie, EveryFormOfThePathReachesTheKiosk) {
+    const QString nativo = i.file(u"Totem"_s);
+    ASSERT_TRUE(QDir(i.cartella()).rename(u"Totem"_s, u"Sala d'età"_s));
+    const QString speciale = i.file(u"Sala d'età"_s);
+    for (QString cartella : {speciale, speciale + u'/', u"C:"_s + QString(speciale).replace(u'/', u'\\'),
+                             u"\\\\localhost"_s + QString(speciale).replace(u'/', u'\\') + u'\\'}) {
+        percorso(cartella.replace(u'\'', u"''"_s));
+        VarieImpostaTotem form(i.ambiente, nullptr);
+        guida.quando("VarieImpostaTotem", [&](QWidget &w) {
+            aspettaProva(w);
+            QTest::mouseClick(&trova<QWidget>(w, "PB1(3)"), Qt::LeftButton);
+            QTest::keyClick(&w, Qt::Key_Escape);
+        });
+        guida.quando("Impostazione", [](QWidget &w) {
+            EXPECT_EQ(trova<Edit>(w, "NumIniz(20)").text(), u"1"_s);
+            QTest::keyClick(&w, Qt::Key_Escape);
+        });
+        form.mostraModale();
+        EXPECT_TRUE(i.dialoghi.prendiBox().empty()) << cartella.toStdString();
+    }
+}
+
+TEST_F(ProvaVarie, AKioskThatGoesAwayIsNoticedOnTheReturn) {
+    VarieImpostaTotem form(i.ambiente, nullptr);
+    guida.quando("VarieImpostaTotem",
+                 [](QWidget &w) { QTest::mouseClick(&trova<QWidget>(w, "PB1(3)"), Qt::LeftButton); });
+    guida.quando("Impostazione", [&](QWidget &w) {
+        EXPECT_TRUE(QFile::rename(totem(), totem() + u"x"_s));
+        QTest::mouseClick(&trova<QWidget>(w, "Na1(3)"), Qt::LeftButton);
+        EXPECT_TRUE(i.dialoghi.unicoMessaggio().contains(u"TotemZuvora.mdb"_s));
+        EXPECT_EQ(trova<Edit>(w, "Modifnr(3)").text(), u"0"_s);
+        QTest::keyClick(&w, Qt::Key_Escape);
+    });
+    form.mostraModale();
+    EXPECT_EQ(i.dialoghi.unicoMessaggio(), nonRaggiungibile);
+}
+
+TEST_F(ProvaVarie, TheTicketDesignerGetsItsCallsInOrder) {
+    QStringList chiamate;
+    VarieImpostaTotem form(i.ambiente, nullptr, Percorsi(), [&]() -> EsitoComponenteEtichette {
+        return {std::make_unique<FinteEtichette>(chiamate), {}};
+    });
+    form.show();
+    aspettaProva(form);
+    for (int volta = 0; volta < 2; ++volta) {
+        chiamate.clear();
+        QTest::mouseClick(&trova<QWidget>(form, "PB1(2)"), Qt::LeftButton);
+        ASSERT_EQ(chiamate.size(), 12) << chiamate.join(u'\n').toStdString();
+        EXPECT_EQ(chiamate.first(), u"Start"_s);
+        EXPECT_EQ(chiamate.at(1), u"Numero=152 8000000"_s);
+        EXPECT_EQ(chiamate.at(4), u"Data=41550 4000002"_s);
+        EXPECT_EQ(chiamate.last(), u"VarieImpostaTotem: Impostazione Modulo 1 "_s + i.file(u"Totem/Ticket.lbl"_s));
+    }
+}
+
+TEST_F(ProvaVarie, WithoutTheDesignerASentenceSaysSo) {
+    VarieImpostaTotem form(i.ambiente, nullptr);
+    form.show();
+    aspettaProva(form);
+    QTest::mouseClick(&trova<QWidget>(form, "PB1(2)"), Qt::LeftButton);
+    EXPECT_TRUE(i.dialoghi.unicoMessaggio().contains(u"libzuvora-etichette.so"_s));
+    EXPECT_TRUE(form.isVisible());
+}
+
+class ProvaImpostazione : public ProvaVarie {
+protected:
+    void SetUp() override {
+        form = std::make_unique<Impostazione>(i.ambiente, i.file(u"Totem"_s), nullptr);
+        form->show();
+        form->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    }
+    Edit &casella(const char *nome) { return trova<Edit>(*form, nome); }
+    void scrivi(const char *nome, const char *testo) {
+        casella(nome).setFocus();
+        QTest::keyClick(&casella(nome), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(&casella(nome), QString::fromUtf8(testo));
+    }
+    std::unique_ptr<Impostazione> form;
+};
+
+TEST_F(ProvaImpostazione, EnterWritesTheOneNumber) {
+    scrivi("Modifnr(3)", "4x2");
+    QTest::keyClick(&casella("Modifnr(3)"), Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(i.dialoghi.unicoMessaggio(), u"Numero Modificato !"_s);
+    EXPECT_EQ(numero(u"P3"_s), u"42"_s);
+    EXPECT_EQ(numero(u"P2"_s), u"0"_s);
+    casella("Modifnr(3)").setText({});
+    QTest::mouseClick(&trova<QWidget>(*form, "Na1(3)"), Qt::LeftButton);
+    EXPECT_EQ(i.dialoghi.unicoMessaggio(), u"Numero Modificato !"_s);
+    EXPECT_EQ(casella("Modifnr(3)").text(), u"0"_s);
+    EXPECT_EQ(numero(u"P3"_s), u"0"_s);
+}
+
+TEST_F(ProvaImpostazione, TheColumnIsWrittenWholeWithZeroForWhatIsNoNumber) {
+    scrivi("NumIniz(5)", "abc");
+    scrivi("NumIniz(6)", "-3");
+    QTest::keyClick(&casella("NumIniz(6)"), Qt::Key_Return);
+    const auto box = i.dialoghi.prendiBox();
+    ASSERT_EQ(box.size(), 1U);
+    EXPECT_EQ(box.front().testo, u"Numerazione impostata !"_s);
+    EXPECT_EQ(box.front().titolo, u"Conferma"_s);
+    EXPECT_EQ(casella("NumIniz(5)").text(), u"0"_s);
+    EXPECT_EQ(numero(u"P5||'|'||P6||'|'||P20"_s, u"NumerazioneIniziale"_s), u"0|-3|1"_s);
+}
+
+TEST_F(ProvaImpostazione, TakingTheFocusEmptiesTheClipboardAndSelectsAll) {
+    const int prima = i.piattaforma.appuntiSvuotati;
+    QTest::keyClick(&casella("Modifnr(1)"), Qt::Key_Tab); // to its button
+    QTest::keyClick(form->focusWidget(), Qt::Key_Tab);    // to the first number
+    EXPECT_EQ(form->focusWidget(), &casella("NumIniz(1)"));
+    EXPECT_EQ(i.piattaforma.appuntiSvuotati, prima);
+    QTest::mouseClick(&casella("Modifnr(2)"), Qt::LeftButton);
+    EXPECT_EQ(i.piattaforma.appuntiSvuotati, prima + 1);
+    EXPECT_EQ(casella("Modifnr(2)").selectedText(), u"0"_s);
+}
+
+TEST_F(ProvaImpostazione, AWriteThatFailsIsToldAndKeepsWhatWasTyped) {
+    scrivi("Modifnr(4)", "123456789012345678901234567890");
+    QTest::mouseClick(&trova<QWidget>(*form, "Na1(4)"), Qt::LeftButton);
+    EXPECT_TRUE(i.dialoghi.unicoMessaggio().contains(u"P4"_s));
+    EXPECT_EQ(casella("Modifnr(4)").text(), u"123456789012345678901234567890"_s);
+    EXPECT_EQ(numero(u"P4"_s), u"0"_s);
+
+    sqlite3 *kiosk = nullptr;
+    sqlite3_open(totem().toUtf8().constData(), &kiosk);
+    sqlite3_exec(kiosk, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+    scrivi("Modifnr(5)", "17");
+    QTest::mouseClick(&trova<QWidget>(*form, "Na1(5)"), Qt::LeftButton);
+    const QString detto = i.dialoghi.unicoMessaggio();
+    EXPECT_TRUE(detto.contains(u"altro programma"_s)) << detto.toStdString();
+    EXPECT_EQ(casella("Modifnr(5)").text(), u"17"_s);
+    sqlite3_close(kiosk);
+    QTest::mouseClick(&trova<QWidget>(*form, "Na1(5)"), Qt::LeftButton);
+    EXPECT_EQ(i.dialoghi.unicoMessaggio(), u"Numero Modificato !"_s);
+    EXPECT_EQ(numero(u"P5"_s), u"17"_s);
+}
+
+} // namespace
+} // namespace zuvora
