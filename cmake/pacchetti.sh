@@ -64,7 +64,7 @@ installa_mancanti() {
 # Puts the programs just built into an installation that exists already; its data stay as they are.
 aggiorna_programma() {
     local da=$1 in=$2 file
-    for file in zuvora zuvora-installa; do
+    for file in zuvora zuvora-installa zuvora-biglietto; do
         cmp -s "$da/$file" "$in/$file" || install -m 755 "$da/$file" "$in/$file"
     done
     for file in "$da"/libzuvora-*.so; do

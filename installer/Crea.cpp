@@ -26,7 +26,8 @@ void copiaProgramma(const QString &origine, const QString &destinazione) {
     if (!QFileInfo(da.filePath(u"zuvora"_s)).isFile())
         throw Guasto{
             u"Nella cartella %1 manca il programma zuvora, che va copiato nell'installazione."_s.arg(nativo(origine))};
-    QStringList voci = da.entryList({u"zuvora"_s, u"zuvora-installa"_s, u"libzuvora-*.so"_s}, QDir::Files);
+    QStringList voci =
+        da.entryList({u"zuvora"_s, u"zuvora-installa"_s, u"zuvora-biglietto"_s, u"libzuvora-*.so"_s}, QDir::Files);
     if (QFileInfo(da.filePath(u"plugins"_s)).isDir())
         voci += u"plugins"_s;
     for (const QString &voce : voci)

@@ -1,7 +1,6 @@
 #include "kit/FintaPiattaforma.h"
 #include "pannello/logic/Configurazione.h"
 #include "pannello/logic/Versione.h"
-#include "shell/logic/Numeri.h"
 
 #include <gtest/gtest.h>
 
@@ -9,22 +8,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 namespace {
-
-TEST(Testo, OgniApiceDiventaUnCarattereQualsiasi) {
-    EXPECT_EQ(SostituisciApice(u"l'Aquila dell'Est'"_s), u"l?Aquila dell?Est?"_s);
-    EXPECT_EQ(SostituisciApice(QString()), QString());
-}
-
-TEST(Testo, ProvaNumericaDellaPiattaforma) {
-    const struct {
-        QStringView testo;
-        bool numerico;
-    } casi[] = {{u"", false},      {u" ", false},   {u"0", true},    {u"8080", true},   {u"70000", true},
-                {u"1,5", true},    {u"-3", true},   {u" 12 ", true}, {u"12a", false},   {u"abc", false},
-                {u"1e400", false}, {u"inf", false}, {u"nan", false}, {u"1.2.3", false}, {u"٣", false}};
-    for (const auto &caso : casi)
-        EXPECT_EQ(eNumerico(caso.testo), caso.numerico) << caso.testo.toString().toStdString();
-}
 
 TEST(Nominativo, SoloServer1EPrincipale) {
     for (const QStringView si : {u"SERVER1", u"server1", u"Server1"})

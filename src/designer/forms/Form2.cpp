@@ -1,6 +1,6 @@
 #include "designer/forms/Form2.h"
 
-#include "designer/logic/NumeriSingoli.h"
+#include "shell/logic/Numeri.h"
 #include "shell/host/Dialoghi.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -94,7 +94,7 @@ CampiForm2 Form2::campi() const {
         if (bottone->isChecked())
             campi.RB1 = i;
     campi.Testo999 = Testo999.text();
-    campi.Label4 = numeroDa(Label4.Caption()).value_or(0);
+    campi.Label4 = singoloDi(Label4.Caption()).value_or(0);
     return campi;
 }
 

@@ -1,6 +1,6 @@
 #include "designer/logic/AnteprimaTG.h"
 
-#include "designer/logic/NumeriSingoli.h"
+#include "shell/logic/Numeri.h"
 
 #include <algorithm>
 
@@ -17,8 +17,8 @@ QString AnteprimaTG::A2() const {
 }
 
 std::optional<Dimensione> AnteprimaTG::leggi(const QString &A1, const QString &A2) {
-    const auto larghezza = numeroDa(A1);
-    const auto altezza = numeroDa(A2);
+    const auto larghezza = singoloDi(A1);
+    const auto altezza = singoloDi(A2);
     const auto valida = [](const std::optional<double> &m) { return m && *m >= minimo && *m <= massimo; };
     if (!valida(larghezza) || !valida(altezza))
         return std::nullopt;

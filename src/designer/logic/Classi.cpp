@@ -1,6 +1,6 @@
 #include "designer/logic/Classi.h"
 
-#include "designer/logic/NumeriSingoli.h"
+#include "shell/logic/Numeri.h"
 
 #include <algorithm>
 #include <cmath>
@@ -43,7 +43,7 @@ bool appartiene(const LayoutElement &e, Classe classe) {
 }
 
 std::optional<Colore> coloreDa(const QString &testo) {
-    const auto numero = numeroDa(testo);
+    const auto numero = singoloDi(testo);
     if (!numero || *numero < 0 || *numero > coloreMassimo)
         return std::nullopt;
     return static_cast<Colore>(std::lround(*numero));
@@ -58,7 +58,7 @@ struct Stile {
 };
 
 std::optional<Stile> stileDa(const CampiForm2 &campi) {
-    const auto dimensione = numeroDa(campi.FE1[1]);
+    const auto dimensione = singoloDi(campi.FE1[1]);
     const auto sfondo = coloreDa(campi.FE1[2]);
     const auto testo = coloreDa(campi.FE1[3]);
     const bool valida = dimensione && *dimensione >= fontMinimo && *dimensione <= fontMassimo;

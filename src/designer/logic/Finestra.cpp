@@ -1,6 +1,6 @@
 #include "designer/logic/Finestra.h"
 
-#include "designer/logic/NumeriSingoli.h"
+#include "shell/logic/Numeri.h"
 #include "shell/logic/Risoluzioni.h"
 #include "shell/store/EngineError.h"
 #include "shell/store/Riga.h"
@@ -38,7 +38,7 @@ Dimensione dimensioneTela(int risoluzione) {
 
 PuntoTwips leggiPosizioneFinestra(const QString &cartella) {
     const Riga riga = leggiRiga(cartella, u"Configurazione"_s);
-    return {numeroDa(riga[u"MisuraFormLeft"]).value_or(0), numeroDa(riga[u"MisuraFormTop"]).value_or(0)};
+    return {singoloDi(riga[u"MisuraFormLeft"]).value_or(0), singoloDi(riga[u"MisuraFormTop"]).value_or(0)};
 }
 
 QString leggiPercorsoTG(const QString &cartella) {

@@ -1,4 +1,4 @@
-#include "designer/logic/NumeriSingoli.h"
+#include "shell/logic/Numeri.h"
 #include "designer/logic/Righe.h"
 
 #include <cmath>
@@ -12,7 +12,7 @@ using enum ColonnaLayout;
 EsitoValore impostaNumero(double &dove, const Valore &v, double minimo, double massimo) {
     if (eNull(v))
         return EsitoValore::Assente;
-    const auto numero = numeroDa(v);
+    const auto numero = singoloDi(v);
     if (!numero || *numero < minimo || *numero > massimo)
         return EsitoValore::NonValido;
     dove = *numero;

@@ -1,6 +1,6 @@
 #include "library/logic/SceltaLogica.h"
 
-#include "designer/logic/NumeriSingoli.h"
+#include "shell/logic/Numeri.h"
 #include "shell/store/Data.h"
 #include "shell/store/EngineError.h"
 
@@ -33,7 +33,7 @@ Messaggio messaggioSalvataggio(int scritte, const QString &errore) {
 } // namespace
 
 std::optional<int> lineaPredefinita(const Valore &qualelayout) {
-    const auto numero = numeroDa(qualelayout);
+    const auto numero = singoloDi(qualelayout);
     if (!numero || *numero != std::trunc(*numero))
         return std::nullopt;
     if (*numero == numeroBase)

@@ -3,8 +3,6 @@
 #include "shell/logic/Risoluzioni.h"
 #include "shell/store/Data.h"
 
-#include <cmath>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
@@ -12,13 +10,12 @@ namespace {
 
 constexpr int OltreIlPrimo = 20; // twips beyond the first screen's right edge
 
-// A number column as an int; Null and text give nothing, so that they match no constant.
-std::optional<int> interoDi(const Valore &v) {
-    bool riuscito = false;
-    const double numero = v.toDouble(&riuscito);
-    if (eNull(v) || !riuscito || std::abs(numero) > 1e9 || numero != std::floor(numero))
-        return std::nullopt;
-    return static_cast<int>(numero);
+// The stored number of a resolution, 0 for any other value.
+int risoluzioneDi(const Valore &v) {
+    for (int misura = 1; misura <= int(Risoluzioni.size()); ++misura)
+        if (numeroDi(v) == misura)
+            return misura;
+    return 0;
 }
 
 } // namespace
@@ -29,10 +26,9 @@ StatoAvvio leggiStatoAvvio(Data &dato, const QString &cartella) {
     stato.numero = testoDi(versione[u"Numero"].Value(), u"n.d."_s);
     stato.data = testoDi(versione[u"Data"].Value(), u"n.d."_s);
     Recordset &riga = apri(dato, cartella, u"Configurazione"_s);
-    const int misura = interoDi(riga[u"MisuraFormWH"].Value()).value_or(0);
-    stato.risoluzione = misura >= 1 && misura <= int(Risoluzioni.size()) ? misura : 0;
+    stato.risoluzione = risoluzioneDi(riga[u"MisuraFormWH"].Value());
     stato.nominativo = testoDi(riga[u"Nominativo"].Value(), u"Non definito"_s);
-    stato.autoAccensione = interoDi(riga[u"TempoChiamata"].Value()) == 1;
+    stato.autoAccensione = numeroDi(riga[u"TempoChiamata"].Value()) == 1;
     stato.usaDinDon = eVero(riga[u"PlayDinDon"].Value());
     return stato;
 }
@@ -68,7 +64,7 @@ void salvaRisoluzione(Data &dato, const QString &cartella, int misura) {
 
 Schermo leggiSchermo(Data &dato, const QString &cartella) {
     const Valore sinistra = apri(dato, cartella, u"Configurazione"_s)[u"MisuraFormLeft"].Value();
-    return interoDi(sinistra) == 0 ? Schermo::Primo : Schermo::Secondo;
+    return numeroDi(sinistra) == 0 ? Schermo::Primo : Schermo::Secondo;
 }
 
 void salvaSchermo(Data &dato, const QString &cartella, Schermo schermo, int larghezzaSchermoTwips) {
@@ -82,7 +78,7 @@ DatiServer leggiDatiServer(Data &dato, const QString &cartella) {
     Recordset &riga = apri(dato, cartella, u"Configurazione"_s);
     DatiServer server;
     server.porta = testoDi(riga[u"RHPort"].Value(), {});
-    server.tipo = interoDi(riga[u"ModoClient"].Value()) == 1 ? TipoChiamata::Automatica : TipoChiamata::Selettiva;
+    server.tipo = numeroDi(riga[u"ModoClient"].Value()) == 1 ? TipoChiamata::Automatica : TipoChiamata::Selettiva;
     return server;
 }
 

@@ -1,30 +1,47 @@
 #include "shell/logic/Numeri.h"
 
+#include <QRegularExpression>
 #include <cmath>
+#include <limits>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 
 QString SostituisciApice(const QString &testo) {
     QString sostituito = testo;
-    return sostituito.replace(QLatin1Char('\''), QLatin1Char('?'));
-}
-
-std::optional<double> numeroDi(QStringView testo) {
-    QString pulito = testo.trimmed().toString();
-    pulito.replace(QLatin1Char(','), QLatin1Char('.'));
-    // toDouble would take "inf" and "nan" too: they are words here.
-    for (const QChar c : std::as_const(pulito))
-        if (c.isLetter() && c.toLower() != QLatin1Char('e'))
-            return std::nullopt;
-    bool riuscito = false;
-    const double valore = pulito.toDouble(&riuscito);
-    if (!riuscito || !std::isfinite(valore))
-        return std::nullopt;
-    return valore;
+    return sostituito.replace(u'\'', u'?');
 }
 
 bool eNumerico(QStringView testo) {
-    return numeroDi(testo).has_value();
+    return numeroDi(testo.toString()).has_value();
+}
+
+double Val(const QString &testo) {
+    static const QRegularExpression numero(uR"(^\s*([+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?))"_s);
+    const QRegularExpressionMatch inizio = numero.match(testo);
+    return inizio.hasMatch() ? numeroDi(inizio.captured(1)).value_or(0) : 0;
+}
+
+std::optional<int> interoDi(const Valore &v) {
+    const auto numero = numeroDi(v);
+    const double intero = std::nearbyint(numero.value_or(HUGE_VAL));
+    if (intero < std::numeric_limits<int>::min() || intero > std::numeric_limits<int>::max())
+        return std::nullopt;
+    return static_cast<int>(intero);
+}
+
+std::optional<double> singoloDi(const Valore &v) {
+    const auto numero = numeroDi(v);
+    return numero && std::abs(*numero) <= std::numeric_limits<float>::max() ? numero : std::nullopt;
+}
+
+Valore singolo(double valore) {
+    return static_cast<float>(valore);
+}
+
+QString testoNumero(double valore) {
+    return testoDi(singolo(valore), {});
 }
 
 } // namespace zuvora

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/store/Valore.h"
+
 #include <QString>
 #include <QStringView>
 #include <optional>
@@ -10,9 +12,18 @@ namespace zuvora {
 // neither end the quotes of a criterion nor miss its row.
 QString SostituisciApice(const QString &testo);
 
-// The platform's numeric test: an optional sign, digits with an optional decimal comma or point, blanks around it.
+// The platform's numeric test: numeroDi finds a number in the text.
 bool eNumerico(QStringView testo);
-// The value of a numeric text, or nothing.
-std::optional<double> numeroDi(QStringView testo);
+// The number that a text begins with, its decimals behind a point; 0 when it begins with none.
+double Val(const QString &testo);
+
+// The number as a whole one, halves to the even neighbour; nothing beyond 32 bits.
+std::optional<int> interoDi(const Valore &v);
+// The number when it fits into single precision.
+std::optional<double> singoloDi(const Valore &v);
+// The number as a save hands it to the store.
+Valore singolo(double valore);
+// A number as shown in a box: plain decimal, as few digits as single precision needs.
+QString testoNumero(double valore);
 
 } // namespace zuvora

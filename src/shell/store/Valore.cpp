@@ -3,6 +3,7 @@
 #include "shell/store/Tipi.h"
 
 #include <QLocale>
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -48,18 +49,6 @@ double realeDi(const Valore &v) {
     return v.typeId() == QMetaType::Float ? decimale(v.toFloat()) : v.toDouble();
 }
 
-// A text as a number, with a point or, as an Italian user types it, a comma.
-std::optional<double> numeroDi(const QString &testo) {
-    bool riuscito = false;
-    const QString netto = testo.trimmed();
-    double d = netto.toDouble(&riuscito);
-    if (!riuscito && netto.count(u',') == 1 && !netto.contains(u'.'))
-        d = QString(netto).replace(u',', u'.').toDouble(&riuscito);
-    if (!riuscito || !std::isfinite(d))
-        return std::nullopt;
-    return d;
-}
-
 std::optional<Valore> comeIntero(const Valore &v) {
     if (intero(v))
         return Valore(v.toLongLong());
@@ -84,13 +73,8 @@ std::optional<Valore> comeIntero(const Valore &v) {
 std::optional<Valore> comeReale(const Valore &v) {
     if (v.typeId() == QMetaType::Bool)
         return Valore(v.toBool() ? -1.0 : 0.0);
-    if (intero(v) || reale(v)) {
-        const double d = realeDi(v);
-        return std::isfinite(d) ? std::optional<Valore>(d) : std::nullopt;
-    }
-    if (const auto d = numeroDi(v.toString()))
-        return Valore(*d);
-    return std::nullopt;
+    const auto d = intero(v) || reale(v) ? numeroDi(v) : numeroDi(v.toString());
+    return d ? std::optional<Valore>(*d) : std::nullopt;
 }
 
 std::optional<Valore> comeBooleano(const Valore &v) {
@@ -109,6 +93,24 @@ std::optional<Valore> comeBooleano(const Valore &v) {
 }
 
 } // namespace
+
+std::optional<double> numeroDi(const QString &testo) {
+    QString netto = testo.trimmed();
+    netto.replace(u',', u'.');
+    // toDouble would take "inf" and "nan" too: they are words here.
+    const bool parole = std::ranges::any_of(netto, [](QChar c) { return c.isLetter() && c.toLower() != u'e'; });
+    bool riuscito = false;
+    const double d = parole ? 0 : netto.toDouble(&riuscito);
+    return riuscito && std::isfinite(d) ? std::optional(d) : std::nullopt;
+}
+
+std::optional<double> numeroDi(const Valore &v) {
+    if (intero(v) || reale(v)) {
+        const double d = realeDi(v);
+        return std::isfinite(d) ? std::optional(d) : std::nullopt;
+    }
+    return v.typeId() == QMetaType::QString ? numeroDi(v.toString()) : std::nullopt;
+}
 
 bool eNull(const Valore &v) {
     return !v.isValid() || v.typeId() == QMetaType::Nullptr;

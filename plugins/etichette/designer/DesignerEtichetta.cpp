@@ -1,0 +1,300 @@
+#include "etichette/designer/DesignerEtichetta.h"
+
+#include "etichette/biglietto/Uscite.h"
+#include "etichette/designer/Finestre.h"
+#include "etichette/designer/Foglio.h"
+#include "etichette/designer/PannelloProprieta.h"
+#include "etichette/logic/FileEtichetta.h"
+#include "shell/logic/FileAtomico.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QMimeData>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr int bozzaDopo = 2000; // milliseconds
+const QString filtroImmagini = u"Immagini (*.png *.jpg *.jpeg *.bmp *.gif *.webp *.svg)"_s;
+const QString tipoAppunti = u"application/x-zuvora-biglietto"_s;
+
+} // namespace
+
+DesignerEtichetta::DesignerEtichetta(const Etichetta &etichetta, const Valori &valori, const QString &titolo,
+                                     const QString &file, Mondo mondo, QWidget *padre)
+    : QDialog(padre, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMaximizeButtonHint |
+                         Qt::WindowCloseButtonHint),
+      m_progetto(etichetta), m_primo(valori), m_valori(valori), m_titolo(titolo), m_file(file),
+      m_mondo(std::move(mondo)), m_bozza(file) {
+    setObjectName(u"DesignerEtichetta"_s);
+    setWindowTitle(titolo);
+    m_foglio = new Foglio(m_progetto, this);
+    m_proprieta = new PannelloProprieta(m_progetto, this);
+    m_proprieta->setFixedWidth(290);
+    m_nota = new QLabel(this);
+    m_nota->setObjectName(u"Nota"_s);
+    auto *tutto = new QVBoxLayout(this);
+    auto *prima = new QHBoxLayout;
+    auto *seconda = new QHBoxLayout;
+    auto *mezzo = new QHBoxLayout;
+    auto *sinistra = new QVBoxLayout;
+    for (QBoxLayout *riga : {static_cast<QBoxLayout *>(prima), static_cast<QBoxLayout *>(seconda)})
+        riga->setSpacing(3);
+    primaRiga(*prima);
+    secondaRiga(*seconda);
+    disponiElenco(*sinistra);
+    mezzo->addLayout(sinistra);
+    mezzo->addWidget(m_foglio, 1);
+    mezzo->addWidget(m_proprieta);
+    tutto->addLayout(prima);
+    tutto->addLayout(seconda);
+    tutto->addLayout(mezzo, 1);
+    tutto->addWidget(m_nota);
+    m_orologio.setSingleShot(true);
+    m_orologio.setInterval(bozzaDopo);
+    connect(&m_orologio, &QTimer::timeout, this, [this] {
+        if (!m_progetto.pila().isClean() && !m_bozza.scrivi(m_progetto.etichetta()))
+            di(u"La copia di sicurezza non è stata scritta: la cartella non lo permette."_s);
+    });
+    connect(&m_progetto, &Progetto::cambiato, this, [this] {
+        m_orologio.start();
+        mostraStato();
+    });
+    connect(&m_progetto.pila(), &QUndoStack::cleanChanged, this, &DesignerEtichetta::mostraStato);
+    connect(m_foglio, &Foglio::modificaChiesta, m_proprieta, &PannelloProprieta::modificaContenuto);
+    connect(m_foglio, &Foglio::variabileLasciata, this,
+            [this](const QString &nome, const QPoint &posto) { aggiungiVariabile(nome, posto); });
+    connect(m_proprieta, &PannelloProprieta::immagineChiesta, this, &DesignerEtichetta::scegliImmagine);
+    m_foglio->setValori(valori);
+    mostraStato();
+    resize(1120, 720);
+    m_foglio->setFocus();
+}
+
+DesignerEtichetta::~DesignerEtichetta() {
+    disconnect(&m_progetto, nullptr, this, nullptr);
+    disconnect(&m_progetto.pila(), nullptr, this, nullptr);
+}
+
+void DesignerEtichetta::showEvent(QShowEvent *e) {
+    QDialog::showEvent(e);
+    if (!e->spontaneous())
+        m_foglio->adatta();
+}
+
+void DesignerEtichetta::disponiElenco(QBoxLayout &colonna) {
+    auto *scritta = new QLabel(u"Varia&bili"_s, this);
+    m_variabili = new QListWidget(this);
+    m_variabili->setObjectName(u"variabili"_s);
+    m_variabili->setAccessibleName(u"Variabili"_s);
+    m_variabili->setToolTip(u"Trascinare una variabile sul foglio, oppure doppio clic o Invio"_s);
+    m_variabili->setDragEnabled(true);
+    m_variabili->setFixedWidth(180);
+    scritta->setBuddy(m_variabili);
+    QStringList nomi;
+    for (const Variabile &v : m_primo.tutte())
+        nomi << v.nome;
+    for (const Oggetto &o : m_progetto.etichetta().oggetti)
+        for (const QString &nome : nomiIn(o.testo))
+            if (!nomi.contains(nome, Qt::CaseInsensitive))
+                nomi << nome;
+    for (const QString &nome : nomi) {
+        auto *voce = new QListWidgetItem(nome, m_variabili);
+        const Variabile *v = m_primo.trova(nome);
+        if (v == nullptr) { // kept, so that the ticket stays whole until somebody decides
+            voce->setForeground(Qt::red);
+            voce->setToolTip(u"Questa variabile non esiste più nei dati da stampare."_s);
+        } else if (!v->testo.isEmpty()) {
+            voce->setToolTip(u"Contenuto: "_s + v->testo.left(200));
+        }
+    }
+    m_proprieta->setVariabili(nomi);
+    connect(m_variabili, &QListWidget::itemActivated, this,
+            [this](const QListWidgetItem *voce) { aggiungiVariabile(voce->text()); });
+    colonna.addWidget(scritta);
+    colonna.addWidget(m_variabili, 1);
+}
+
+void DesignerEtichetta::aggiungi(TipoOggetto tipo) {
+    Oggetto o = nuovoOggetto(tipo, {});
+    o.area.moveTopLeft(m_foglio->postoInVista(o.area.size()));
+    m_progetto.aggiungi(o, u"Nuovo oggetto"_s);
+    m_foglio->setFocus();
+}
+
+void DesignerEtichetta::aggiungiVariabile(const QString &nome, const std::optional<QPoint> &posto) {
+    Oggetto o = nuovoOggetto(TipoOggetto::Testo, {});
+    o.testo = u'{' + nome + u'}';
+    o.area.moveTopLeft(posto ? *posto : m_foglio->postoInVista(o.area.size()));
+    m_progetto.aggiungi(o, u"Nuova variabile"_s);
+    m_foglio->setFocus();
+}
+
+// The picture's file goes into the ticket, so it is checked before.
+std::optional<QByteArray> DesignerEtichetta::chiediImmagine() {
+    const auto percorso = m_mondo.domande.apriFile(this, u"Scelta immagine"_s, filtroImmagini);
+    if (!percorso)
+        return std::nullopt;
+    const FileLetto letto = leggiFile(*percorso, immagineMassima);
+    if (!letto.motivo.isEmpty()) {
+        m_mondo.domande.avvisa(this, u"L'immagine non è stata presa. "_s + letto.motivo);
+        return std::nullopt;
+    }
+    if (puntiImmagine(letto.contenuto, QSize(16, 16), RiduzioneColori::Colori, 0).isNull()) {
+        m_mondo.domande.avvisa(this, u"L'immagine non è stata presa: il file non è un'immagine leggibile."_s);
+        return std::nullopt;
+    }
+    return letto.contenuto;
+}
+
+void DesignerEtichetta::aggiungiImmagine() {
+    const auto file = chiediImmagine();
+    if (!file)
+        return;
+    Oggetto o = nuovoOggetto(TipoOggetto::Immagine, {});
+    o.immagine = *file;
+    o.area.moveTopLeft(m_foglio->postoInVista(o.area.size()));
+    m_progetto.aggiungi(o, u"Nuova immagine"_s);
+    m_foglio->setFocus();
+}
+
+void DesignerEtichetta::scegliImmagine() {
+    if (const auto file = chiediImmagine())
+        m_progetto.cambia(u"Immagine"_s, [&](Oggetto &o) { o.immagine = *file; });
+}
+
+bool DesignerEtichetta::salvaIn(const QString &file) {
+    const QString motivo = scriviEtichetta(file, m_progetto.etichetta());
+    if (motivo.isEmpty())
+        return true;
+    m_mondo.domande.avvisa(this,
+                           u"Il biglietto non è stato salvato in %1.\n%2\n\nQuello che è disegnato resta qui: si può "
+                           "salvare una copia altrove."_s.arg(file, motivo));
+    return false;
+}
+
+bool DesignerEtichetta::salva() {
+    if (!salvaIn(m_file))
+        return false;
+    m_progetto.pila().setClean();
+    m_bozza.togli();
+    di(u"Biglietto salvato."_s);
+    return true;
+}
+
+void DesignerEtichetta::salvaCopia() {
+    const auto file = m_mondo.domande.salvaFile(this, u"Salva una copia"_s, m_file, u"Biglietti (*.lbl)"_s);
+    if (file && salvaIn(*file))
+        di(u"Copia salvata: "_s + *file);
+}
+
+void DesignerEtichetta::esportaPdf() {
+    const auto file = m_mondo.domande.salvaFile(this, u"Esporta in PDF"_s, u"Ticket.pdf"_s, u"PDF (*.pdf)"_s);
+    if (!file)
+        return;
+    const EsitoStampa esito = scriviPdf(*file, m_progetto.etichetta(), m_valori);
+    if (!esito.motivo.isEmpty())
+        m_mondo.domande.avvisa(this, u"Il PDF non è stato scritto. "_s + esito.motivo);
+    else
+        di(u"PDF scritto: "_s + *file);
+}
+
+void DesignerEtichetta::stampaProva() {
+    const QStringList stampanti = m_mondo.stampanti();
+    if (stampanti.isEmpty()) {
+        m_mondo.domande.avvisa(this, u"Su questa macchina non c'è nessuna stampante.\nIl biglietto si può provare con "
+                                     "«Esporta PDF»."_s);
+        return;
+    }
+    const auto richiesta = chiediStampa(m_progetto.etichetta(), stampanti, this);
+    if (!richiesta)
+        return;
+    m_progetto.setScostamento(richiesta->stampante, richiesta->scostamento);
+    m_progetto.setStampa(richiesta->stampa);
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const QString motivo = m_mondo.stampa(richiesta->stampante, m_progetto.etichetta(), m_valori);
+    QApplication::restoreOverrideCursor();
+    if (motivo.isEmpty())
+        di(u"Biglietto consegnato alla stampante %1."_s.arg(richiesta->stampante));
+    else
+        m_mondo.domande.avvisa(this, motivo);
+}
+
+void DesignerEtichetta::mostraRecord(int n) {
+    m_valori = m_primo;
+    if (n > 1) {
+        const auto altri = m_mondo.record(n);
+        if (!altri) {
+            di(u"Il record %1 non c'è: si vedono i contenuti del primo."_s.arg(n));
+            m_foglio->setValori(m_primo);
+            return;
+        }
+        m_valori = *altri;
+    }
+    di({});
+    m_foglio->setValori(m_valori);
+}
+
+void DesignerEtichetta::di(const QString &testo) {
+    m_nota->setText(testo);
+}
+
+// The title tells the unsaved; the line below what will not print well.
+void DesignerEtichetta::mostraStato() {
+    setWindowTitle(m_progetto.pila().isClean() ? m_titolo : m_titolo + u" *"_s);
+    if (m_progetto.pila().isClean())
+        return;
+    const QStringList avvisi = controlla(m_progetto.etichetta(), m_valori);
+    di(avvisi.isEmpty()     ? QString()
+       : avvisi.size() == 1 ? avvisi.first()
+                            : u"%1  (e altri %2 avvisi, con «Controlla»)"_s.arg(avvisi.first()).arg(avvisi.size() - 1));
+}
+
+void DesignerEtichetta::copia() {
+    if (m_progetto.scelti().isEmpty())
+        return;
+    auto *dati = new QMimeData;
+    dati->setData(tipoAppunti, m_progetto.copia());
+    QApplication::clipboard()->setMimeData(dati);
+}
+
+void DesignerEtichetta::incolla() {
+    if (!m_progetto.incolla(QApplication::clipboard()->mimeData()->data(tipoAppunti)))
+        di(u"Negli appunti non ci sono oggetti di un biglietto."_s);
+}
+
+void DesignerEtichetta::recupera(const Etichetta &bozza) {
+    m_progetto.sostituisci(bozza, u"Recupera"_s);
+}
+
+// Enter belongs to boxes and canvas, Esc to the frame: no button of the window takes them.
+void DesignerEtichetta::keyPressEvent(QKeyEvent *e) {
+    if (e->key() == Qt::Key_Escape)
+        close();
+    else
+        e->ignore();
+}
+
+void DesignerEtichetta::closeEvent(QCloseEvent *e) {
+    if (QWidget *campo = focusWidget(); campo != nullptr && campo != m_foglio)
+        campo->clearFocus(); // applies what is being typed
+    if (!m_progetto.pila().isClean()) {
+        const auto risposta = m_mondo.domande.salvare(this, u"Il biglietto è stato modificato. Salvarlo ?"_s);
+        if (risposta == Domande::Risposta::Annulla || (risposta == Domande::Risposta::Si && !salva())) {
+            e->ignore();
+            return;
+        }
+    }
+    m_orologio.stop();
+    m_bozza.togli();
+    e->accept();
+    done(QDialog::Rejected);
+}
+
+} // namespace zuvora

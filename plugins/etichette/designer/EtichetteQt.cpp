@@ -1,0 +1,87 @@
+#include "etichette/designer/EtichetteQt.h"
+
+#include "etichette/biglietto/Record.h"
+#include "etichette/biglietto/Stampante.h"
+#include "etichette/biglietto/Uscite.h"
+#include "etichette/designer/DesignerEtichetta.h"
+#include "etichette/logic/FileEtichetta.h"
+
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr int riuscito = 0;
+constexpr int fallito = -1;
+
+QString stampaProva(const QString &stampante, const Etichetta &e, const Valori &valori) {
+    QStringList avvisi;
+    const QByteArray byte = pdf(e, valori, e.scostamenti.value(stampante), avvisi);
+    return byte.isEmpty() ? u"Il biglietto non è stato disegnato."_s : stampaPdf(stampante, byte, e.stampa);
+}
+
+std::optional<Valori> recordDi(const QString &cartella, int n) {
+    const RecordLetto letto = leggiRecord(cartella, n);
+    return letto.motivo.isEmpty() ? std::optional(letto.valori) : std::nullopt;
+}
+
+} // namespace
+
+void EtichetteQt::LlDefineVariableStart() {
+    m_variabili.clear();
+}
+
+int EtichetteQt::LlDefineVariableExt(const QString &nome, const QString &contenuto, TipoEtichetta tipo) {
+    m_variabili << variabileDaContenuto(nome, contenuto, tipo);
+    return riuscito;
+}
+
+int EtichetteQt::LlDefineLayout(QWidget *finestra, const QString &titolo, int /*tipoProgetto*/, const QString &file) {
+    try {
+        return disegna(finestra, titolo, file);
+    } catch (const std::exception &e) {
+        m_domande.avvisa(finestra, u"Il biglietto non può essere aperto. (%1)"_s.arg(QString::fromUtf8(e.what())));
+        return fallito;
+    }
+}
+
+int EtichetteQt::disegna(QWidget *finestra, const QString &titolo, const QString &file) {
+    Etichetta etichetta = modelliPronti().first().etichetta;
+    if (QFileInfo::exists(file) || QFileInfo(file).isSymLink()) {
+        const EtichettaLetta letta = leggiEtichetta(file);
+        if (!letta.etichetta) {
+            // What can't be read is somebody's work: it is replaced only when the user says so, and then at a save.
+            if (!m_domande.conferma(finestra,
+                                    u"%1 non può essere aperto.\n%2\n\nDisegnare un biglietto nuovo al suo posto ? "
+                                    "Il file resta com'è finché il nuovo non viene salvato."_s.arg(file, letta.motivo)))
+                return fallito;
+        } else {
+            etichetta = *letta.etichetta;
+        }
+    }
+    // Without a record, a variable shows its own name.
+    const bool vuoti =
+        std::all_of(m_variabili.begin(), m_variabili.end(), [](const Variabile &v) { return v.testo.isEmpty(); });
+    QList<Variabile> esempio = m_variabili;
+    if (vuoti)
+        for (Variabile &v : esempio)
+            v.testo = v.nome;
+    DesignerEtichetta::Mondo mondo{m_domande, stampanti, stampaProva,
+                                   [cartella = QFileInfo(file).path()](int n) { return recordDi(cartella, n); }};
+    DesignerEtichetta designer(etichetta, Valori(esempio), titolo, file, std::move(mondo), finestra);
+    const Bozza bozza(file);
+    if (const auto lasciata = bozza.lasciata()) {
+        if (m_domande.conferma(finestra,
+                               u"L'ultima volta il biglietto non è stato chiuso in ordine.\nRiprendere le modifiche "
+                               "che non erano state salvate ?"_s))
+            designer.recupera(*lasciata);
+        else
+            bozza.togli();
+    }
+    designer.exec();
+    return riuscito;
+}
+
+} // namespace zuvora

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "etichette/logic/Progetto.h"
+#include "etichette/logic/Valori.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QWidget>
+
+class QFormLayout;
+
+namespace zuvora {
+
+class CampoMisura;
+class CampoTesto;
+
+// The selected objects in numbers and words. What only some kinds have is shown for those alone.
+class PannelloProprieta : public QWidget {
+    Q_OBJECT
+public:
+    PannelloProprieta(Progetto &progetto, QWidget *padre);
+    void setVariabili(const QStringList &nomi);
+    void modificaContenuto(); // the focus goes to what one changes first
+
+Q_SIGNALS:
+    void immagineChiesta();
+
+private:
+    struct Riga {
+        QWidget *campo;
+        QList<TipoOggetto> tipi; // empty: all
+    };
+    void disponiPosto(QFormLayout &righe);
+    void disponiTesto(QFormLayout &righe);
+    void disponiDisegno(QFormLayout &righe);
+    void aggiungi(QFormLayout &righe, const QString &etichetta, QWidget *campo, const QList<TipoOggetto> &tipi = {});
+    QCheckBox *casella(const QString &testo, const char *nome, bool StileTesto::*membro);
+    QComboBox *scelta(const char *nome, const QString &descrizione, const QStringList &voci);
+    void mostra();
+    void mostraPosto();
+    void mostraUno(const Oggetto &o);
+    void misura(CampoMisura *campo, void (*azione)(QRect &, int));
+    template <class F> void cambia(const QString &testo, F azione) {
+        if (!m_mostro)
+            m_progetto.cambia(testo, azione);
+    }
+
+    Progetto &m_progetto;
+    QFormLayout *m_righe = nullptr;
+    QList<Riga> m_campi;
+    bool m_mostro = false; // the boxes are being filled: nothing was changed by hand
+    QLabel *m_nessuno;
+    QLabel *m_titolo;
+    CampoMisura *m_x, *m_y, *m_larghezza, *m_altezza, *m_spessore, *m_raggio;
+    CampoTesto *m_testo;
+    QComboBox *m_font, *m_orizzontale, *m_verticale, *m_rotazione, *m_codice, *m_riduzione, *m_condizione, *m_seVuota;
+    QDoubleSpinBox *m_punti;
+    QSpinBox *m_soglia;
+    QCheckBox *m_leggibile, *m_pieno, *m_bloccato;
+    QList<std::pair<QCheckBox *, bool StileTesto::*>> m_stili;
+    QPushButton *m_immagine;
+};
+
+} // namespace zuvora

@@ -1,0 +1,287 @@
+// The designer's window, driven as a user does.
+#include "etichette/designer/DesignerEtichetta.h"
+#include "etichette/designer/EtichetteQt.h"
+#include "etichette/designer/Foglio.h"
+#include "etichette/logic/FileEtichetta.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+#include <deque>
+#include <gtest/gtest.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+class FinteDomande : public Domande {
+public:
+    QStringList avvisi;
+    std::deque<bool> conferme;
+    std::deque<Risposta> salvataggi;
+    std::deque<QString> file;
+
+    ~FinteDomande() override {
+        EXPECT_TRUE(conferme.empty() && salvataggi.empty() && file.empty()) << "answers left over";
+    }
+    void avvisa(QWidget *, const QString &testo) override { avvisi << testo; }
+    bool conferma(QWidget *, const QString &testo) override {
+        avvisi << testo;
+        return prendi(conferme).value_or(false);
+    }
+    Risposta salvare(QWidget *, const QString &) override { return prendi(salvataggi).value_or(Risposta::Annulla); }
+    std::optional<QString> apriFile(QWidget *, const QString &, const QString &) override { return prendi(file); }
+    std::optional<QString> salvaFile(QWidget *, const QString &, const QString &, const QString &) override {
+        return prendi(file);
+    }
+
+private:
+    template <class T> std::optional<T> prendi(std::deque<T> &coda) {
+        EXPECT_FALSE(coda.empty()) << "a question came without an answer";
+        if (coda.empty())
+            return std::nullopt;
+        T prima = coda.front();
+        coda.pop_front();
+        return prima;
+    }
+};
+
+struct Finestra : testing::Test {
+    QTemporaryDir cartella;
+    FinteDomande domande;
+    QStringList stampanti;
+    QString stampato;
+    QString ticket = cartella.filePath(u"Ticket.lbl"_s);
+    Valori valori{QList<Variabile>{variabileDaContenuto(u"Numero"_s, u"152"_s, TipoEtichetta::Numero),
+                                   variabileDaContenuto(u"Lettera"_s, u"A"_s, TipoEtichetta::Testo)}};
+    std::unique_ptr<DesignerEtichetta> designer;
+
+    DesignerEtichetta &apri(const Etichetta &e = {}) {
+        DesignerEtichetta::Mondo mondo{domande, [this] { return stampanti; },
+                                       [this](const QString &nome, const Etichetta &stampata, const Valori &) {
+                                           const QPoint s = stampata.scostamenti.value(nome);
+                                           stampato = u"%1 %2 %3"_s.arg(nome).arg(s.x()).arg(s.y());
+                                           return QString();
+                                       },
+                                       [](int) { return std::nullopt; }};
+        designer =
+            std::make_unique<DesignerEtichetta>(e, valori, u"Impostazione Modulo"_s, ticket, std::move(mondo), nullptr);
+        designer->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(designer.get()));
+        return *designer;
+    }
+    template <class W> W &trova(const char *nome) {
+        auto *w = designer->findChild<W *>(QString::fromLatin1(nome));
+        if (w == nullptr)
+            throw std::runtime_error(nome);
+        return *w;
+    }
+    void premi(const char *nome) { QTest::mouseClick(&trova<QToolButton>(nome), Qt::LeftButton); }
+    void scrivi(const char *nome, const QString &testo) {
+        auto &campo = trova<QLineEdit>(nome);
+        campo.setFocus();
+        campo.selectAll();
+        QTest::keyClicks(&campo, testo);
+        QTest::keyClick(&campo, Qt::Key_Return);
+    }
+    QList<Oggetto> salvati() {
+        premi("Salva");
+        const EtichettaLetta letta = leggiEtichetta(ticket);
+        return letta.etichetta ? letta.etichetta->oggetti : QList<Oggetto>();
+    }
+    void trascina(QPoint da, QPoint a, Qt::KeyboardModifiers tasti = {}) {
+        QWidget *vista = trova<Foglio>("foglio").viewport();
+        QTest::mousePress(vista, Qt::LeftButton, tasti, da);
+        QMouseEvent mezzo(QEvent::MouseMove, (da + a) / 2, vista->mapToGlobal((da + a) / 2), Qt::NoButton,
+                          Qt::LeftButton, tasti);
+        QApplication::sendEvent(vista, &mezzo);
+        QMouseEvent fine(QEvent::MouseMove, a, vista->mapToGlobal(a), Qt::NoButton, Qt::LeftButton, tasti);
+        QApplication::sendEvent(vista, &fine);
+        QTest::mouseRelease(vista, Qt::LeftButton, tasti, a);
+    }
+};
+
+TEST_F(Finestra, DisegnareSalvareERiaprire) {
+    apri();
+    premi("AggiungiTesto");
+    scrivi("ValoreX", u"12,5"_s);
+    scrivi("ValoreY", u"8.3"_s);
+    scrivi("ValoreLarghezza", u"40"_s);
+    scrivi("ValoreAltezza", u"niente"_s); // no number: nothing changes
+    auto &testo = trova<QPlainTextEdit>("ValoreTesto");
+    testo.setFocus();
+    testo.selectAll();
+    QTest::keyClicks(&testo, u"{Lettera}{Numero}"_s);
+    QTest::keyClick(&testo, Qt::Key_Enter);
+    premi("AggiungiCodice");
+    const auto oggetti = salvati();
+    ASSERT_EQ(oggetti.size(), 2);
+    EXPECT_EQ(oggetti[0].area, QRect(125, 83, 400, 80));
+    EXPECT_EQ(oggetti[0].testo, u"{Lettera}{Numero}"_s);
+    EXPECT_EQ(oggetti[1].tipo, TipoOggetto::Codice);
+    EXPECT_EQ(oggetti[1].simbologia, Simbologia::Code128);
+    EXPECT_EQ(designer->windowTitle(), u"Impostazione Modulo"_s);
+}
+
+TEST_F(Finestra, OgniOggettoNuovoESceltoEInVista) {
+    apri();
+    for (const char *nome : {"AggiungiTesto", "AggiungiCodice", "AggiungiLinea", "AggiungiCornice"}) {
+        premi(nome);
+        const QRect carta(0, 0, 800, 1200);
+        const auto oggetti = salvati();
+        EXPECT_TRUE(carta.contains(oggetti.last().area.topLeft()));
+        EXPECT_FALSE(trova<QLineEdit>("ValoreX").isHidden()) << nome;
+        auto &foglio = trova<Foglio>("foglio");
+        EXPECT_TRUE(foglio.viewport()->rect().contains(foglio.posizioneSuSchermo(int(oggetti.size()) - 1).topLeft()))
+            << nome;
+    }
+}
+
+TEST_F(Finestra, AnnullaERipristinaOgniCosa) {
+    apri(modelliPronti().first().etichetta);
+    const QByteArray prima = testoEtichetta(modelliPronti().first().etichetta);
+    auto &foglio = trova<Foglio>("foglio");
+    foglio.setFocus();
+    QTest::keyClick(&foglio, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&foglio, Qt::Key_Right);
+    QTest::keyClick(&foglio, Qt::Key_Right, Qt::ShiftModifier); // one step with the last
+    premi("Duplica");
+    premi("InFondo");
+    premi("Elimina");
+    premi("AggiungiCornice");
+    salvati();
+    for (int passi = 0; passi < 5; ++passi)
+        premi("Annulla");
+    EXPECT_FALSE(trova<QToolButton>("Annulla").isEnabled());
+    salvati();
+    EXPECT_EQ(testoEtichetta(*leggiEtichetta(ticket).etichetta), prima);
+    for (int passi = 0; passi < 5; ++passi)
+        premi("Ripristina");
+    EXPECT_FALSE(trova<QToolButton>("Ripristina").isEnabled());
+    EXPECT_EQ(salvati().size(), 9);
+}
+
+TEST_F(Finestra, IlTrascinamentoAgganciaEAltLoSospende) {
+    Etichetta e;
+    e.oggetti << nuovoOggetto(TipoOggetto::Cornice, QPoint(100, 100))
+              << nuovoOggetto(TipoOggetto::Cornice, QPoint(137, 600));
+    apri(e);
+    auto &foglio = trova<Foglio>("foglio");
+    const auto bordo = [&](int i) { return foglio.posizioneSuSchermo(i).topLeft() + QPoint(20, 20); };
+    const double pixel = (foglio.posizioneSuSchermo(1).y() - foglio.posizioneSuSchermo(0).y()) / 500.0;
+    trascina(bordo(1), bordo(1) + QPoint(int(-35 * pixel), 0)); // near the other's edge
+    EXPECT_EQ(salvati()[1].area.x(), 100);
+    trascina(bordo(1), bordo(1) + QPoint(int(17 * pixel), 0), Qt::AltModifier);
+    EXPECT_NEAR(salvati()[1].area.x(), 117, 3);
+}
+
+TEST_F(Finestra, ChiudereChiedeDelleModifiche) {
+    const struct {
+        Domande::Risposta risposta;
+        bool aperta;
+        bool scritto;
+    } casi[] = {{Domande::Risposta::Annulla, true, false},
+                {Domande::Risposta::No, false, false},
+                {Domande::Risposta::Si, false, true}};
+    for (const auto &caso : casi) {
+        apri();
+        premi("AggiungiTesto");
+        domande.salvataggi.push_back(caso.risposta);
+        designer->close();
+        EXPECT_EQ(designer->isVisible(), caso.aperta);
+        EXPECT_EQ(QFile::exists(ticket), caso.scritto);
+    }
+    apri();
+    designer->close(); // nothing changed: no question
+    EXPECT_FALSE(designer->isVisible());
+}
+
+TEST_F(Finestra, UnSalvataggioFallitoLasciaTuttoQui) {
+    ticket = cartella.filePath(u"sparita/Ticket.lbl"_s);
+    apri();
+    premi("AggiungiTesto");
+    premi("Salva");
+    ASSERT_EQ(domande.avvisi.size(), 1);
+    EXPECT_TRUE(domande.avvisi[0].contains(u"non è stato salvato"_s));
+    domande.file.push_back(cartella.filePath(u"altrove.lbl"_s));
+    premi("SalvaCopia");
+    EXPECT_EQ(leggiEtichetta(cartella.filePath(u"altrove.lbl"_s)).etichetta->oggetti.size(), 1);
+    EXPECT_TRUE(designer->windowTitle().endsWith(u'*')); // the ticket itself is still unsaved
+    domande.salvataggi.push_back(Domande::Risposta::No);
+    designer->close();
+}
+
+TEST_F(Finestra, LeImmaginiSonoControllatePrima) {
+    apri();
+    const QString falsa = cartella.filePath(u"falsa.png"_s);
+    QFile file(falsa);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("non sono un'immagine");
+    file.close();
+    for (const QString &percorso : {falsa, cartella.path(), cartella.filePath(u"manca.png"_s)}) {
+        domande.file.push_back(percorso);
+        premi("AggiungiImmagine");
+    }
+    EXPECT_EQ(domande.avvisi.size(), 3);
+    QImage vera(40, 30, QImage::Format_RGB32);
+    vera.fill(Qt::black);
+    ASSERT_TRUE(vera.save(cartella.filePath(u"vera.png"_s)));
+    domande.file.push_back(cartella.filePath(u"vera.png"_s));
+    premi("AggiungiImmagine");
+    EXPECT_FALSE(salvati().last().immagine.isEmpty());
+}
+
+TEST_F(Finestra, SenzaStampantiLoDice) {
+    apri();
+    premi("StampaProva");
+    ASSERT_EQ(domande.avvisi.size(), 1);
+    EXPECT_TRUE(domande.avvisi[0].contains(u"nessuna stampante"_s));
+    stampanti << u"Zebra"_s;
+    QTimer::singleShot(0, [] {
+        auto *finestra = QApplication::activeModalWidget();
+        auto *x = finestra->findChild<QLineEdit *>(u"ScostamentoX"_s);
+        x->selectAll();
+        QTest::keyClicks(x, u"-2"_s);
+        QTest::mouseClick(finestra->findChild<QAbstractButton *>(u"Conferma"_s), Qt::LeftButton);
+    });
+    premi("StampaProva");
+    EXPECT_EQ(stampato, u"Zebra -20 0"_s);
+}
+
+TEST_F(Finestra, LaBozzaSopravviveAUnaCaduta) {
+    apri();
+    premi("AggiungiTesto");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Bozza(ticket).lasciata().has_value(); }, 10000));
+    designer.reset(); // as if the program had ended
+    ASSERT_TRUE(Bozza(ticket).lasciata());
+    EXPECT_EQ(Bozza(ticket).lasciata()->oggetti.size(), 1);
+    apri();
+    designer->recupera(*Bozza(ticket).lasciata());
+    EXPECT_EQ(salvati().size(), 1);
+    EXPECT_FALSE(Bozza(ticket).lasciata());
+}
+
+TEST_F(Finestra, UnFileDiAltriSiSostituisceSoloSeLoSiVuole) {
+    QFile file(ticket);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(R"({"programma":"zuvora-biglietto","versione":99})");
+    file.close();
+    EtichetteQt etichette(domande);
+    etichette.LlDefineVariableStart();
+    etichette.LlDefineVariableExt(u"Numero"_s, u"1"_s, TipoEtichetta::Numero);
+    domande.conferme.push_back(false);
+    EXPECT_NE(etichette.LlDefineLayout(nullptr, u"Impostazione Modulo"_s, 1, ticket), 0);
+    EXPECT_TRUE(domande.avvisi.last().contains(u"più recente"_s));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("99"));
+}
+
+} // namespace
+} // namespace zuvora

@@ -1,0 +1,8 @@
+#include <QApplication>
+#include <gmock/gmock.h>
+
+int main(int argc, char *argv[]) {
+    QApplication applicazione(argc, argv);
+    testing::InitGoogleMock(&argc, argv);
+    return RUN_ALL_TESTS();
+}
