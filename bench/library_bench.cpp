@@ -1,10 +1,9 @@
 // Moving through the catalogue with the arrow keys, and the preview of a 30-megapixel photo with the window's longest
 // standstill meanwhile.
+#include "AmbienteMuto.h"
 #include "Applicazione.h"
 #include "library/forms/ImpostaCornice.h"
 #include "library/forms/ImpostaSfondo.h"
-#include "shell/host/Dialoghi.h"
-#include "shell/host/Piattaforma.h"
 #include "shell/host/Stile.h"
 
 #include <QApplication>
@@ -25,39 +24,6 @@ using namespace zuvora;
 using namespace Qt::Literals::StringLiterals;
 
 constexpr QSize Foto{6720, 4480};
-
-class NessunDialogo final : public Dialoghi {
-public:
-    void messaggio(QWidget *, Icona, const QString &, const QString &) override {}
-    std::optional<QString> apriFile(QWidget *, const RichiestaFile &) override { return {}; }
-    std::optional<QString> scegliCartella(QWidget *, const QString &) override { return {}; }
-    std::optional<FontScelto> scegliFont(QWidget *) override { return {}; }
-    std::optional<int> scegliColore(QWidget *, int) override { return {}; }
-};
-
-class NessunMonitor final : public SistemaMonitor {
-public:
-    int GetSystemMetrics(Metrica) const override { return 0; }
-    QSize schermo() const override { return {1920, 1080}; }
-    std::optional<std::int32_t> MonitorFromRect(const QRect &, int) const override { return {}; }
-    std::int32_t MonitorFromWindow(quintptr, int) const override { return 0; }
-    std::optional<Info> GetMonitorInfo(std::int32_t) const override { return {}; }
-};
-
-class NessunaPiattaforma final : public Piattaforma {
-public:
-    QString cartellaEseguibile() const override { return {}; }
-    bool altraIstanza() override { return false; }
-    QString nomeMacchina() const override { return {}; }
-    QString indirizzoLocale() const override { return {}; }
-    const SistemaMonitor &monitor() const override { return m_monitor; }
-    QSize schermo() const override { return m_monitor.schermo(); }
-    void svuotaAppunti() override {}
-    bool apriNelBrowser(const QUrl &) override { return false; }
-
-private:
-    NessunMonitor m_monitor;
-};
 
 // The catalogue as it is installed.
 class Catalogo {
@@ -87,8 +53,8 @@ public:
 private:
     QTemporaryDir m_cartella;
     ValoriCondivisi m_valori;
-    NessunDialogo m_dialoghi;
-    NessunaPiattaforma m_piattaforma;
+    misura::NessunDialogo m_dialoghi;
+    misura::NessunaPiattaforma m_piattaforma;
 };
 
 void premi(QWidget &w, int tasto) {

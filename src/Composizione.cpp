@@ -1,5 +1,12 @@
 #include "Composizione.h"
 
+#include "content/forms/Form3.h"
+#include "content/forms/ImpostaFoto.h"
+#include "content/forms/ImpostaVideo.h"
+#include "content/forms/PaginaMusica.h"
+#include "content/forms/PaginaRadio.h"
+#include "content/forms/PaginaScorrevole.h"
+#include "content/forms/youtube.h"
 #include "kiosk/forms/Impostatotem.h"
 #include "kiosk/forms/VarieImpostaTotem.h"
 #include "library/forms/Elementi.h"
@@ -21,6 +28,12 @@ void mostraSceltaLayout(const Apertura &a) {
 }
 const ApriForm sceltaLayout = mostraSceltaLayout;
 
+const ApriForm meteo = [](const Apertura &a) {
+    Form3(a.ambiente, QStringLiteral(ZUVORA_HOST_METEO), a.padre).mostraModale();
+};
+const ApriForm playlistYouTube = [](const Apertura &a) {
+    youtube(a.ambiente, QUrl(QStringLiteral(ZUVORA_SITO)), a.padre).mostraModale();
+};
 // The size of the kiosk's preview outlives the form that opens it.
 ApriForm impostaTotem() {
     return [anteprima = std::make_shared<Misura>()](const Apertura &a) {
@@ -44,15 +57,15 @@ std::vector<VoceMenu> vociDelPannello() {
         {"PB1(7)", 1800, "  Gestione Layout FrontEnd", invariato, tutte, sceltaLayout},
         {"PushButton1", 2160, "  DinDon", u"Gestione Din Don", tutte, nulla},
         {"Position", 2520, "  Posizione", u"Posizione Schermi", tutte, pagina<PaginaPosizione>},
-        {"PB1(5)", 2880, "  &Musica cartella (MP3)", u"Musica -MP3", tutte, nulla},
-        {"Command0", 3240, "  Testo Scorrevole", u"Testo Scorrevole", tutte, nulla},
-        {"PB1(4)", 3600, "   Imposta &Immagini", u"Impostazione Immagini", tutte, nulla},
-        {"PB1(3)", 3960, "  Imposta &Video", u"Impostazione Video", tutte, nulla},
+        {"PB1(5)", 2880, "  &Musica cartella (MP3)", u"Musica -MP3", tutte, pagina<PaginaMusica>},
+        {"Command0", 3240, "  Testo Scorrevole", u"Testo Scorrevole", tutte, pagina<PaginaScorrevole>},
+        {"PB1(4)", 3600, "   Imposta &Immagini", u"Impostazione Immagini", tutte, form<ImpostaFoto>},
+        {"PB1(3)", 3960, "  Imposta &Video", u"Impostazione Video", tutte, form<ImpostaVideo>},
         {"PushButton2", 4320, "  Decorazioni", u"Gestione Decorazioni", tutte, form<Elementi>},
-        {"Command1", 4680, "  Imposta Meteo", u"Impostazione Meteo", tutte, nulla},
+        {"Command1", 4680, "  Imposta Meteo", u"Impostazione Meteo", tutte, meteo},
         {"PB1(1)", 5040, "  Modulo Vocale (TTS)", u"Modulo Vocale", tutte, nulla},
-        {"PB1(6)", 5400, "  Gestione &Radio", u"Gestione Radio", tutte, nulla},
-        {"PB1(11)", 6120, "  PlayList di &YouTube", u"Playlist YouTube", tutte, nulla},
+        {"PB1(6)", 5400, "  Gestione &Radio", u"Gestione Radio", tutte, pagina<PaginaRadio>},
+        {"PB1(11)", 6120, "  PlayList di &YouTube", u"Playlist YouTube", tutte, playlistYouTube},
         {"PB1(12)", 6480, "  Imposta schermata Totem", invariato, soloPrincipale, impostaTotem()},
         {"PB1(13)", 6840, "  Varie impostazioni Totem", invariato, soloPrincipale, form<VarieImpostaTotem>},
     };

@@ -1,5 +1,6 @@
 // zuvora-disegna: draws the picture catalogue and writes its list.
 #include "Catalogo.h"
+#include "Paesaggi.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -70,8 +71,17 @@ int disegnaTutto(const QString &cartella) {
             elenco += u"%1,%2,%3\n"_s.arg(++id).arg(d.file).arg(c.tipo).toUtf8();
     }
     scriviTutti(sfondi(), cartella + u"/ZuvoraSfondiHD"_s);
+    scriviTutti(foto(), cartella + u"/esempio/Immagini"_s);
     scrivi(cartella + u"/decorazioni.csv"_s, elenco);
     return id;
+}
+
+// The film's frames, for the encoder that README.md tells.
+void disegnaFilm(const QString &cartella) {
+    Disegni quadri;
+    for (int n = 0; n < fotogrammi; ++n)
+        quadri.push_back({u"%1.png"_s.arg(n, 4, 10, QChar(u'0')), [n] { return fotogramma(n); }});
+    scriviTutti(quadri, cartella);
 }
 
 } // namespace
@@ -81,8 +91,10 @@ int main(int quanti, char *argomenti[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication applicazione{quanti, argomenti};
     QTextStream errori{stderr};
-    if (QGuiApplication::arguments().size() != 2) {
-        errori << u"Uso: zuvora-disegna CARTELLA\n"_s;
+    const QStringList parole = QGuiApplication::arguments();
+    const bool film = parole.size() == 3 && parole.at(1) == u"--film"_s;
+    if (parole.size() != 2 && !film) {
+        errori << u"Uso: zuvora-disegna CARTELLA | zuvora-disegna --film CARTELLA\n"_s;
         return 2;
     }
     if (!carattereDisponibile()) {
@@ -90,8 +102,10 @@ int main(int quanti, char *argomenti[]) {
         return 1;
     }
     try {
-        const int quante = disegnaTutto(QGuiApplication::arguments().at(1));
-        QTextStream{stdout} << u"Decorazioni disegnate: %1\n"_s.arg(quante);
+        if (film)
+            disegnaFilm(parole.at(2));
+        else
+            QTextStream{stdout} << u"Decorazioni disegnate: %1\n"_s.arg(disegnaTutto(parole.at(1)));
     } catch (const std::exception &errore) {
         errori << QString::fromUtf8(errore.what()) << u'\n';
         return 1;

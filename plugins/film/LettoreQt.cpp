@@ -64,6 +64,7 @@ void LettoreQt::congeda() {
     ++m_quale;
     if (m_motore == nullptr)
         return;
+    m_motore->thread()->requestInterruption(); // one that still opens must not begin to play
     aMotore([motore = m_motore] {
         QThread *filo = motore->thread();
         delete motore;

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QThread>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -67,7 +68,7 @@ void Motore::apri(const QUrl &indirizzo) {
         return;
     }
     m_lettore->setSource(indirizzo); // waits
-    if (m_notizia.stato == StatoLettore::Guasto)
+    if (m_notizia.stato == StatoLettore::Guasto || QThread::currentThread()->isInterruptionRequested())
         return;
     m_notizia.haFilm = m_lettore->hasVideo();
     if (!m_notizia.haFilm && !m_lettore->hasAudio()) {

@@ -52,6 +52,8 @@ public:
     bool giaInEsecuzione = false;
     FintiMonitor monitors;
     QList<QUrl> aperti; // addresses sent to the browser
+    QStringList fileAperti;
+    bool apreFile = true; // the desktop has a program for them
     int appuntiSvuotati = 0;
 
     QString cartellaEseguibile() const override { return cartella; }
@@ -61,6 +63,11 @@ public:
     const SistemaMonitor &monitor() const override { return monitors; }
     QSize schermo() const override { return monitors.schermo(); }
     void svuotaAppunti() override { ++appuntiSvuotati; }
+    bool apriFile(const QString &percorso) override {
+        if (apreFile)
+            fileAperti << percorso;
+        return apreFile;
+    }
     bool apriNelBrowser(const QUrl &indirizzo) override {
         aperti << indirizzo;
         return true;

@@ -122,6 +122,44 @@ TEST(Griglia, LaRigaSceltaEIlRecordCorrente) {
     EXPECT_EQ(dato.Recordset().AbsolutePosition(), 0);
 }
 
+TEST(Griglia, ClicRigaEAttivazioneSonoTreCose) {
+    InstallazioneProva prova;
+    Data dato;
+    apri(dato, prova.cartella(), u"Select * from Servizi order by [ID]asc"_s);
+    QWidget finestra;
+    Grid griglia(&finestra, "grid", {0, 0, 6840, 5280}, {{"ID", "id", 900}, {"Servizio", "servizio", 0}});
+    Grid seconda(&finestra, "grid2", {0, 0, 6840, 900}, {{"ID", "id", 900}});
+    griglia.lega(dato);
+    seconda.lega(dato);
+    finestra.show();
+    QSignalSpy clic(&griglia, &Grid::cliccato);
+    QSignalSpy righe(&griglia, &Grid::rigaCambiata);
+    QSignalSpy attivati(&griglia, &Grid::attivato);
+    const auto conta = [&] {
+        return QStringLiteral("%1 %2 %3").arg(clic.size()).arg(righe.size()).arg(attivati.size()).toStdString();
+    };
+    const auto punto = [&](int riga) { return griglia.visualRect(griglia.model()->index(riga, 1)).center(); };
+    QTest::mouseClick(griglia.viewport(), Qt::LeftButton, {}, punto(3));
+    EXPECT_EQ(conta(), "1 1 0");
+    QTest::mouseClick(griglia.viewport(), Qt::LeftButton, {}, punto(3));
+    EXPECT_EQ(conta(), "2 1 0");
+    QTest::keyClick(&griglia, Qt::Key_End);
+    EXPECT_EQ(griglia.Row(), 19);
+    EXPECT_EQ(dato.Recordset().AbsolutePosition(), 19);
+    QTest::keyClick(&griglia, Qt::Key_Home);
+    EXPECT_EQ(griglia.Row(), 0);
+    EXPECT_EQ(conta(), "2 3 0");
+    for (const int tasto : {int(Qt::Key_Return), int(Qt::Key_Enter), int(Qt::Key_Space)})
+        QTest::keyClick(&griglia, Qt::Key(tasto));
+    EXPECT_EQ(conta(), "2 3 3");
+    QTest::mouseClick(griglia.viewport(), Qt::LeftButton, {}, punto(0));
+    QTest::mouseDClick(griglia.viewport(), Qt::LeftButton, {}, punto(0));
+    EXPECT_EQ(conta(), "3 3 4") << "one click and one activation";
+    prova.esegui(u"ALTER TABLE Servizi RENAME TO Altrove"_s);
+    EXPECT_ANY_THROW(dato.Refresh());
+    EXPECT_EQ(griglia.Rows() + seconda.Rows(), 0) << "no rows of a list that could not be read";
+}
+
 TEST(Istanza, UnaSolaPerMacchinaELiberaDopoLaFine) {
     const QByteArray chiave = "zuvora-prova-" + QByteArray::number(QCoreApplication::applicationPid());
     auto prima = std::make_unique<QtPiattaforma>(chiave);

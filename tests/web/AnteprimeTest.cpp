@@ -47,7 +47,7 @@ void scrivi(QWidget &form, const char *nome, const QString &testo) {
 TEST_F(Anteprime, P1ShowsItsPageUntilOk) {
     ServerProva server;
     server.pagine[u"/"_s] = {"<title>filmato</title>"};
-    P1 form(ambiente, server.indirizzo(u"/"_s), nullptr);
+    P1 form(ambiente, server.indirizzo(u"/"_s), QUrl(), nullptr);
     guida.quando("P1", [&](QWidget &w) {
         auto &wb1 = trova<Browser>(w, "wb1");
         EXPECT_TRUE(QTest::qWaitFor([&] { return titoloDi(wb1) == u"filmato"_s; }, Attesa_ms));

@@ -1,11 +1,16 @@
 #include "content/forms/P1.h"
 
+#include "content/logic/CorniceFilmato.h"
+
 namespace zuvora {
 
-P1::P1(const Ambiente &ambiente_, const QString &indirizzo, QWidget *padre)
+P1::P1(const Ambiente &ambiente_, const QString &indirizzo, const QUrl &sito, QWidget *padre)
     : Form(ambiente_, "P1", "Anteprima Video YT", {10395, 7050}, padre) {
     alClic(ok, [this] { scarica(); });
-    wb1.vai(indirizzo);
+    if (const auto cornice = corniceFilmato(indirizzo, sito))
+        wb1.mostraHtml(cornice->html, cornice->provenienza);
+    else
+        wb1.vai(indirizzo);
 }
 
 } // namespace zuvora

@@ -20,7 +20,8 @@ Elementi::Elementi(const Ambiente &ambiente_, QWidget *padre)
     m_gruppo.setScelto(0);
     PushButton2.setRuolo(Ruolo::Principale);
     PushButton1.setRuolo(Ruolo::Distruttivo);
-    quando(grid, &Grid::cliccata, [this] { mostraRiga(); });
+    quando(grid, &Grid::rigaCambiata, [this] { mostraRiga(); });
+    quando(grid, &Grid::attivato, [this] { anteprima(); });
     quando(m_gruppo, &GruppoRadio::cambiato, [this](int indice) { scegliCategoria(indice); });
     alClic(PushButton1, [this] { elimina(); });
     alClic(PushButton2, [this] { aggiungi(); });

@@ -20,7 +20,8 @@ ImpostaCornice::ImpostaCornice(const Ambiente &ambiente_, int i, QWidget *padre)
     grid.lega(Data1);
     m_gruppo.setScelto(0);
     Btn(0).setRuolo(Ruolo::Principale);
-    quando(grid, &Grid::cliccata, [this] { mostraRiga(); });
+    quando(grid, &Grid::rigaCambiata, [this] { mostraRiga(); });
+    quando(grid, &Grid::attivato, [this] { applica(); });
     quando(m_gruppo, &GruppoRadio::cambiato, [this](int indice) { scegliCategoria(indice); });
     alClic(Btn(0), [this] { applica(); });
     alClic(Btn(1), [this] { scarica(); });

@@ -1,7 +1,7 @@
 #include "shell/host/ElenchiFile.h"
 
 #include "shell/disegni/Disegni.h"
-#include "shell/host/Volumi.h"
+#include "shell/logic/Domanda.h"
 
 #include <QDir>
 #include <QHeaderView>
@@ -12,9 +12,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr QSize MisuraIcona{14, 14}; // pixels
-constexpr int Rientro = 10;
-constexpr auto Ordine = QDir::Name | QDir::IgnoreCase | QDir::LocaleAware;
+constexpr QSize misuraIcona{14, 14}; // pixels
+constexpr int rientro = 10;
 
 // The folder and those above it, from the root down.
 QStringList catena(const QString &cartella) {
@@ -38,8 +37,10 @@ QTreeWidgetItem *voceCartella(const QString &percorso) {
 
 } // namespace
 
-DriveListBox::DriveListBox(QWidget *padre, const char *nome, const Posto &posto) : Controllo(padre, nome, posto) {
-    setIconSize(MisuraIcona);
+DriveListBox::DriveListBox(QWidget *padre, const char *nome, const Posto &posto,
+                           std::shared_ptr<const SistemaFile> sistema)
+    : Controllo(padre, nome, posto), m_sistema(std::move(sistema)) {
+    setIconSize(misuraIcona);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     Refresh();
     connect(this, &QComboBox::activated, this, &DriveListBox::cambiato);
@@ -50,18 +51,18 @@ QString DriveListBox::Drive() const {
 }
 
 void DriveListBox::setDrive(const QString &cartella) {
-    QStringList radici;
-    for (int i = 0; i < count(); ++i)
-        radici << itemData(i).toString();
-    setCurrentIndex(static_cast<int>(radici.indexOf(volumeDi(cartella, radici))));
+    setCurrentIndex(findData(volumeDi(cartella, m_volumi)));
 }
 
 void DriveListBox::Refresh() {
     const QString scelta = Drive();
+    const auto letti = chiediEAspetta<QList<Volume>>([sistema = m_sistema] { return volumiMontati(*sistema); });
+    if (!letti)
+        return; // the tables of the system hang: the drives known so far stay
+    m_volumi = *letti;
     clear();
-    const QStringList volumi = volumiMontati();
-    for (const QString &radice : volumi)
-        addItem(icona(Disegno::Unita), radice, radice);
+    for (const Volume &v : std::as_const(m_volumi))
+        addItem(icona(Disegno::Unita), v.nome, v.radice);
     setCurrentIndex(std::max(0, findData(scelta)));
 }
 
@@ -70,32 +71,42 @@ void DriveListBox::showPopup() {
     QComboBox::showPopup();
 }
 
-DirListBox::DirListBox(QWidget *padre, const char *nome, const Posto &posto) : Controllo(padre, nome, posto) {
+DirListBox::DirListBox(QWidget *padre, const char *nome, const Posto &posto, std::shared_ptr<const SistemaFile> sistema)
+    : Controllo(padre, nome, posto), m_sistema(std::move(sistema)) {
     header()->hide();
     setColumnCount(1);
     setRootIsDecorated(false);
     setItemsExpandable(false);
-    setIndentation(Rientro);
-    setIconSize(MisuraIcona);
+    setIndentation(rientro);
+    setIconSize(misuraIcona);
     setUniformRowHeights(true);
     setTabKeyNavigation(false);
     connect(this, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem *voce) { entra(voce); });
 }
 
 bool DirListBox::setPath(const QString &cartella) {
-    const QFileInfo info(QDir::cleanPath(QDir::fromNativeSeparators(cartella)));
-    if (cartella.isEmpty() || !info.isDir())
+    if (cartella.isEmpty())
         return false;
-    const QString nuovo = QDir::toNativeSeparators(info.absoluteFilePath());
+    const QString assoluta = QFileInfo(QDir::cleanPath(QDir::fromNativeSeparators(cartella))).absoluteFilePath();
+    const auto contenuto = leggiCartella(m_sistema, assoluta);
+    if (!contenuto)
+        return false;
+    const QString nuovo = QDir::toNativeSeparators(assoluta);
     const bool altra = nuovo != m_percorso;
     m_percorso = nuovo;
-    Refresh();
+    m_contenuto = *contenuto;
+    disponi();
     if (altra)
         Q_EMIT cambiata();
     return true;
 }
 
 void DirListBox::Refresh() {
+    m_contenuto = leggiCartella(m_sistema, QDir::fromNativeSeparators(m_percorso)).value_or(Contenuto());
+    disponi();
+}
+
+void DirListBox::disponi() {
     clear();
     m_corrente = nullptr;
     const QStringList cartelle = catena(QDir::fromNativeSeparators(m_percorso));
@@ -109,8 +120,7 @@ void DirListBox::Refresh() {
     }
     const QDir qui(cartelle.constLast());
     QList<QTreeWidgetItem *> dentro;
-    const QStringList nomi = qui.entryList(QDir::Dirs | QDir::NoDotAndDotDot, Ordine);
-    for (const QString &nome : nomi)
+    for (const QString &nome : std::as_const(m_contenuto.cartelle))
         dentro << voceCartella(qui.filePath(nome));
     m_corrente->addChildren(dentro);
     expandAll();
@@ -142,17 +152,13 @@ void DirListBox::keyPressEvent(QKeyEvent *e) {
         Controllo::keyPressEvent(e);
 }
 
-FileListBox::FileListBox(QWidget *padre, const char *nome, const Posto &posto) : Controllo(padre, nome, posto) {
-    setUniformItemSizes(true);
-    connect(this, &QListWidget::itemClicked, this, [this] {
-        if (!m_segnalato)
-            Q_EMIT cliccato();
-    });
-}
+FileListBox::FileListBox(QWidget *padre, const char *nome, const Posto &posto,
+                         std::shared_ptr<const SistemaFile> sistema)
+    : Elenco(padre, nome, posto), m_sistema(std::move(sistema)) {}
 
 void FileListBox::setPattern(const QString &modello) {
     m_modelli = modello.split(u';', Qt::SkipEmptyParts);
-    Refresh();
+    riempi();
 }
 
 void FileListBox::setPath(const QString &cartella) {
@@ -160,18 +166,28 @@ void FileListBox::setPath(const QString &cartella) {
     Refresh();
 }
 
-void FileListBox::Refresh() {
-    m_riempimento = true;
-    clear();
-    if (!m_percorso.isEmpty())
-        addItems(QDir(QDir::fromNativeSeparators(m_percorso)).entryList(m_modelli, QDir::Files, Ordine));
-    setCurrentRow(-1);
-    m_riempimento = false;
+void FileListBox::mostra(const QString &cartella, const QStringList &file) {
+    m_percorso = cartella;
+    m_tutti = file;
+    riempi();
 }
 
-QString FileListBox::List(int indice) const {
-    const QListWidgetItem *voce = item(indice);
-    return voce == nullptr ? QString() : voce->text();
+void FileListBox::Refresh() {
+    m_tutti.clear();
+    if (!m_percorso.isEmpty())
+        m_tutti = leggiCartella(m_sistema, QDir::fromNativeSeparators(m_percorso)).value_or(Contenuto()).file;
+    riempi();
+}
+
+void FileListBox::riempi() {
+    QStringList mostrati;
+    std::copy_if(m_tutti.begin(), m_tutti.end(), std::back_inserter(mostrati),
+                 [this](const QString &nome) { return m_modelli.isEmpty() || QDir::match(m_modelli, nome); });
+    inSilenzio([&] {
+        clear();
+        addItems(mostrati);
+        setListIndex(-1);
+    });
 }
 
 QString FileListBox::percorso(int indice) const {
@@ -179,18 +195,6 @@ QString FileListBox::percorso(int indice) const {
     if (nome.isEmpty())
         return {};
     return QDir::toNativeSeparators(QDir(QDir::fromNativeSeparators(m_percorso)).filePath(nome));
-}
-
-void FileListBox::mousePressEvent(QMouseEvent *e) {
-    const int prima = currentRow();
-    Controllo::mousePressEvent(e);
-    m_segnalato = currentRow() != prima;
-}
-
-void FileListBox::currentChanged(const QModelIndex &attuale, const QModelIndex &precedente) {
-    Controllo::currentChanged(attuale, precedente);
-    if (!m_riempimento && attuale.isValid())
-        Q_EMIT cliccato();
 }
 
 } // namespace zuvora

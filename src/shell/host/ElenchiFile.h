@@ -1,21 +1,22 @@
 #pragma once
 
-#include "shell/host/Controllo.h"
+#include "shell/host/Elenco.h"
+#include "shell/host/Volumi.h"
 
 #include <QComboBox>
-#include <QListWidget>
 #include <QTreeWidget>
 
 namespace zuvora {
 
 // The lists by which a user walks the disks of the machine. Folders and files come in native form; a folder that can't
-// be read shows as empty.
+// be read shows as empty, one that doesn't answer within two seconds too.
 
 // The drives of the machine. It looks for new ones each time it is opened.
 class DriveListBox : public Controllo<QComboBox> {
     Q_OBJECT
 public:
-    DriveListBox(QWidget *padre, const char *nome, const Posto &posto);
+    DriveListBox(QWidget *padre, const char *nome, const Posto &posto,
+                 std::shared_ptr<const SistemaFile> sistema = std::make_shared<SistemaLocale>());
     QString Drive() const; // the root folder of the chosen one
     // Chooses the drive that holds the folder; emits nothing.
     void setDrive(const QString &cartella);
@@ -25,6 +26,10 @@ public:
 
 Q_SIGNALS:
     void cambiato(); // the user chose a drive
+
+private:
+    std::shared_ptr<const SistemaFile> m_sistema;
+    QList<Volume> m_volumi;
 };
 
 // The current folder between the folders above it and those in it. Double click and Enter go into a folder, Backspace
@@ -32,13 +37,16 @@ Q_SIGNALS:
 class DirListBox : public Controllo<QTreeWidget> {
     Q_OBJECT
 public:
-    DirListBox(QWidget *padre, const char *nome, const Posto &posto);
+    DirListBox(QWidget *padre, const char *nome, const Posto &posto,
+               std::shared_ptr<const SistemaFile> sistema = std::make_shared<SistemaLocale>());
     const QString &Path() const { return m_percorso; } // empty before the first setPath
-    // Goes to a folder; false, and nothing changes, when it is none. Emits `cambiata` when the folder is another.
+    // Goes to a folder; false, and nothing changes, when it is none or doesn't answer. Emits `cambiata` when the folder
+    // is another.
     bool setPath(const QString &cartella);
     void Refresh();
     int ListCount() const;          // folders in the current one
     QString List(int indice) const; // full path
+    const QStringList &file() const { return m_contenuto.file; }
 
 Q_SIGNALS:
     void cambiata();
@@ -49,37 +57,34 @@ protected:
 
 private:
     void entra(const QTreeWidgetItem *voce);
+    void disponi();
+    std::shared_ptr<const SistemaFile> m_sistema;
+    Contenuto m_contenuto;
     QTreeWidgetItem *m_corrente = nullptr;
     QString m_percorso;
 };
 
 // The files of a folder that match a pattern, in order of name.
-class FileListBox : public Controllo<QListWidget> {
+class FileListBox : public Elenco {
     Q_OBJECT
 public:
-    FileListBox(QWidget *padre, const char *nome, const Posto &posto);
+    FileListBox(QWidget *padre, const char *nome, const Posto &posto,
+                std::shared_ptr<const SistemaFile> sistema = std::make_shared<SistemaLocale>());
     void setPattern(const QString &modello); // "*.jpg;*.bmp", in any case
     void setPath(const QString &cartella);
+    // The same, for one who has read the folder already.
+    void mostra(const QString &cartella, const QStringList &file);
     const QString &Path() const { return m_percorso; }
-    void Refresh(); // no file is chosen afterwards
-    int ListCount() const { return count(); }
-    int ListIndex() const { return currentRow(); } // -1 without a chosen file
-    QString List(int indice) const;                // the file's name
+    void Refresh(); // reads the folder; no file is chosen afterwards
     // Folder and name together; empty when there is no such line.
     QString percorso(int indice) const;
 
-Q_SIGNALS:
-    void cliccato(); // a file was clicked or reached with the keyboard
-
-protected:
-    void mousePressEvent(QMouseEvent *e) override;
-    void currentChanged(const QModelIndex &attuale, const QModelIndex &precedente) override;
-
 private:
+    void riempi();
+    std::shared_ptr<const SistemaFile> m_sistema;
     QString m_percorso;
     QStringList m_modelli;
-    bool m_riempimento = false;
-    bool m_segnalato = false; // the press under way has chosen another file and said so
+    QStringList m_tutti;
 };
 
 } // namespace zuvora

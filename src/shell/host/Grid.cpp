@@ -5,6 +5,9 @@
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QMetaMethod>
+#include <QMouseEvent>
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -92,8 +95,11 @@ Grid::Grid(QWidget *padre, const char *nome, const Posto &posto, std::vector<Col
         else
             horizontalHeader()->setSectionResizeMode(sezione, QHeaderView::Stretch);
     }
-    connect(this, &QTableView::clicked, this, &Grid::cliccata);
-    connect(this, &QTableView::doubleClicked, this, &Grid::doppioClic);
+    connect(this, &QTableView::clicked, this, [this] {
+        if (!m_doppio)
+            Q_EMIT cliccato();
+    });
+    connect(this, &QTableView::doubleClicked, this, &Grid::attiva);
 }
 
 Grid::~Grid() = default;
@@ -134,14 +140,52 @@ void Grid::ridisegna() {
         m_modello->cambiata(Row());
 }
 
+void Grid::attiva() {
+    Q_EMIT attivato();
+    Q_EMIT doppioClic();
+}
+
+// Where nobody waits for it, Enter goes on to the form and its main action.
+void Grid::keyPressEvent(QKeyEvent *e) {
+    switch (e->key()) {
+    case Qt::Key_Home:
+        seleziona(0);
+        break;
+    case Qt::Key_End:
+        seleziona(Rows() - 1);
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        if (Row() >= 0 && (isSignalConnected(QMetaMethod::fromSignal(&Grid::attivato)) ||
+                           isSignalConnected(QMetaMethod::fromSignal(&Grid::doppioClic))))
+            attiva();
+        else
+            e->ignore();
+        break;
+    default:
+        Controllo::keyPressEvent(e);
+    }
+}
+
+void Grid::mouseReleaseEvent(QMouseEvent *e) {
+    Controllo::mouseReleaseEvent(e);
+    m_doppio = false;
+}
+
+void Grid::mouseDoubleClickEvent(QMouseEvent *e) {
+    m_doppio = true;
+    Controllo::mouseDoubleClickEvent(e);
+}
+
 void Grid::currentChanged(const QModelIndex &attuale, const QModelIndex &precedente) {
     QTableView::currentChanged(attuale, precedente);
     if (m_dato == nullptr || !m_dato->aperto() || !attuale.isValid())
         return;
     if (m_dato->Recordset().AbsolutePosition() != attuale.row())
         m_dato->Recordset().SetAbsolutePosition(attuale.row());
-    if (!m_riempimento)
-        Q_EMIT cliccata();
+    if (!m_riempimento && attuale.row() != precedente.row())
+        Q_EMIT rigaCambiata();
 }
 
 } // namespace zuvora

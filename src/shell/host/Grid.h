@@ -33,17 +33,24 @@ public:
     void ridisegna(); // after a change of the current record
 
 Q_SIGNALS:
-    void cliccata(); // a click on a row, or the current row moved
-    void doppioClic();
+    void cliccato();     // a click on a row, which is the current one by then
+    void rigaCambiata(); // the user went to another row, by mouse or keyboard
+    void attivato();     // double click, Enter or Space on a row
+    void doppioClic();   // as attivato
 
 protected:
+    void keyPressEvent(QKeyEvent *e) override;
+    void mouseReleaseEvent(QMouseEvent *e) override;
+    void mouseDoubleClickEvent(QMouseEvent *e) override;
     void currentChanged(const QModelIndex &attuale, const QModelIndex &precedente) override;
 
 private:
     void riempi();
+    void attiva();
     ModelloDati *m_modello;
     Data *m_dato = nullptr;
     bool m_riempimento = false;
+    bool m_doppio = false; // the release of a double click is no click of its own
 };
 
 } // namespace zuvora

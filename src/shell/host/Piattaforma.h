@@ -22,6 +22,8 @@ public:
     virtual QSize schermo() const = 0; // the primary screen, pixels
     virtual void svuotaAppunti() = 0;
     virtual bool apriNelBrowser(const QUrl &indirizzo) = 0;
+    // Opens a file in the desktop's own program for it, without waiting; false where there is none.
+    virtual bool apriFile(const QString &percorso) = 0;
 };
 
 } // namespace zuvora

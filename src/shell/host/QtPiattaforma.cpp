@@ -140,4 +140,8 @@ bool QtPiattaforma::apriNelBrowser(const QUrl &indirizzo) {
     return QDesktopServices::openUrl(indirizzo);
 }
 
+bool QtPiattaforma::apriFile(const QString &percorso) {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(percorso));
+}
+
 } // namespace zuvora

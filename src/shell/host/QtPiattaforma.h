@@ -20,6 +20,7 @@ public:
     QSize schermo() const override;
     void svuotaAppunti() override;
     bool apriNelBrowser(const QUrl &indirizzo) override;
+    bool apriFile(const QString &percorso) override;
 
 private:
     QByteArray m_chiave;

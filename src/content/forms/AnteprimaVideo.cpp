@@ -1,0 +1,11 @@
+#include "content/forms/AnteprimaVideo.h"
+
+namespace zuvora {
+
+AnteprimaVideo::AnteprimaVideo(const Ambiente &ambiente_, const QString &percorso, QWidget *padre)
+    : Form(ambiente_, "AnteprimaVideo", "Anteprima Video", {9735, 7245}, padre) {
+    MP1.setFile(percorso);
+    MP1.avvia();
+}
+
+} // namespace zuvora

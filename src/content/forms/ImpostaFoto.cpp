@@ -1,0 +1,63 @@
+#include "content/forms/ImpostaFoto.h"
+
+#include "content/logic/Predefinita.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr int massimeCifre = 2;
+
+} // namespace
+
+ImpostaFoto::ImpostaFoto(const Ambiente &ambiente_, QWidget *padre, const Percorsi &percorsi)
+    : FormPlaylist(ambiente_, AspettoFoto, padre, percorsi) {
+    text1.setFiltro(soloCifre);
+    text1.setMaxLength(massimeCifre);
+    quando(Image1, &AnteprimaImmagine::cambiata, [this] {
+        if (m_tace && !Image1.guasto().isEmpty())
+            Image1.svuota();
+    });
+    proteggi([this] {
+        const QString secondi = leggiSecondi(cartella());
+        text1.setMaxLength(std::max<int>(massimeCifre, static_cast<int>(secondi.size()))); // a stored time stays whole
+        text1.setText(secondi);
+    });
+    quando(text1, &QLineEdit::textEdited, [this] {
+        if (text1.text().size() <= massimeCifre)
+            text1.setMaxLength(massimeCifre);
+    });
+    ElencaPlaylist();
+}
+
+void ImpostaFoto::clicFile(const QString &percorso) {
+    mostra(percorso, false);
+}
+
+void ImpostaFoto::clicVoce(const QString &percorso) {
+    mostra(percorso, true);
+}
+
+// A path on a disk that doesn't answer must not hold the form up: it is asked for first.
+void ImpostaFoto::mostra(const QString &percorso, bool tace) {
+    m_chiesta = percorso;
+    percorsi().chiedi(percorso, *this, [this, percorso, tace](const Percorsi::Esame &esame) {
+        if (percorso != m_chiesta)
+            return;
+        m_tace = tace;
+        if (esame.specie != Specie::Manca)
+            Image1.mostra(esame.percorso);
+        else
+            Image1.svuota(tace ? QString() : u"File non trovato"_s);
+    });
+}
+
+bool ImpostaFoto::chiediTempo(std::optional<double> &tempo) {
+    tempo = tempoDaSecondi(text1.text());
+    if (!tempo)
+        avvisa(u"Impostare valore compreso fra 1 e 60"_s);
+    return tempo.has_value();
+}
+
+} // namespace zuvora
