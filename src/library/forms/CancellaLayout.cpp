@@ -11,6 +11,7 @@ CancellaLayout::CancellaLayout(const Ambiente &ambiente_, const QString &numero,
     QFont grande = font();
     grande.setPointSizeF(11);
     Label1.setFontBase(grande);
+    grande.setPointSizeF(10);
     grande.setBold(true);
     Label3.setFontBase(grande);
     Label3.setCaption(numero);
