@@ -47,7 +47,7 @@ protected:
     void attendiBox() {
         ASSERT_TRUE(QTest::qWaitFor([&] { return !(m_box = i.dialoghi.prendiBox()).empty(); }, Attesa_ms));
     }
-    static ElencoPercorsi &lista(QWidget &form) { return trova<ElencoPercorsi>(form, "List2"); }
+    static ListBox &lista(QWidget &form) { return trova<ListBox>(form, "List2"); }
     static QString attiva(QWidget &form) { return trova<Label>(form, "Label1(1)").Caption(); }
     // A click on a line of a list.
     static void scegli(QListWidget &elenco, int riga) {
@@ -85,7 +85,7 @@ TEST_F(ProvaPlaylistForm, EntriesMoveAndGo) {
     clic(*form, "Command2");
     clic(*form, "Command3");
     clic(*form, "Command10");
-    ElencoPercorsi &elenco = lista(*form);
+    ListBox &elenco = lista(*form);
     const QString a = foto(u"a.jpg"_s);
     const QString b = foto(u"b.jpg"_s);
     const QString c = foto(u"c.jpg"_s);
