@@ -2,7 +2,7 @@
 #include "designer/logic/ScritturaLayout.h"
 #include "shell/store/EngineError.h"
 
-#include "designer/ArchivioLayout.h"
+#include "kit/ArchivioLayout.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "designer/logic/Messaggio.h"
+#include "shell/logic/Messaggio.h"
 #include "shell/store/Recordset.h"
 
 #include <QString>
