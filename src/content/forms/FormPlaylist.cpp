@@ -211,6 +211,7 @@ void FormPlaylist::eliminaPlaylist() {
         avvisa(u"Il file non è stato eliminato !"_s, file.errorString());
         return;
     }
+    m_controllo.smetti();
     List2.Clear();
     File2.setFocus();
     ElencaPlaylist();
