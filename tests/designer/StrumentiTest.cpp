@@ -140,6 +140,17 @@ TEST(ValoriIniziali, AreThoseOfTheFormsDefinition) {
     EXPECT_EQ(layout.elemento(TipoElemento::Pannello1, 3).coloreSfondo, 12632256);
 }
 
+TEST(NomiParlati, AreThoseThatAUserKnows) {
+    const DisplayLayout layout(u"Layout1"_s);
+    QStringList nomi;
+    for (const int riga : {1, 5, 24, 25, 26, 27, 28, 29, 30, 31, 32, 33, 34, 59, 60, 61, 62, 70})
+        nomi << layout[riga - 1].nomeParlato();
+    EXPECT_EQ(nomi.join(u'|'),
+              u"Numero del pannello 1|Postazione del pannello 2|Servizio del pannello 8|Titolo|Sottotitolo|Data|Ora|"
+              "Riquadro immagini|Riquadro meteo|Riquadro video|Sfondo|Testo scorrevole|Colore dello schermo|"
+              "Decorazione 25|Riquadro TG online|Striscia delle news|Riquadro YouTube|Pannello 8"_s);
+}
+
 TEST(Finestra, TheCanvasHasTheSizeOfItsResolution) {
     const Dimensione attese[] = {{24525, 14115}, {15360, 11520}, {20490, 11520},
                                  {28800, 16200}, {16200, 28800}, {24525, 14115}};

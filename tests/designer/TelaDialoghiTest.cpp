@@ -103,7 +103,9 @@ TEST(Pagine, IlFontSceltoEIlTestoArrivanoAlTitolo) {
         auto &testo = trova<QLineEdit>(form2, "Testo999");
         testo.setText(QString(60, u'x'));
         EXPECT_EQ(testo.text().size(), 50);
-        clicca(form2, "Btn(0)");
+        testo.setFocus();
+        QTest::keyClick(&testo, Qt::Key_Return); // applies, and the form stays
+        EXPECT_TRUE(trova<Button>(form2, "Btn(0)").conSpunta());
         trova<QLineEdit>(form2, "Testo999").setText(u"non applicato"_s);
         clicca(form2, "Btn(1)");
     });
@@ -291,6 +293,8 @@ TEST(Segni, IBottoniDiconoCheCosaSullaTelaCeGia) {
         return b.accessibleDescription();
     };
     EXPECT_EQ(segno("Btn(12)") + segno("Btn(1)"), QString());
+    EXPECT_EQ(tela.w("Btn(12)").toolTip(), u" Meteo "_s);
+    EXPECT_EQ(tela.w("Btn(12)").geometry(), QRect(120, 176, 49, 39));
     clicca(*tela.form, "Btn(12)");
     clicca(*tela.form, "Btn(1)");
     clicca(*tela.form, "Btn(1)");

@@ -98,6 +98,7 @@ TEST(Schermi, PosizioneESecondoSchermo) {
     clicca(*tela.form, "Btn(15)");
     EXPECT_EQ(tela.installazione.righe(u"SELECT MisuraFormLeft, MisuraFormTop FROM Configurazione"_s),
               QStringList(u"19215|450"_s));
+    EXPECT_TRUE(trova<Button>(*tela.form, "Btn(15)").conSpunta());
     QTest::keyClick(tela.form.get(), Qt::Key_Escape);
     EXPECT_EQ(tela.form->pos(), QPoint(0, 30));
     tela.installazione.piattaforma.monitors.monitor = {QRect(0, 0, 1280, 800), QRect(1280, 0, 1920, 1080)};

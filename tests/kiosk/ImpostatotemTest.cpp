@@ -56,7 +56,7 @@ TEST_F(ProvaImpostatotem, SavesWhatTheBoxesHoldAndShowsItAgain) {
     EXPECT_EQ(trova<Label>(form(), "Label2").Caption(), u"2"_s);
     EXPECT_EQ(casella("TitTot").text(), u"L'ora d'oro"_s);
     EXPECT_EQ(casella("NrServizi").text(), u"2"_s);
-    EXPECT_EQ(trova<ComboBox>(form(), "Combo1").List(1), u"Esami"_s);
+    EXPECT_EQ(trova<ListBox>(form(), "Combo1").List(1), u"Esami"_s);
 }
 
 TEST_F(ProvaImpostatotem, ClosingLosesWhatWasNotSaved) {
@@ -133,7 +133,7 @@ TEST_F(ProvaImpostatotem, ThePreviewGetsTheScreenOfTheForm) {
     QTest::mouseClick(&trova<QWidget>(form(), "RT(0)"), Qt::LeftButton, {}, {8, 9});
     misura(&vista);
     EXPECT_EQ(vista, QSize(1280, 1024));
-    EXPECT_EQ(trova<ComboBox>(form(), "Combo1").ListIndex(), 1) << "the last service";
+    EXPECT_EQ(trova<ListBox>(form(), "Combo1").ListIndex(), 1) << "the last service";
     riapri();
     QTest::mouseClick(&trova<QWidget>(form(), "RT(3)"), Qt::LeftButton, {}, {8, 9});
     misura(&vista);

@@ -158,6 +158,8 @@ TEST_F(ProvaLayoutTotem, IsMovedByAnyPlaceOfIt) {
                       Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&form, &mossa);
     EXPECT_EQ(form.pos() - prima, QPoint(-30, -20));
+    QTest::keyClick(&form, Qt::Key_Down);
+    EXPECT_EQ(form.pos() - prima, QPoint(-30, 40));
     QTest::keyClick(&form, Qt::Key_Escape);
     EXPECT_FALSE(form.isVisible());
 }

@@ -1,6 +1,7 @@
 #include "kiosk/forms/BottoneTotem.h"
 
 #include <QFontMetrics>
+#include <QPaintEvent>
 #include <QPainter>
 
 namespace zuvora {
@@ -22,6 +23,7 @@ QColor fondoPer(const QColor &testo) {
 
 BottoneTotem::BottoneTotem(QWidget *padre, const char *nome, const QString &didascalia, const Posto &posto)
     : Controllo(padre, nome, posto), m_font(font()) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_TransparentForMouseEvents); // a press on it moves the window, as one beside it
     setCaption(didascalia);
 }
@@ -29,11 +31,26 @@ BottoneTotem::BottoneTotem(QWidget *padre, const char *nome, const QString &dida
 void BottoneTotem::setCaption(const QString &testo) {
     m_caption = testo;
     setAccessibleName(testo.trimmed());
-    update();
+    dimentica();
 }
 
 void BottoneTotem::setFontTesto(const QFont &font) {
     m_font = font;
+    dimentica();
+}
+
+void BottoneTotem::setColoreTesto(const QColor &colore) {
+    m_colore = colore;
+    dimentica();
+}
+
+void BottoneTotem::setSfondo(const QPixmap &sfondo) {
+    m_sfondo = sfondo;
+    dimentica();
+}
+
+void BottoneTotem::dimentica() {
+    m_faccia = {};
     update();
 }
 
@@ -43,7 +60,7 @@ QRect BottoneTotem::spazio() const {
 
 bool BottoneTotem::entra(const QFont &font, int opzioni) const {
     const QRect r = spazio();
-    return r.contains(QFontMetrics(font, this).boundingRect(r, opzioni, m_caption));
+    return r.contains(QFontMetrics(font, this).boundingRect(r, opzioni, m_caption.trimmed()));
 }
 
 QFont BottoneTotem::fontMostrato() const {
@@ -53,9 +70,23 @@ QFont BottoneTotem::fontMostrato() const {
     return adatto;
 }
 
-void BottoneTotem::paintEvent(QPaintEvent *) {
-    QPainter pittore(this);
+void BottoneTotem::paintEvent(QPaintEvent *e) {
+    const QSize misura = size() * devicePixelRatioF();
+    if (m_faccia.size() != misura) {
+        m_faccia = QPixmap(misura);
+        m_faccia.setDevicePixelRatio(devicePixelRatioF());
+        QPainter pittore(&m_faccia);
+        dipingiFaccia(pittore);
+    }
+    const QRectF parte = e->rect();
+    QPainter(this).drawPixmap(parte, m_faccia,
+                              {parte.topLeft() * devicePixelRatioF(), parte.size() * devicePixelRatioF()});
+}
+
+void BottoneTotem::dipingiFaccia(QPainter &pittore) const {
     const QColor fondo = fondoPer(m_colore);
+    pittore.fillRect(rect(), palette().color(QPalette::Window));
+    pittore.drawPixmap(QPoint(), m_sfondo, geometry());
     pittore.setRenderHint(QPainter::Antialiasing);
     pittore.setPen(QPen(fondo.lightness() > 128 ? fondo.darker(150) : fondo.lighter(170), 2));
     pittore.setBrush(fondo);
@@ -63,7 +94,7 @@ void BottoneTotem::paintEvent(QPaintEvent *) {
     const QFont mostrato = fontMostrato();
     pittore.setFont(mostrato);
     pittore.setPen(m_colore);
-    pittore.drawText(spazio(), entra(mostrato, aParole) ? aParole : ovunque, m_caption);
+    pittore.drawText(spazio(), entra(mostrato, aParole) ? aParole : ovunque, m_caption.trimmed());
 }
 
 } // namespace zuvora

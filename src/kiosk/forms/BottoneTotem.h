@@ -3,6 +3,7 @@
 #include "shell/host/Controllo.h"
 
 #include <QColor>
+#include <QPixmap>
 
 namespace zuvora {
 
@@ -15,7 +16,9 @@ public:
     void setCaption(const QString &testo);
     const QString &Caption() const { return m_caption; }
     void setFontTesto(const QFont &font);
-    void setColoreTesto(const QColor &colore) { m_colore = colore; }
+    void setColoreTesto(const QColor &colore);
+    // The picture of the window behind, from the window's corner on: it is seen beside the rounded corners.
+    void setSfondo(const QPixmap &sfondo);
     // The font in which the name finds room on the face: the set one, or smaller.
     QFont fontMostrato() const;
 
@@ -25,10 +28,16 @@ protected:
 private:
     QRect spazio() const;
     bool entra(const QFont &font, int opzioni) const;
+    void dimentica();
+    void dipingiFaccia(QPainter &pittore) const;
 
     QString m_caption;
     QFont m_font;
     QColor m_colore = Qt::black;
+    QPixmap m_sfondo;
+    // Drawn once and without holes: the window beneath needs no painting, and twenty buttons cost what their part of
+    // the picture would.
+    QPixmap m_faccia;
 };
 
 } // namespace zuvora

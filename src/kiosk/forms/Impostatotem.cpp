@@ -56,6 +56,7 @@ void Impostatotem::nomina() {
     TitTot.setAccessibleName(u"Titolo del Totem"_s);
     Esempio.setCaption(dataInParole(QDate::currentDate()));
     NrServizi.setSolaLettura(u"I servizi si attivano in Gestione Servizi."_s);
+    NrServizi.setFocusPolicy(Qt::ClickFocus);
     Combo1.setAccessibleName(u"Servizi attivi"_s);
     Crea.setToolTip(u"...per solo posizionamento pulsanti (no sfondo)"_s);
     SiSalva.setRuolo(Ruolo::Principale);

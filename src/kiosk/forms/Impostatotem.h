@@ -4,6 +4,7 @@
 #include "kiosk/logic/Disposizione.h"
 #include "kiosk/logic/RigaTotem.h"
 #include "shell/host/Form.h"
+#include "shell/host/ListBox.h"
 #include "shell/host/PictureBox.h"
 #include "shell/logic/Percorsi.h"
 
@@ -68,7 +69,7 @@ private:
     GruppoRadio m_schermo{RT};
     Label Label1{this, "Label1", "Servizi Attivi nr:", {2640, 5085, 1800, 255}};
     Edit NrServizi{this, "NrServizi", {4560, 5040, 615, 285}, "0"};
-    ComboBox Combo1{this, "Combo1", {2640, 5400, 4455, 315}};
+    ListBox Combo1{this, "Combo1", {2640, 5400, 4455, 1500}};
     Label Label2{this, "Label2", "Label2", {5280, 5085, 615, 255}}; // hidden: the chosen screen's index
     Label Label3{this, "Label3", "Label3", {6000, 5085, 615, 255}}; // hidden: who opened the preview
     Button SiSalva{this, "SiSalva", "&Salva impostazioni", {2640, 7080, 1575, 330}};

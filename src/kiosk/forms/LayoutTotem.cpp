@@ -4,6 +4,7 @@
 #include "shell/host/ColorPicker.h"
 
 #include <QDate>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -49,12 +50,12 @@ LayoutTotem::LayoutTotem(const Ambiente &ambiente_, const RichiestaAnteprima &ri
       }) {
     for (const auto &[indice, bottone] : Bottone)
         bottone->hide();
-    for (Label *etichetta : {&TitoloTXT, &Label1, &Avviso}) {
+    for (Label *etichetta : {&TitoloTXT, &Label1, &Avviso})
         etichetta->setAttribute(Qt::WA_TransparentForMouseEvents);
+    for (Label *etichetta : {&TitoloTXT, &Label1}) {
         etichetta->setAutosize(true);
-    }
-    for (Label *etichetta : {&TitoloTXT, &Label1})
         etichetta->setFontBase(fontIniziale());
+    }
     Label1.setAllineamento(Qt::AlignRight);
     Label1.setLeft(richiesta.finestra.width - twipsDa(Label1.width()) - margineDestro);
     TitoloTXT.setVisible(richiesta.testoVisibile);
@@ -109,6 +110,7 @@ void LayoutTotem::vestiPulsanti() {
         BottoneTotem &bottone = Bottone(i + 1);
         bottone.setCaption(u' ' + m_richiesta.servizi[i]);
         bottone.setFontTesto(fontDa(stile));
+        bottone.setSfondo(m_sfondo);
         if (stile.coloreDato)
             bottone.setColoreTesto(coloreDa(stile.colore));
     }
@@ -121,9 +123,18 @@ void LayoutTotem::avverti(const QString &frase) {
         m_avvisi << frase;
 }
 
+// In the part of the window that any monitor shows, whatever its width.
 void LayoutTotem::mostraAvvisi() {
     Avviso.setVisible(!m_avvisi.isEmpty());
-    Avviso.setCaption(m_avvisi.join(u'\n'));
+    const QString testo = m_avvisi.join(u'\n');
+    QFont leggibile = font();
+    leggibile.setPointSizeF(11);
+    const int larghezza = std::min(width(), screen()->availableGeometry().width()) - pixelDa(2 * Avviso.Left());
+    const QRect spazio =
+        QFontMetrics(leggibile).boundingRect(QRect(0, 0, larghezza, height()), Qt::TextWordWrap, testo);
+    Avviso.setPosto({Avviso.Left(), Avviso.Top(), twipsDa(spazio.width() + 1), twipsDa(spazio.height())});
+    Avviso.setFontBase(leggibile);
+    Avviso.setCaption(testo);
     Avviso.setColori(Qt::black, QColor(0xFF, 0xF4, 0xC4));
     Avviso.raise();
 }
@@ -142,7 +153,23 @@ void LayoutTotem::showEvent(QShowEvent *e) {
         move(monitor.topLeft());
 }
 
-// It is moved by any place of it, for its frame may be out of reach.
+// It is moved by any place of it and by the arrow keys, for its frame may be out of reach.
+void LayoutTotem::keyPressEvent(QKeyEvent *e) {
+    constexpr int passo = 60; // pixels
+    switch (e->key()) {
+    case Qt::Key_Left:
+        return move(x() - passo, y());
+    case Qt::Key_Right:
+        return move(x() + passo, y());
+    case Qt::Key_Up:
+        return move(x(), y() - passo);
+    case Qt::Key_Down:
+        return move(x(), y() + passo);
+    default:
+        Form::keyPressEvent(e);
+    }
+}
+
 void LayoutTotem::mousePressEvent(QMouseEvent *e) {
     if (e->button() == Qt::LeftButton)
         m_presa = e->globalPosition().toPoint() - frameGeometry().topLeft();

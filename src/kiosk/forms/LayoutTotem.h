@@ -27,6 +27,7 @@ public:
                 Percorsi percorsi = Percorsi());
 
 protected:
+    void keyPressEvent(QKeyEvent *e) override;
     void mousePressEvent(QMouseEvent *e) override;
     void mouseMoveEvent(QMouseEvent *e) override;
     void paintEvent(QPaintEvent *e) override;

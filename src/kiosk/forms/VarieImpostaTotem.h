@@ -35,8 +35,8 @@ private:
     ApriEtichette m_apriEtichette;
     std::unique_ptr<Etichette> LL9;
     Percorsi m_percorsi;
-    int m_prova = 0; // number of the test under way or last done
-    bool m_inProva = true; // nothing is done before the first test has passed
+    int m_prova = 0;         // number of the test under way or last done
+    bool m_inProva = true;   // nothing is done before the first test has passed
     bool m_occupata = false; // the kiosk is being asked
     std::function<void()> m_dopoLaProva;
 

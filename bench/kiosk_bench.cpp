@@ -1,0 +1,209 @@
+// Opening of the kiosk's settings against a form of as many plain controls; the preview of twenty buttons against its
+// picture alone; the window's longest standstill while a kiosk that never answers is asked.
+#include "Applicazione.h"
+#include "kiosk/forms/Impostatotem.h"
+#include "kiosk/forms/LayoutTotem.h"
+#include "kiosk/forms/VarieImpostaTotem.h"
+#include "kit/FintoSistema.h"
+#include "kit/InstallazioneProva.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QPainter>
+#include <algorithm>
+#include <benchmark/benchmark.h>
+
+namespace {
+
+using namespace zuvora;
+using namespace Qt::Literals::StringLiterals;
+
+InstallazioneProva &installazione() {
+    misura::preparaApplicazione();
+    static auto *const fatta = [] {
+        auto *nuova = new InstallazioneProva;
+        nuova->esegui(u"UPDATE Servizi SET ServizioAttivo=1"_s);
+        return nuova;
+    }();
+    return *fatta;
+}
+
+void mostraEDipingi(QWidget &finestra) {
+    finestra.show();
+    QApplication::processEvents();
+    finestra.repaint();
+}
+
+void apriImpostatotem(benchmark::State &stato) {
+    InstallazioneProva &i = installazione();
+    Misura anteprima;
+    for (auto _ : stato) {
+        Impostatotem form(i.ambiente, anteprima, nullptr);
+        mostraEDipingi(form);
+    }
+    stato.counters["limite"] = 1.5;
+}
+
+// As many controls of each kind, made one by one as a form without any help would.
+void apriSemplice(benchmark::State &stato) {
+    InstallazioneProva &i = installazione();
+    Misura anteprima;
+    const Impostatotem modello(i.ambiente, anteprima, nullptr);
+    const QList<QWidget *> controlli = modello.findChildren<QWidget *>();
+    for (auto _ : stato) {
+        QDialog form;
+        form.setFixedSize(modello.size());
+        for (const QWidget *controllo : controlli) {
+            QWidget *copia = nullptr;
+            if (qobject_cast<const QLineEdit *>(controllo) != nullptr)
+                copia = new QLineEdit(u"testo"_s, &form);
+            else if (qobject_cast<const QCheckBox *>(controllo) != nullptr)
+                copia = new QCheckBox(u"testo"_s, &form);
+            else if (qobject_cast<const QRadioButton *>(controllo) != nullptr)
+                copia = new QRadioButton(u"testo"_s, &form);
+            else if (qobject_cast<const QPushButton *>(controllo) != nullptr)
+                copia = new QPushButton(u"testo"_s, &form);
+            else if (qobject_cast<const QGroupBox *>(controllo) != nullptr)
+                copia = new QGroupBox(u"testo"_s, &form);
+            else if (qobject_cast<const QComboBox *>(controllo) != nullptr)
+                copia = new QComboBox(&form);
+            else
+                copia = new QLabel(u"testo"_s, &form);
+            copia->setGeometry(QRect(controllo->mapTo(&modello, QPoint()), controllo->size()));
+            copia->setVisible(!controllo->isHidden());
+        }
+        mostraEDipingi(form);
+    }
+    stato.counters["controlli"] = static_cast<double>(controlli.size());
+}
+
+QString sfondoIntero() {
+    static const QString percorso = [] {
+        QImage sfondo(1920, 1080, QImage::Format_RGB32);
+        for (int y = 0; y < sfondo.height(); ++y)
+            for (int x = 0; x < sfondo.width(); ++x)
+                sfondo.setPixel(x, y, qRgb(x & 255, y & 255, (x + y) & 255));
+        const QString file = installazione().file(u"sfondo.bmp"_s);
+        sfondo.save(file);
+        return file;
+    }();
+    return percorso;
+}
+
+std::unique_ptr<LayoutTotem> anteprimaPiena() {
+    InstallazioneProva &i = installazione();
+    i.esegui(u"UPDATE ConfigurazioneTotem SET SfondoTotem='%1'"_s.arg(sfondoIntero()));
+    RichiestaAnteprima richiesta{1, {}, true, true, {28800, 16200}};
+    for (int servizio = 1; servizio <= serviziMassimi; ++servizio)
+        richiesta.servizi << u"Prenotazione visite %1"_s.arg(servizio);
+    return std::make_unique<LayoutTotem>(i.ambiente, richiesta, nullptr);
+}
+
+void dipingiAnteprima(benchmark::State &stato) {
+    const auto anteprima = anteprimaPiena();
+    LayoutTotem &form = *anteprima;
+    mostraEDipingi(form);
+    for (auto _ : stato)
+        form.repaint();
+    stato.counters["limite"] = 2;
+}
+
+class SoloImmagine : public QWidget {
+public:
+    explicit SoloImmagine(const QPixmap &immagine) : m_immagine(immagine) { setFixedSize(immagine.size()); }
+
+protected:
+    void paintEvent(QPaintEvent *) override { QPainter(this).drawPixmap(0, 0, m_immagine); }
+
+private:
+    QPixmap m_immagine;
+};
+
+void dipingiImmagine(benchmark::State &stato) {
+    installazione();
+    SoloImmagine finestra{QPixmap(sfondoIntero())};
+    mostraEDipingi(finestra);
+    for (auto _ : stato)
+        finestra.repaint();
+}
+
+// From the made window to its first picture on the screen.
+template <class Crea> void primaVolta(benchmark::State &stato, Crea crea) {
+    for (auto _ : stato) {
+        stato.PauseTiming();
+        const auto finestra = crea();
+        stato.ResumeTiming();
+        mostraEDipingi(*finestra);
+    }
+    stato.counters["limite"] = 2;
+}
+
+void mostraAnteprima(benchmark::State &stato) {
+    primaVolta(stato, anteprimaPiena);
+}
+
+void mostraImmagine(benchmark::State &stato) {
+    installazione();
+    primaVolta(stato, [immagine = QPixmap(sfondoIntero())] { return std::make_unique<SoloImmagine>(immagine); });
+}
+
+// The longest time between two beats of a 5 ms timer while `fino` isn't reached, milliseconds.
+double fermoPiuLungo(const std::function<bool()> &fino) {
+    double massimo = 0;
+    QElapsedTimer dall_ultimo;
+    QTimer battito;
+    battito.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&battito, &QTimer::timeout, &battito, [&] {
+        massimo = std::max(massimo, static_cast<double>(dall_ultimo.nsecsElapsed()) / 1e6);
+        dall_ultimo.restart();
+    });
+    battito.start(5);
+    dall_ultimo.start();
+    while (!fino())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return massimo;
+}
+
+void totemMuto(benchmark::State &stato) {
+    InstallazioneProva &i = installazione();
+    i.esegui(u"UPDATE ConfigurazioneTotem SET PercorsoReteTotem='/lontano/Totem'"_s);
+    for (auto _ : stato) {
+        const auto sistema = std::make_shared<FintoSistema>();
+        sistema->muta = u"/lontano"_s;
+        VarieImpostaTotem form(i.ambiente, nullptr, Percorsi(sistema));
+        form.show();
+        stato.counters["fermo_ms"] = fermoPiuLungo([&] { return !form.isVisible(); });
+        sistema->risveglia();
+        i.dialoghi.prendiBox();
+    }
+}
+
+void formFerma(benchmark::State &stato) {
+    installazione();
+    for (auto _ : stato) {
+        QDialog form;
+        form.show();
+        QElapsedTimer orologio;
+        orologio.start();
+        stato.counters["fermo_ms"] = fermoPiuLungo([&] { return orologio.elapsed() > 2000; });
+    }
+}
+
+double minimo(const std::vector<double> &v) {
+    return *std::min_element(v.begin(), v.end());
+}
+
+void comune(benchmark::internal::Benchmark *b) {
+    b->Unit(benchmark::kMillisecond)->UseRealTime()->Repetitions(5)->ComputeStatistics("min", minimo);
+}
+
+BENCHMARK(apriImpostatotem)->Name("Totem/apertura/nostro")->Apply(comune);
+BENCHMARK(apriSemplice)->Name("Totem/apertura/metro")->Apply(comune);
+BENCHMARK(dipingiAnteprima)->Name("Totem/anteprima/nostro")->Apply(comune);
+BENCHMARK(dipingiImmagine)->Name("Totem/anteprima/metro")->Apply(comune);
+BENCHMARK(mostraAnteprima)->Name("Totem/mostra/nostro")->Apply(comune);
+BENCHMARK(mostraImmagine)->Name("Totem/mostra/metro")->Apply(comune);
+BENCHMARK(totemMuto)->Name("Totem/muto")->Iterations(1)->Apply(comune);
+BENCHMARK(formFerma)->Name("Totem/fermo")->Iterations(1)->Apply(comune);
+
+} // namespace
