@@ -245,6 +245,15 @@ TEST_F(ProvaPlaylistForm, SavedUnderANewNameTheFirstIsShown) {
     EXPECT_EQ(lista(*form).ListCount(), 0);
 }
 
+TEST_F(ProvaPlaylistForm, WhatCannotBeDeletedStays) {
+    scrivi(u"sala.zvi"_s, foto(u"a.jpg"_s).toLatin1() + "\r\n");
+    auto form = apri<ImpostaFoto>();
+    QFile::remove(i.file(u"sala.zvi"_s));
+    QDir(i.cartella()).mkpath(u"sala.zvi/x"_s); // a folder that isn't empty
+    EXPECT_TRUE(premi(*form, "PushButton1").startsWith(u"Il file non è stato eliminato !"_s));
+    EXPECT_EQ(lista(*form).ListCount(), 1);
+}
+
 TEST_F(ProvaPlaylistForm, FilesOfAFileManagerAreAppendedWhenTheyMatch) {
     auto form = apri<ImpostaVideo>();
     QMimeData dati;

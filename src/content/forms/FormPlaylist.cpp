@@ -10,6 +10,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <filesystem>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,11 +19,6 @@ namespace {
 
 constexpr const char *Suggerimento = "Imposta il file ZVI attivo come Predefinito";
 constexpr int MargineDestro = 90; // twips, for a place that reaches beyond the form
-
-bool esisteFile(const Percorsi &percorsi, const QString &percorso) {
-    const Specie specie = percorsi.esamina(percorso).specie;
-    return specie == Specie::File || specie == Specie::Altro;
-}
 
 Posto entro(const Posto &posto, const Misura &interno) {
     return {posto.left, posto.top, std::min(posto.width, interno.width - MargineDestro - posto.left), posto.height};
@@ -33,7 +29,7 @@ Posto entro(const Posto &posto, const Misura &interno) {
 FormPlaylist::FormPlaylist(const Ambiente &ambiente_, const AspettoPlaylist &a, QWidget *padre,
                            const Percorsi &percorsi_)
     : Form(ambiente_, a.nome, a.didascalia, a.interno, padre), m_tipo(*a.tipo), m_percorsi(percorsi_),
-      m_controllo([percorsi_](const QString &percorso) { return esisteFile(percorsi_, percorso); }),
+      m_controllo([percorsi_](const QString &percorso) { return vocePresente(percorsi_, percorso); }),
       Label1_0(this, "Label1(0)", a.attiva, a.Label1_0), Label1_1(this, "Label1(1)", "", entro(a.Label1_1, a.interno)),
       Label1_5(this, "Label1(5)", "Disco / Cartelle", {120, 750, 1185, 255}),
       Drive1(this, "Drive1", {1320, 720, 1935, 315}), Dir1(this, "Dir1", a.Dir1), File1(this, "File1", a.File1),
@@ -206,9 +202,10 @@ void FormPlaylist::predefinisci() {
 void FormPlaylist::eliminaPlaylist() {
     if (File2.ListCount() == 0 || Label1_1.Caption().isEmpty())
         return;
-    QFile file(Label1_1.Caption());
-    if (file.exists() && !file.remove()) {
-        avvisa(u"Il file non è stato eliminato !"_s, file.errorString());
+    std::error_code errore;
+    std::filesystem::remove(QFile::encodeName(Label1_1.Caption()).toStdString(), errore);
+    if (errore) {
+        avvisa(u"Il file non è stato eliminato !"_s, motivoSistema(errore.value()));
         return;
     }
     m_controllo.smetti();
