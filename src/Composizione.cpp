@@ -1,5 +1,9 @@
 #include "Composizione.h"
 
+#include "calling/forms/Boccuccia.h"
+#include "calling/forms/GruppoPostazioni.h"
+#include "calling/forms/PaginaDinDon.h"
+#include "calling/forms/UtentiServizi.h"
 #include "content/forms/Form3.h"
 #include "content/forms/ImpostaFoto.h"
 #include "content/forms/ImpostaVideo.h"
@@ -28,6 +32,15 @@ void mostraSceltaLayout(const Apertura &a) {
 }
 const ApriForm sceltaLayout = mostraSceltaLayout;
 
+// The types of the workstations stand on the page of the server's data, below them.
+std::unique_ptr<Pagina> creaPaginaClient(const Apertura &a) {
+    auto pagina = std::make_unique<PaginaClient>(a);
+    auto postazioni = std::make_unique<GruppoPostazioni>(*pagina);
+    postazioni.release(); // the page's from here on
+    return pagina;
+}
+const ApriPagina paginaClient = creaPaginaClient;
+
 const ApriForm meteo = [](const Apertura &a) {
     Form3(a.ambiente, QStringLiteral(ZUVORA_HOST_METEO), a.padre).mostraModale();
 };
@@ -44,18 +57,17 @@ ApriForm impostaTotem() {
 constexpr bool soloPrincipale = true;
 constexpr bool tutte = false;
 constexpr auto invariato = std::nullopt; // the title stays as it was
-constexpr std::monostate nulla;
 
 } // namespace
 
 std::vector<VoceMenu> vociDelPannello() {
     return {
-        {"PB1(2)", 720, "  Gestione Servizi", invariato, soloPrincipale, nulla},
+        {"PB1(2)", 720, "  Gestione Servizi", invariato, soloPrincipale, form<UtentiServizi>},
         {"PB1(9)", 1080, "  &Risoluzione Video (monitor/TV)", u"Risoluzione Video (Monitor/TV)", tutte,
          pagina<PaginaRisoluzioni>},
-        {"PB1(10)", 1440, "  Impostazione Clie&nt", u"Modalità Client", tutte, pagina<PaginaClient>},
+        {"PB1(10)", 1440, "  Impostazione Clie&nt", u"Modalità Client", tutte, paginaClient},
         {"PB1(7)", 1800, "  Gestione Layout FrontEnd", invariato, tutte, sceltaLayout},
-        {"PushButton1", 2160, "  DinDon", u"Gestione Din Don", tutte, nulla},
+        {"PushButton1", 2160, "  DinDon", u"Gestione Din Don", tutte, pagina<PaginaDinDon>},
         {"Position", 2520, "  Posizione", u"Posizione Schermi", tutte, pagina<PaginaPosizione>},
         {"PB1(5)", 2880, "  &Musica cartella (MP3)", u"Musica -MP3", tutte, pagina<PaginaMusica>},
         {"Command0", 3240, "  Testo Scorrevole", u"Testo Scorrevole", tutte, pagina<PaginaScorrevole>},
@@ -63,7 +75,7 @@ std::vector<VoceMenu> vociDelPannello() {
         {"PB1(3)", 3960, "  Imposta &Video", u"Impostazione Video", tutte, form<ImpostaVideo>},
         {"PushButton2", 4320, "  Decorazioni", u"Gestione Decorazioni", tutte, form<Elementi>},
         {"Command1", 4680, "  Imposta Meteo", u"Impostazione Meteo", tutte, meteo},
-        {"PB1(1)", 5040, "  Modulo Vocale (TTS)", u"Modulo Vocale", tutte, nulla},
+        {"PB1(1)", 5040, "  Modulo Vocale (TTS)", u"Modulo Vocale", tutte, form<Boccuccia>},
         {"PB1(6)", 5400, "  Gestione &Radio", u"Gestione Radio", tutte, pagina<PaginaRadio>},
         {"PB1(11)", 6120, "  PlayList di &YouTube", u"Playlist YouTube", tutte, playlistYouTube},
         {"PB1(12)", 6480, "  Imposta schermata Totem", invariato, soloPrincipale, impostaTotem()},

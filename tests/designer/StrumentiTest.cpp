@@ -2,7 +2,7 @@
 #include "designer/logic/AnteprimaTG.h"
 #include "designer/logic/Finestra.h"
 
-#include "designer/ArchivioLayout.h"
+#include "kit/ArchivioLayout.h"
 #include "shell/store/EngineError.h"
 
 #include <QRect>
@@ -14,7 +14,6 @@ namespace {
 class Strumenti : public ::testing::Test {
 protected:
     DisplayLayout layout{u"Layout1"_s};
-    FinteImmagini immagini;
 };
 
 // Index, left and top in twips, tool tip, caption.
@@ -53,30 +52,7 @@ TEST_F(Strumenti, EveryButtonStandsInItsPlaceAndSaysWhatItDoes) {
     EXPECT_EQ(piazzati(layout, *bottoneStrumenti(16)), 0);
 }
 
-TEST_F(Strumenti, SingleElementGoesToTheCornerOnlyWhenItIsFree) {
-    LayoutElement &titolo = layout.elemento(TipoElemento::Text9, 0);
-    const LayoutElement prima = titolo;
-    EXPECT_FALSE(piazzaElemento(layout, TipoElemento::Text9, 0));
-    EXPECT_EQ(titolo, prima);
-    titolo.visibile = false;
-    titolo.area = {0, 18000, 321, 123};
-    EXPECT_TRUE(piazzaElemento(layout, TipoElemento::Text9, 0));
-    EXPECT_EQ(titolo.area, (Area{0, 0, 321, 123}));
-    EXPECT_TRUE(titolo.visibile);
-    EXPECT_EQ(titolo.font, prima.font);
-}
-
-TEST_F(Strumenti, PanelsAreTakenFromTheLowestFreeSlotUntilAllEightAreUsed) {
-    EXPECT_EQ(piazzaPannello(layout), 1); // panel 0 is on the canvas from the start
-    layout.elemento(TipoElemento::Pannello1, 0).visibile = false;
-    EXPECT_EQ(piazzaPannello(layout), 0);
-    for (int i = 2; i < numeroPannelli; ++i)
-        EXPECT_EQ(piazzaPannello(layout), i);
-    EXPECT_EQ(layout.elemento(TipoElemento::Pannello1, 7).area, (Area{0, 0, 7005, 6495}));
-    EXPECT_EQ(piazzaPannello(layout), std::nullopt);
-}
-
-TEST_F(Strumenti, NewDecorationHasItsFixedSizeAndTheTwentySixthIsRefused) {
+TEST_F(Strumenti, TheLowestFreeSlotIsTakenUntilAllAreUsed) {
     layout.elemento(TipoElemento::Image1, 1).area = {5, 6, 7, 8};
     for (int i = 1; i <= numeroDecorazioni; ++i)
         EXPECT_EQ(piazzaDecorazione(layout), i);
@@ -84,33 +60,12 @@ TEST_F(Strumenti, NewDecorationHasItsFixedSizeAndTheTwentySixthIsRefused) {
     EXPECT_EQ(piazzaDecorazione(layout), std::nullopt);
     layout.elemento(TipoElemento::Image1, 9).visibile = false;
     EXPECT_EQ(piazzaDecorazione(layout), 9);
-}
-
-TEST_F(Strumenti, ChosenDecorationIsAppliedWholeOrNotAtAll) {
-    immagini.mancanti = {u"/manca.gif"_s};
-    ASSERT_TRUE(applicaDecorazione(layout, 4, u"/c.gif"_s, false, immagini));
-    EXPECT_EQ(layout.PercorsiDecorazione(4), u"/c.gif"_s);
-    EXPECT_EQ(layout.immagineMostrata(layout.elemento(TipoElemento::Image1, 4)), u"/c.gif"_s);
-    EXPECT_EQ(layout.PianiDecorazione(4), u"avanti");
-    EXPECT_EQ(layout.ordine().last(), DisplayLayout::postoDi(TipoElemento::Image1, 4));
-    EXPECT_FALSE(applicaDecorazione(layout, 4, u"/manca.gif"_s, true, immagini));
-    EXPECT_EQ(layout.PercorsiDecorazione(4), u"/c.gif"_s);
-    EXPECT_EQ(layout.immagineMostrata(layout.elemento(TipoElemento::Image1, 4)), u"/c.gif"_s);
-    EXPECT_EQ(layout.PianiDecorazione(4), u"avanti");
-    ASSERT_TRUE(applicaDecorazione(layout, 4, {}, true, immagini));
-    EXPECT_EQ(layout.elemento(TipoElemento::Image1, 4).immagine, QString());
-    EXPECT_EQ(layout.ordine().first(), DisplayLayout::postoDi(TipoElemento::Image1, 4));
-    EXPECT_FALSE(applicaDecorazione(layout, 0, {}, true, immagini));
-}
-
-TEST_F(Strumenti, ChosenBackgroundReachesCanvasAndLabel) {
-    ASSERT_TRUE(applicaSfondo(layout, u"/s.jpg"_s, immagini));
-    immagini.mancanti = {u"/manca.jpg"_s};
-    EXPECT_FALSE(applicaSfondo(layout, u"/manca.jpg"_s, immagini));
-    EXPECT_EQ(layout.Label2(), u"/s.jpg"_s);
-    EXPECT_EQ(layout.tela().immagine, u"/s.jpg"_s);
-    ASSERT_TRUE(applicaSfondo(layout, {}, immagini));
-    EXPECT_EQ(layout.Label2(), QString());
+    EXPECT_EQ(piazzaPannello(layout), 1); // panel 0 is on the canvas from the start
+    layout.elemento(TipoElemento::Pannello1, 0).visibile = false;
+    EXPECT_EQ(piazzaPannello(layout), 0);
+    for (int i = 2; i < numeroPannelli; ++i)
+        EXPECT_EQ(piazzaPannello(layout), i);
+    EXPECT_EQ(piazzaPannello(layout), std::nullopt);
 }
 
 TEST_F(Strumenti, PreviewGrowsInStepsAndNeverShrinksBelowOne) {
@@ -183,6 +138,17 @@ TEST(ValoriIniziali, AreThoseOfTheFormsDefinition) {
     for (const auto &[nome, area] : riquadri)
         EXPECT_EQ(layout[DisplayLayout::postoDi(nome)].area, area) << nome.toStdString();
     EXPECT_EQ(layout.elemento(TipoElemento::Pannello1, 3).coloreSfondo, 12632256);
+}
+
+TEST(NomiParlati, AreThoseThatAUserKnows) {
+    const DisplayLayout layout(u"Layout1"_s);
+    QStringList nomi;
+    for (const int riga : {1, 5, 24, 25, 26, 27, 28, 29, 30, 31, 32, 33, 34, 59, 60, 61, 62, 70})
+        nomi << layout[riga - 1].nomeParlato();
+    EXPECT_EQ(nomi.join(u'|'),
+              u"Numero del pannello 1|Postazione del pannello 2|Servizio del pannello 8|Titolo|Sottotitolo|Data|Ora|"
+              "Riquadro immagini|Riquadro meteo|Riquadro video|Sfondo|Testo scorrevole|Colore dello schermo|"
+              "Decorazione 25|Riquadro TG online|Striscia delle news|Riquadro YouTube|Pannello 8"_s);
 }
 
 TEST(Finestra, TheCanvasHasTheSizeOfItsResolution) {

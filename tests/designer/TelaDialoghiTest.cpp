@@ -12,105 +12,89 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct Pagina {
-    const char *elemento; // right click on it; "" for the toolbox's colour button
-    const char *titolo;
-    int altezza; // pixels
-    QStringList spenti;
-    QStringList classe; // elements that get the style
-};
-
-QStringList elementi(const QString &tipo, std::initializer_list<int> indici) {
-    QStringList esito;
-    for (const int i : indici)
-        esito << u"%1(%2)"_s.arg(tipo).arg(i);
-    return esito;
-}
-
-std::vector<Pagina> pagine() {
-    const QStringList testo{u"Label2(6)"_s, u"Testo999"_s};
-    const QStringList ticker = QStringList{u"CB2"_s, u"RB1(0)"_s, u"RB1(1)"_s, u"RB1(2)"_s, u"Label2(3)"_s} + testo;
-    const QStringList colore =
-        ticker + QStringList{u"PB1(0)"_s, u"CP2"_s, u"Label2(0)"_s, u"Label2(1)"_s, u"Label2(2)"_s};
-    return {
-        {"Text1(9)", "Numeri", 286, testo, elementi(u"Text1"_s, {0, 3, 6, 9, 12, 15, 18, 21})},
-        {"Text1(10)", "Postazione", 286, testo, elementi(u"Text1"_s, {1, 4, 7, 10, 13, 16, 19, 22})},
-        {"Text1(11)", "Servizio", 286, testo, elementi(u"Text1"_s, {2, 5, 8, 11, 14, 17, 20, 23})},
-        {"Text9(0)", "Titolo", 329, {}, {u"Text9(0)"_s}},
-        {"Text9(1)", "SottoTitolo", 329, {}, {u"Text9(1)"_s}},
-        {"Text9(2)", "Data", 329, testo, {u"Text9(2)"_s}},
-        {"Text9(3)", "Orario", 329, testo, {u"Text9(3)"_s}},
-        {"Text2", "Testo Scorrevole", 286, ticker, {u"Text2"_s}},
-        {"Pannello1(3)", "Pannello", 286, colore, elementi(u"Pannello1"_s, {0, 1, 2, 3, 4, 5, 6, 7})},
-        {"", "Colore Sfondo Schermata", 286, colore, {u"Form1"_s}},
-    };
-}
-
-QStringList spenti(QWidget &form) {
+QString spenti(QWidget &form) {
     QStringList esito;
     const auto figli = trova<QWidget>(form, "box1").findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     for (const QWidget *w : figli)
         if (!w->isEnabled())
             esito << w->objectName();
     esito.sort();
-    return esito;
+    return esito.join(u' ');
 }
 
-// All on the canvas, nothing over anything else's middle.
-const QStringList tuttiVisibili{
-    u"UPDATE Layout1 SET Visibile=1"_s,
-    u"UPDATE Layout1 SET Visibile=0 WHERE DescCampo LIKE 'Image1%' OR DescCampo IN ('IM1','MP1','WB2','YT','WB1','LeNews')"_s};
-
-class Pagine : public testing::TestWithParam<std::size_t> {};
-
-TEST_P(Pagine, SiRiempieSiLimitaESiApplicaAllaClasse) {
-    const Pagina pagina = pagine()[GetParam()];
-    TelaProva tela(u"Layout1"_s, tuttiVisibili);
-    // One of the eight panels at a time, so that each of its labels can be reached.
-    for (int k = 0; k < numeroPannelli; ++k)
-        tela.layout.elemento(TipoElemento::Pannello1, k).area = {1000, k == 3 ? 9000.0 : 40000.0, 7005, 6495};
-    tela.e("Text9(2)").area = {12000, 9000, 6000, 500};
-    tela.form->show();
-    const DisplayLayout prima = tela.layout;
+// Element to click, heading, height in pixels, what is disabled.
+TEST(Pagine, SiIntestanoSiLimitanoESiApplicano) {
+    const QString testo = u"Label2(6) Testo999"_s;
+    const QString ticker = u"CB2 Label2(3) Label2(6) RB1(0) RB1(1) RB1(2) Testo999"_s;
+    const QString colore = u"CB2 CP2 Label2(0) Label2(1) Label2(2) Label2(3) Label2(6) PB1(0) RB1(0) RB1(1) RB1(2) "
+                           "Testo999"_s;
+    const std::tuple<const char *, QString, int, QString> pagine[] = {
+        {"Text1(9)", u"Numeri"_s, 286, testo},       {"Text1(10)", u"Postazione"_s, 286, testo},
+        {"Text1(11)", u"Servizio"_s, 286, testo},    {"Text9(0)", u"Titolo"_s, 329, {}},
+        {"Text9(1)", u"SottoTitolo"_s, 329, {}},     {"Text9(2)", u"Data"_s, 329, testo},
+        {"Text9(3)", u"Orario"_s, 329, testo},       {"Text2", u"Testo Scorrevole"_s, 286, ticker},
+        {"Pannello1(3)", u"Pannello"_s, 286, colore}};
+    TelaProva tela;
     const QByteArray archivio = tela.installazione.contenuto();
-    tela.installazione.dialoghi.colori = {0x123456};
+    const auto guarda = [&](const QString &titolo, int altezza, const QString &disabilitati) {
+        return [&tela, titolo, altezza, disabilitati](QWidget &form2) {
+            fotografa(form2, u"Form2-"_s + titolo);
+            EXPECT_EQ(trova<Label>(form2, "Label1").Caption(), titolo);
+            EXPECT_EQ(form2.height(), altezza);
+            EXPECT_EQ(spenti(form2), disabilitati);
+            EXPECT_EQ(didascalieTagliate(form2), QStringList());
+            tela.installazione.dialoghi.colori = {0x123456};
+            clicca(form2, "CP1");
+            clicca(form2, "Btn(0)");
+            clicca(form2, "Btn(1)");
+        };
+    };
+    for (const auto &[elemento, titolo, altezza, disabilitati] : pagine) {
+        Guida guida;
+        guida.quando("Form2", guarda(titolo, altezza, disabilitati));
+        QTest::mouseClick(&tela.w(elemento), Qt::RightButton, {}, QPoint(12, 12));
+        EXPECT_TRUE(guida.finita());
+        EXPECT_EQ(tela.e(elemento).coloreSfondo, 0x123456) << elemento;
+    }
     Guida guida;
-    guida.quando("Form2", [&](QWidget &form2) {
-        fotografa(form2, u"Form2-%1"_s.arg(QString::fromLatin1(pagina.titolo)));
-        EXPECT_EQ(trova<Label>(form2, "Label1").Caption(), QString::fromLatin1(pagina.titolo));
-        EXPECT_EQ(form2.height(), pagina.altezza);
-        QStringList attesi = pagina.spenti;
-        attesi.sort();
-        EXPECT_EQ(spenti(form2), attesi);
-        EXPECT_EQ(didascalieTagliate(form2), QStringList());
-        clicca(form2, "CP1");
-        if (trova<QWidget>(form2, "CB2").isEnabled())
-            clicca(form2, "RB1(2)");
-        clicca(form2, "Btn(0)");
-        clicca(form2, "Btn(0)"); // once more changes nothing
-        clicca(form2, "Btn(1)");
-    });
-    if (*pagina.elemento == '\0')
-        clicca(*tela.form, "Btn(7)");
-    else {
-        QWidget &bersaglio = tela.w(pagina.elemento);
-        QTest::mouseClick(&bersaglio, Qt::RightButton, {}, QPoint(12, 12));
-    }
-    EXPECT_TRUE(guida.finita());
-    for (int posto = 0; posto < righeLayout; ++posto) {
-        const LayoutElement &e = tela.layout[posto];
-        const bool sua = pagina.classe.contains(e.nome());
-        EXPECT_EQ(e.coloreSfondo, sua ? 0x123456 : prima[posto].coloreSfondo) << e.nome().toStdString();
-        const bool allineabile = sua && !pagina.spenti.contains(u"RB1(2)"_s);
-        EXPECT_EQ(e.allineamento, allineabile ? Allineamento::Destra : prima[posto].allineamento)
-            << e.nome().toStdString();
-    }
+    guida.quando("Form2", guarda(u"Colore Sfondo Schermata"_s, 286, colore));
+    clicca(*tela.form, "Btn(7)");
+    EXPECT_EQ(tela.layout.tela().coloreSfondo, 0x123456);
     EXPECT_EQ(tela.installazione.contenuto(), archivio); // nothing is stored
 }
 
-INSTANTIATE_TEST_SUITE_P(Form2, Pagine, testing::Range<std::size_t>(0, 10));
+TEST(Pagine, MostranoLElementoECioCheSiSceglie) {
+    TelaProva tela;
+    LayoutElement &e = tela.e("Text9(1)");
+    e.font = {u"Arial"_s, 27.75, false, true};
+    e.coloreSfondo = 0x0000FF;
+    e.coloreTesto = 0xFF0000;
+    e.allineamento = Allineamento::Destra;
+    e.trasparente = false;
+    tela.installazione.dialoghi.colori = {0x00FF00, 0x112233};
+    Guida guida;
+    guida.quando("Form2", [](QWidget &form2) {
+        EXPECT_EQ(trova<QLineEdit>(form2, "FE1(0)").text() + trova<QLineEdit>(form2, "FE1(1)").text(), u"Arial27.75"_s);
+        EXPECT_FALSE(trova<QCheckBox>(form2, "CB1(0)").isChecked());
+        EXPECT_TRUE(trova<QCheckBox>(form2, "CB1(1)").isChecked());
+        EXPECT_FALSE(trova<QCheckBox>(form2, "CB2").isChecked());
+        EXPECT_TRUE(trova<QRadioButton>(form2, "RB1(2)").isChecked());
+        EXPECT_EQ(trova<ColorPicker>(form2, "CP1").Colore(), 0x0000FF);
+        EXPECT_EQ(trova<ColorPicker>(form2, "CP2").Colore(), 0xFF0000);
+        clicca(form2, "CP1");
+        clicca(form2, "CP2");
+        EXPECT_EQ(trova<QLineEdit>(form2, "FE1(2)").text(), QString::number(0x00FF00));
+        EXPECT_EQ(trova<QLineEdit>(form2, "FE1(3)").text(), QString::number(0x112233));
+        clicca(form2, "RB1(1)");
+        clicca(form2, "Btn(0)");
+        clicca(form2, "Btn(1)");
+    });
+    QTest::mouseClick(&tela.w("Text9(1)"), Qt::RightButton);
+    EXPECT_EQ(e.coloreTesto, 0x112233);
+    EXPECT_EQ(e.allineamento, Allineamento::Centro);
+}
 
-TEST(Pagine2, IlFontSceltoEIlTestoArrivanoAlTitolo) {
+TEST(Pagine, IlFontSceltoEIlTestoArrivanoAlTitolo) {
     TelaProva tela;
     tela.installazione.dialoghi.font = {FontScelto{u"Arial"_s, 27.75, true, true}};
     Guida guida;
@@ -119,23 +103,15 @@ TEST(Pagine2, IlFontSceltoEIlTestoArrivanoAlTitolo) {
         auto &testo = trova<QLineEdit>(form2, "Testo999");
         testo.setText(QString(60, u'x'));
         EXPECT_EQ(testo.text().size(), 50);
-        clicca(form2, "Btn(0)");
+        testo.setFocus();
+        QTest::keyClick(&testo, Qt::Key_Return); // applies, and the form stays
+        EXPECT_TRUE(trova<Button>(form2, "Btn(0)").conSpunta());
         trova<QLineEdit>(form2, "Testo999").setText(u"non applicato"_s);
         clicca(form2, "Btn(1)");
     });
     QTest::mouseClick(&tela.w("Text9(0)"), Qt::RightButton);
     EXPECT_EQ(tela.e("Text9(0)").font, (Carattere{u"Arial"_s, 27.75, true, true}));
     EXPECT_EQ(tela.e("Text9(0)").didascalia, QString(50, u'x'));
-}
-
-TEST(Pagine2, IlServizioAllineaTuttiAllaSinistraDelCliccato) {
-    TelaProva tela;
-    tela.e("Text1(5)").area.left = 555;
-    Guida guida;
-    guida.premi("Form2", "Btn(0)").premi("Form2", "Btn(1)");
-    QTest::mouseClick(&tela.w("Text1(5)"), Qt::RightButton);
-    EXPECT_EQ(tela.e("Text1(23)").area.left, 555);
-    EXPECT_EQ(tela.rettangolo("Text1(2)").left() - tela.rettangolo("Pannello1(0)").left(), 37);
 }
 
 // Watches a control for the moment in which it is disabled.
@@ -152,11 +128,6 @@ private:
     QWidget &m_w;
 };
 
-struct CasoLampo {
-    const char *elemento;
-    int lampi;
-};
-
 TEST(Lampo, ChiApreUnaFinestraSiSpegneUnMomento) {
     int aperte = 0;
     ApritoriTela apritori;
@@ -167,17 +138,15 @@ TEST(Lampo, ChiApreUnaFinestraSiSpegneUnMomento) {
     TelaProva tela(u"Layout1"_s,
                    {u"UPDATE Layout1 SET Visibile=1, \"left\"=6000, \"top\"=2000 WHERE DescCampo='Image1(5)'"_s},
                    apritori);
-    for (const CasoLampo caso : {CasoLampo{"Text9(1)", 1}, CasoLampo{"Pannello1(1)", 0}, CasoLampo{"Image1(5)", 1},
-                                 CasoLampo{"WB1", 1}, CasoLampo{"MP1", 0}}) {
+    for (const auto &[elemento, lampi] :
+         {std::pair("Text9(1)", 1), {"Pannello1(1)", 0}, {"Image1(5)", 1}, {"WB1", 1}, {"MP1", 0}}) {
         Guida guida;
-        const bool form2 = std::string_view(caso.elemento).find("1(1)") != std::string_view::npos ||
-                           std::string_view(caso.elemento) == "Text9(1)";
-        if (form2)
+        if (elemento[0] == 'T' || elemento[0] == 'P')
             guida.premi("Form2", "Btn(1)");
-        Spia spia(tela.w(caso.elemento));
-        QTest::mouseClick(&tela.w(caso.elemento), Qt::RightButton, {}, QPoint(4, 4));
-        EXPECT_EQ(spia.lampi, caso.lampi) << caso.elemento;
-        EXPECT_TRUE(tela.w(caso.elemento).isEnabled());
+        Spia spia(tela.w(elemento));
+        QTest::mouseClick(&tela.w(elemento), Qt::RightButton, {}, QPoint(4, 4));
+        EXPECT_EQ(spia.lampi, lampi) << elemento;
+        EXPECT_TRUE(tela.w(elemento).isEnabled());
     }
     EXPECT_EQ(aperte, 5);
 }
@@ -324,6 +293,8 @@ TEST(Segni, IBottoniDiconoCheCosaSullaTelaCeGia) {
         return b.accessibleDescription();
     };
     EXPECT_EQ(segno("Btn(12)") + segno("Btn(1)"), QString());
+    EXPECT_EQ(tela.w("Btn(12)").toolTip(), u" Meteo "_s);
+    EXPECT_EQ(tela.w("Btn(12)").geometry(), QRect(120, 176, 49, 39));
     clicca(*tela.form, "Btn(12)");
     clicca(*tela.form, "Btn(1)");
     clicca(*tela.form, "Btn(1)");

@@ -2,10 +2,12 @@
 
 #include "kit/Fratello.h"
 #include "shell/host/Stile.h"
+#include "shell/store/NomiFile.h"
 
 #include <QApplication>
 #include <QDirIterator>
 #include <QFile>
+#include <filesystem>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -20,7 +22,14 @@ void copiaCartella(const QString &da, const QString &in) {
         if (relativo.startsWith(u"zuvora"_s) || relativo.endsWith(u".so"_s))
             continue;
         QDir(in).mkpath(QFileInfo(relativo).path());
-        QFile::copy(file.filePath(), QDir(in).filePath(relativo));
+        std::error_code errore;
+        if (!relativo.startsWith(nomi::decorazioni) && !relativo.startsWith(nomi::sfondi))
+            errore = std::make_error_code(std::errc::operation_not_supported);
+        else // pictures are never written again: another name of the same file will do
+            std::filesystem::create_hard_link(file.fileInfo().filesystemFilePath(),
+                                              QFileInfo(QDir(in).filePath(relativo)).filesystemFilePath(), errore);
+        if (errore)
+            QFile::copy(file.filePath(), QDir(in).filePath(relativo));
     }
 }
 

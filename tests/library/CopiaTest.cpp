@@ -1,6 +1,6 @@
 #include "library/logic/CopiaLogica.h"
 
-#include "designer/ArchivioLayout.h"
+#include "kit/ArchivioLayout.h"
 
 namespace zuvora::prova {
 

@@ -1,6 +1,6 @@
 #include "library/logic/SceltaLogica.h"
 
-#include "designer/ArchivioLayout.h"
+#include "kit/ArchivioLayout.h"
 
 namespace zuvora::prova {
 

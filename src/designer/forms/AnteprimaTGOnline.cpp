@@ -43,6 +43,7 @@ AnteprimaTGOnline::AnteprimaTGOnline(const Ambiente &contesto, const Dimensione 
     alClic(Chiudi, [this] { scarica(); });
     for (Button *bottone : {&Allarga, &Stringi, &Alza, &Abbassa})
         bottone->setAutoRepeat(true);
+    Accetta.setRuolo(Ruolo::Principale);
     disponi();
     WB22.vai(indirizzo);
 }
@@ -89,7 +90,7 @@ void AnteprimaTGOnline::mostraMisura() {
 void AnteprimaTGOnline::accetta() {
     if (const auto misura = AnteprimaTG::leggi(A1.text(), A2.text())) {
         m_accettata(*misura);
-        return;
+        return Accetta.spunta();
     }
     const Messaggio rifiuto = AnteprimaTG::rifiuto();
     avvisa(rifiuto.riga0, rifiuto.riga1);

@@ -7,10 +7,10 @@
 #include "designer/forms/Palpito.h"
 #include "designer/forms/Scena.h"
 #include "designer/logic/Finestra.h"
-#include "designer/logic/Messaggio.h"
 #include "designer/logic/Selezione.h"
 #include "designer/logic/Trascinamento.h"
 #include "shell/host/Form.h"
+#include "shell/logic/Messaggio.h"
 
 #include <QMenu>
 

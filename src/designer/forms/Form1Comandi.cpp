@@ -22,7 +22,7 @@ void Form1::apriDecorazione(int indice) {
         return mostra({u"L'immagine scelta per la decorazione"_s, u"non si trova o non è leggibile."_s});
     m_scena.immagini().dimentica(scelta->percorso);
     const int posto = DisplayLayout::postoDi(TipoElemento::Image1, indice);
-    m_elementi.impila(posto, picHandle.front());
+    m_elementi.impila(posto, picHandle.front()->presa());
     aggiorna(posto);
 }
 

@@ -12,7 +12,8 @@ namespace zuvora {
 namespace {
 
 constexpr int scattoRotella = 120; // of the wheel's own units
-constexpr int passoRotella = 90;   // pixels a notch
+constexpr int bottoneSalvaPosizione = 15;
+constexpr int passoRotella = 90; // pixels a notch
 
 QList<QRect> schermi(const Piattaforma &piattaforma) {
     QList<QRect> posti;
@@ -69,6 +70,7 @@ void Form1::VaiSecondoSchermo() {
 
 void Form1::SalvaPosizioneFinestra() {
     zuvora::SalvaPosizioneFinestra(cartella(), {double(twipsDa(x())), double(twipsDa(y()))});
+    SSPanel1.Btn(bottoneSalvaPosizione).spunta();
 }
 
 } // namespace zuvora

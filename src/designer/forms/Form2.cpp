@@ -1,7 +1,7 @@
 #include "designer/forms/Form2.h"
 
-#include "shell/logic/Numeri.h"
 #include "shell/host/Dialoghi.h"
+#include "shell/logic/Numeri.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -11,7 +11,6 @@ namespace {
 constexpr Misura interno{5925, 4290};
 constexpr int barraTitolo = 480; // twips of frame and title bar in the pages' heights
 constexpr int massimoTesto = 50; // characters
-constexpr int senzaRadio = -1;
 
 constexpr std::array postiFE1{Posto{600, 240, 3495, 285}, Posto{4080, 240, 735, 285}, Posto{1320, 1440, 2175, 285},
                               Posto{1320, 1800, 2175, 285}};
@@ -52,6 +51,7 @@ Form2::Form2(const Ambiente &contesto, DisplayLayout &layout, int posto, std::fu
     alClic(PB1_0, [this] { scegliFont(); });
     quando(CP1, &ColorPicker::scelto, [this] { FE1(2).setText(QString::number(CP1.Colore())); });
     quando(CP2, &ColorPicker::scelto, [this] { FE1(3).setText(QString::number(CP2.Colore())); });
+    Btn(0).setRuolo(Ruolo::Principale);
     alClic(Btn(0), [this] { applica(); });
     alClic(Btn(1), [this] { scarica(); });
 }
@@ -76,8 +76,7 @@ void Form2::riempi(const CampiForm2 &campi) {
     CB1(0).setChecked(campi.grassetto);
     CB1(1).setChecked(campi.corsivo);
     CB2.setChecked(campi.trasparente);
-    if (campi.RB1 != senzaRadio)
-        RB1(campi.RB1).setChecked(true);
+    allineamento.setScelto(campi.RB1);
     Testo999.setText(campi.Testo999);
     Label4.setCaption(testoNumero(campi.Label4));
 }
@@ -89,10 +88,7 @@ CampiForm2 Form2::campi() const {
     campi.grassetto = CB1(0).isChecked();
     campi.corsivo = CB1(1).isChecked();
     campi.trasparente = CB2.isChecked();
-    campi.RB1 = senzaRadio;
-    for (const auto &[i, bottone] : RB1)
-        if (bottone->isChecked())
-            campi.RB1 = i;
+    campi.RB1 = allineamento.scelto();
     campi.Testo999 = Testo999.text();
     campi.Label4 = singoloDi(Label4.Caption()).value_or(0);
     return campi;
@@ -114,8 +110,10 @@ void Form2::scegliFont() {
 }
 
 void Form2::applica() {
-    if (applicaClasse(m_layout, m_classe, campi()))
-        m_applicata();
+    if (!applicaClasse(m_layout, m_classe, campi()))
+        return;
+    m_applicata();
+    Btn(0).spunta();
 }
 
 } // namespace zuvora

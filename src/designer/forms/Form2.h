@@ -49,6 +49,7 @@ private:
                              {{0, "A Sinistra", {1320, 2160, 1095, 255}},
                               {1, "Centrato", {2520, 2160, 975, 255}},
                               {2, "A Destra", {3600, 2160, 1335, 255}}}};
+    GruppoRadio allineamento{RB1};
     Edit Testo999{&box1, "Testo999", {1320, 2520, 4095, 255}};
     Label Label4{this, "Label4", "", {120, 3825, 975, 255}}; // never shown
     Schiera<Button> Btn{

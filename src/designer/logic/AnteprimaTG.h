@@ -1,7 +1,7 @@
 #pragma once
 
 #include "designer/logic/LayoutElement.h"
-#include "designer/logic/Messaggio.h"
+#include "shell/logic/Messaggio.h"
 
 #include <QString>
 #include <optional>

@@ -17,9 +17,9 @@ ImmaginiQt::ImmaginiQt(QSize massimo, int fili) : m_massimo(massimo), m_decodifi
 // Called by helper threads too.
 ImmaginiQt::Voce ImmaginiQt::decodifica(const QString &percorso, QSize massimo) {
     const QFileInfo file(percorso);
-    if (percorso.isEmpty() || !file.isFile())
-        return {};
-    return {leggiImmagine(percorso, massimo), file.lastModified(), file.size()};
+    const qint64 byte = file.size(); // asked first: a file that changes meanwhile is read again
+    const QDateTime modifica = file.lastModified();
+    return {leggiImmagine(percorso, massimo), modifica, byte};
 }
 
 // True when the picture kept is that of the file as it is now.

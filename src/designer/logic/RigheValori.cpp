@@ -1,5 +1,5 @@
-#include "shell/logic/Numeri.h"
 #include "designer/logic/Righe.h"
+#include "shell/logic/Numeri.h"
 
 #include <cmath>
 

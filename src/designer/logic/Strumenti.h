@@ -2,8 +2,8 @@
 
 #include "designer/logic/DisplayLayout.h"
 #include "designer/logic/ImmaginiQt.h"
-#include "designer/logic/Messaggio.h"
 #include "shell/disegni/Disegni.h"
+#include "shell/logic/Messaggio.h"
 
 #include <optional>
 #include <span>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "designer/logic/Messaggio.h"
+#include "shell/logic/Messaggio.h"
 #include "designer/logic/ScritturaLayout.h"
 
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "designer/logic/DisplayLayout.h"
-#include "designer/logic/Messaggio.h"
+#include "shell/logic/Messaggio.h"
 #include "shell/store/Recordset.h"
 
 #include <array>

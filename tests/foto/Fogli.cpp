@@ -1,19 +1,18 @@
-// A sheet of all drawings to look at: ZUVORA_CAMPIONARIO names the folder that receives the pictures.
+#include "foto/Fogli.h"
+
 #include "shell/disegni/Disegni.h"
 #include "shell/disegni/Tavolozza.h"
+#include "shell/store/NomiFile.h"
 
-#include <QDir>
+#include <QImageReader>
 #include <QPainter>
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <array>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace zuvora {
+namespace zuvora::foto {
 namespace {
 
 constexpr QSize pulsante{49, 39};
@@ -37,7 +36,7 @@ void foglioStrumenti(const QDir &cartella, qreal dpr) {
         icona(d).paint(&p, {x + 110, y, 48, 48});
         icona(d).paint(&p, {x + 180, y, 96, 96});
     }
-    EXPECT_TRUE(foglio.save(cartella.filePath(u"strumenti@%1.png"_s.arg(dpr))));
+    foglio.save(cartella.filePath(u"strumenti@%1.png"_s.arg(dpr)));
 }
 
 void foglioIllustrazioni(const QDir &cartella, qreal dpr) {
@@ -59,7 +58,7 @@ void foglioIllustrazioni(const QDir &cartella, qreal dpr) {
     for (const int lato : {16, 24, 32, 48, 128}) {
         icona(Disegno::Zuvora).paint(&p, {10 + lato * 3, 520, lato, lato});
     }
-    EXPECT_TRUE(foglio.save(cartella.filePath(u"illustrazioni@%1.png"_s.arg(dpr))));
+    foglio.save(cartella.filePath(u"illustrazioni@%1.png"_s.arg(dpr)));
 }
 
 void foglioSegnaposto(const QDir &cartella) {
@@ -74,15 +73,31 @@ void foglioSegnaposto(const QDir &cartella) {
                              QRect{760, 850, 200, 20}, QRect{970, 850, 8, 8},    QRect{990, 850, 400, 140}};
     for (size_t i = 0; i < piccoli.size(); ++i)
         dipingiSegnaposto(p, static_cast<Segnaposto>(i), piccoli[i]);
-    EXPECT_TRUE(foglio.save(cartella.filePath(u"segnaposto.png"_s)));
+    foglio.save(cartella.filePath(u"segnaposto.png"_s));
 }
 
-TEST(Campionario, ScriveIFogliQuandoRichiesto) {
-    const QString percorso = qEnvironmentVariable("ZUVORA_CAMPIONARIO");
-    if (percorso.isEmpty())
-        GTEST_SKIP();
-    const QDir cartella{percorso};
-    ASSERT_TRUE(cartella.mkpath(u"."_s));
+void foglioCatalogo(const QString &immagini, const QString &foglioDa) {
+    constexpr QSize cella{150, 120};
+    constexpr int colonne = 12;
+    const QStringList file = QDir(immagini).entryList(QDir::Files, QDir::Name);
+    const int righe = (static_cast<int>(file.size()) + colonne - 1) / colonne;
+    QImage foglio{colonne * cella.width(), std::max(1, righe) * cella.height(), QImage::Format_RGB32};
+    foglio.fill(tavolozza::velo);
+    QPainter p{&foglio};
+    for (int i = 0; i < file.size(); ++i) {
+        QImageReader lettore(immagini + u'/' + file.at(i));
+        const QRect posto{QPoint{(i % colonne) * cella.width(), (i / colonne) * cella.height()}, cella};
+        const QImage immagine =
+            lettore.read().scaled(cella - QSize{10, 26}, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        p.drawImage(posto.topLeft() + QPoint{5, 5}, immagine);
+        p.drawText(posto.adjusted(2, 0, -2, -2), Qt::AlignBottom | Qt::AlignLeft, file.at(i));
+    }
+    foglio.save(foglioDa);
+}
+
+} // namespace
+
+void disegnaFogli(const QDir &cartella) {
     for (const qreal dpr : {1.0, 2.0}) {
         foglioStrumenti(cartella, dpr);
         foglioIllustrazioni(cartella, dpr);
@@ -90,5 +105,11 @@ TEST(Campionario, ScriveIFogliQuandoRichiesto) {
     foglioSegnaposto(cartella);
 }
 
-} // namespace
-} // namespace zuvora
+void disegnaCatalogo(const QString &installazione, const QDir &cartella) {
+    for (const QStringView immagini : {nomi::cornici, nomi::banner, nomi::elementi, nomi::sfondi}) {
+        const QString da = installazione + u'/' + immagini.toString();
+        foglioCatalogo(da, cartella.filePath(u"catalogo-%1.png"_s.arg(QFileInfo(da).fileName())));
+    }
+}
+
+} // namespace zuvora::foto

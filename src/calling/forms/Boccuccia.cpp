@@ -1,0 +1,174 @@
+#include "calling/forms/Boccuccia.h"
+
+#include "calling/logic/Frase.h"
+#include "shell/host/ComponenteVoce.h"
+#include "shell/host/Piattaforma.h"
+#include "shell/logic/FileAtomico.h"
+
+#include <QApplication>
+#include <QTextCursor>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zuvora {
+namespace {
+
+constexpr int Larghezza = 9360; // twips
+constexpr int AltezzaChiusa = 4305;
+constexpr int AltezzaAperta = 7575;
+constexpr qint64 MassimoFrase = 1024 * 1024; // bytes
+constexpr qint64 MassimoGuida = 4 * 1024 * 1024;
+constexpr QStringView NomeFileGuida = u"th19.rtf";
+constexpr QStringView Apri = u"Apri Info";
+constexpr QStringView Chiudi = u"Chiudi Info";
+
+int acceso(bool si) {
+    return si ? 1 : 0;
+}
+
+QString testoStato(const Voce &voce) {
+    switch (voce.stato()) {
+    case StatoVoce::Prepara:
+        return u"La lettura comincia…"_s;
+    case StatoVoce::Parla:
+        return u"Lettura in corso…"_s;
+    case StatoVoce::Finito:
+        return u"Lettura finita."_s;
+    case StatoVoce::Guasto:
+        return u"Lettura non riuscita: "_s + voce.motivo();
+    case StatoVoce::Tace:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+Boccuccia::Boccuccia(const Ambiente &ambiente_, QWidget *padre)
+    : Form(ambiente_, "Boccuccia", "Modulo Vocale (Text-to-Speech)", {Larghezza, AltezzaChiusa}, padre) {
+    disponi();
+    quando(m_sorgente, &GruppoRadio::cambiato, [this](int) { mostraVoci(); });
+    alClic(PB1, [this](int i) { inserisci(i); });
+    alClic(PushButton1, [this] { prova(); });
+    alClic(ctButton2(1), [this] { salva(); });
+    alClic(ctButton2(2), [this] { cambiaGuida(); });
+    alClic(ctButton2(0), [this] { scarica(); });
+    leggi();
+    leggiGuida();
+    Frase.setFocus();
+}
+
+void Boccuccia::disponi() {
+    ctButton2(1).setRuolo(Ruolo::Principale);
+    RT2.setAccessibleName(u"Informazioni sulle variabili della frase"_s);
+    for (const auto &[i, bottone] : PB1)
+        bottone->setToolTip(u"Inserisce %1 nella frase"_s.arg(Variabili.at(std::size_t(i)).segno));
+    for (const auto &[i, etichetta] : Label2)
+        etichetta->setAllineamento(Qt::AlignHCenter);
+    Testo.hide();
+    FE1.hide();
+    GroupBox4.hide(); // closed, it takes no focus
+}
+
+void Boccuccia::leggi() {
+    const QString percorso = m_percorsi.unisci(cartella(), NomeFileFrase);
+    const FileLetto file = leggiFile(percorso, MassimoFrase);
+    if (!file.motivo.isEmpty() && m_percorsi.esamina(percorso).specie != Specie::Manca)
+        m_avviso = file.motivo;
+    const FraseTTS letta = interpretaFrase(file.contenuto);
+    Frase.setText(letta.frase);
+    Check1.setChecked(letta.usa == 1);
+    m_timbro.setScelto(letta.femminile ? 1 - *letta.femminile : -1);
+    m_sorgente.setScelto(letta.sistema.value_or(-1));
+    mostraVoci();
+}
+
+void Boccuccia::leggiGuida() {
+    const FileLetto file = leggiFile(m_percorsi.unisci(cartella(), NomeFileGuida), MassimoGuida);
+    if (file.motivo.isEmpty())
+        RT2.mostra(leggiRtf(file.contenuto));
+    else
+        RT2.mostraAvviso(u"Le informazioni non si possono mostrare. "_s + file.motivo);
+}
+
+void Boccuccia::attivata() {
+    if (const QString avviso = std::exchange(m_avviso, {}); !avviso.isEmpty())
+        avvisa(u"La frase salvata non si può leggere !"_s, avviso);
+}
+
+void Boccuccia::inserisci(int variabile) {
+    QTextCursor cursore = Frase.textCursor();
+    cursore.insertText(testoVariabile(variabile, cursore.hasSelection()));
+    Frase.setTextCursor(cursore);
+    Frase.setFocus();
+}
+
+void Boccuccia::salva() {
+    const FraseTTS frase{Frase.text(), acceso(Check1.isChecked()), acceso(RB1(0).isChecked()),
+                         acceso(!VociPS(0).isChecked())};
+    QString motivo = motivoNonSalvabile(frase.frase);
+    if (const auto record = componiFrase(frase); motivo.isEmpty() && record)
+        motivo = scriviFile(m_percorsi.unisci(cartella(), NomeFileFrase), *record);
+    if (motivo.isEmpty())
+        ctButton2(1).spunta();
+    else
+        avvisa(u"Frase non salvata !"_s, motivo);
+}
+
+void Boccuccia::EspandiFrase() {
+    Testo.setText({});
+    FE1.setText({});
+    Testo.setText(Frase.text());
+    Testo.setText(zuvora::EspandiFrase(Testo.text(),
+                                       [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }));
+}
+
+void Boccuccia::prova() {
+    EspandiFrase();
+    FE1.setText(Testo.text());
+    m_voce.reset();
+    VoceSistema.reset();
+    if (VociPS(0).isChecked()) {
+        parlaProgramma();
+    } else if (VociPS(1).isChecked()) {
+        VoceSistema = creaVoceSistema();
+        VoceSistema->setAlCambio([this] { mostraStato(*VoceSistema); });
+        VoceSistema->parla(FE1.text(), std::nullopt);
+    } else {
+        Stato.setCaption(u"Scegliere prima una voce."_s);
+    }
+}
+
+void Boccuccia::parlaProgramma() {
+    EsitoComponenteVoce esito = creaVoce(ambiente().piattaforma.cartellaEseguibile());
+    if (esito.voce == nullptr) {
+        Stato.setCaption(u"Lettura non riuscita: "_s + esito.motivo);
+        return;
+    }
+    std::optional<Timbro> timbro;
+    if (m_timbro.scelto() >= 0)
+        timbro = m_timbro.scelto() == 0 ? Timbro::Femminile : Timbro::Maschile;
+    m_voce = std::move(esito.voce);
+    m_voce->setAlCambio([this] { mostraStato(*m_voce); });
+    m_voce->parla(FE1.text(), timbro);
+}
+
+void Boccuccia::mostraStato(const Voce &voce) {
+    Stato.setCaption(testoStato(voce));
+}
+
+// The system's voice has no choice of sex here; what was chosen stays.
+void Boccuccia::mostraVoci() {
+    for (const auto &[i, bottone] : RB1)
+        bottone->setEnabled(m_sorgente.scelto() != 1);
+}
+
+void Boccuccia::cambiaGuida() {
+    const bool apre = ctButton2(2).Caption() == Apri;
+    setMisuraInterna({Larghezza, apre ? AltezzaAperta : AltezzaChiusa});
+    GroupBox4.setVisible(apre);
+    ctButton2(2).setCaption((apre ? Chiudi : Apri).toString());
+}
+
+} // namespace zuvora
