@@ -47,10 +47,7 @@ void copiaFile(const QString &origine, const QString &destinazione) {
 }
 
 void prepara(const QString &destinazione, const QString &cartella, const OpzioniCrea &opzioni) {
-    const QString origine = opzioni.origine.isEmpty() ? QCoreApplication::applicationDirPath() : opzioni.origine;
-    if (opzioni.conProgramma)
-        copiaProgramma(origine, destinazione);
-    copiaFile(origine, destinazione);
+    preparaCorredo(destinazione, opzioni);
     if (opzioni.esempio)
         scriviEsempio(destinazione, cartella);
     const QString notizie =
@@ -68,6 +65,13 @@ void crea(const QString &cartella, const OpzioniCrea &opzioni) {
     cantiere.pubblica();
 }
 } // namespace
+
+void preparaCorredo(const QString &destinazione, const OpzioniCrea &opzioni) {
+    const QString origine = opzioni.origine.isEmpty() ? QCoreApplication::applicationDirPath() : opzioni.origine;
+    if (opzioni.conProgramma)
+        copiaProgramma(origine, destinazione);
+    copiaFile(origine, destinazione);
+}
 
 Esito creaInstallazione(const OpzioniCrea &opzioni) {
     if (opzioni.cartella.isEmpty())

@@ -22,4 +22,8 @@ struct Esito {
 // folder, and whether it exists, is as it was. Refused: a folder that isn't new or empty. Never throws.
 Esito creaInstallazione(const OpzioniCrea &opzioni);
 
+// Puts what every installation has besides its databases into `destinazione`: the program unless the options say
+// otherwise, pictures, sounds and texts. Throws Guasto.
+void preparaCorredo(const QString &destinazione, const OpzioniCrea &opzioni);
+
 } // namespace zuvora::installa

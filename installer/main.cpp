@@ -1,8 +1,12 @@
 #include "installer/Crea.h"
 #include "installer/Interruzione.h"
 #include "installer/Verifica.h"
+#include "installer/importa/FonteAccess.h"
+#include "installer/importa/Importa.h"
+#include "installer/importa/LettoreAccess.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QHash>
 #include <array>
 #include <csignal>
@@ -21,6 +25,9 @@ const auto istruzioni =
     "  crea [--esempio] [--notizie URL] CARTELLA\n"
     "                      crea un'installazione completa nella cartella, nuova o vuota; --esempio aggiunge\n"
     "                      contenuti di esempio, --notizie sceglie la pagina delle notizie\n"
+    "  importa VECCHIO.mdb [--totem VECCHIO_TOTEM.mdb] [--cartella VECCHIA] CARTELLA\n"
+    "                      crea un'installazione dai database di una vecchia, in formato Access 97 o 2000-2003;\n"
+    "                      --cartella prende dalla vecchia cartella immagini, playlist, suoni e frase\n"
     "  verifica CARTELLA   controlla un'installazione senza modificarla: una riga per ogni difetto; le note\n"
     "                      non sono difetti\n"
     "  --help              mostra queste istruzioni\n"
@@ -55,6 +62,26 @@ int crea(const Richiesta &richiesta) {
     opzioni.esempio = richiesta.opzioni.contains(u"--esempio"_s);
     opzioni.notizie = richiesta.opzioni.value(u"--notizie"_s);
     return riferisci(creaInstallazione(opzioni));
+}
+
+int importa(const Richiesta &richiesta) {
+    ascoltaInterruzioni();
+    OpzioniImporta opzioni;
+    opzioni.archivio = richiesta.argomenti.at(0);
+    opzioni.crea.cartella = richiesta.argomenti.at(1);
+    opzioni.totem = richiesta.opzioni.value(u"--totem"_s);
+    opzioni.vecchia = richiesta.opzioni.value(u"--cartella"_s);
+    return riferisci(importaInstallazione(opzioni, [](const QString &riga) {
+        scrivi(stdout, riga + u'\n');
+        std::fflush(stdout);
+    }));
+}
+
+int leggiPerAltri(const QString &file) {
+    QFile uscita;
+    if (!uscita.open(stdout, QIODevice::WriteOnly))
+        return NonRiuscito;
+    return leggiAccess(file, uscita);
 }
 
 int verifica(const Richiesta &richiesta) {
@@ -108,12 +135,17 @@ int main(int argc, char **argv) {
     const QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationVersion(QStringLiteral(ZUVORA_VERSIONE));
 
-    const std::array comandi{Comando{"crea"_L1, {u"--esempio"_s}, {u"--notizie"_s}, {u"la cartella"_s}, crea},
-                             Comando{"verifica"_L1, {}, {}, {u"la cartella"_s}, verifica}};
+    const std::array comandi{
+        Comando{"crea"_L1, {u"--esempio"_s}, {u"--notizie"_s}, {u"la cartella"_s}, crea},
+        Comando{
+            "importa"_L1, {}, {u"--totem"_s, u"--cartella"_s}, {u"il vecchio database"_s, u"la cartella"_s}, importa},
+        Comando{"verifica"_L1, {}, {}, {u"la cartella"_s}, verifica}};
     QStringList argomenti = QCoreApplication::arguments().mid(1);
     if (argomenti.isEmpty())
         return usoErrato(u"Manca il comando."_s);
     const QString nome = argomenti.takeFirst();
+    if (nome == parolaLettore && argomenti.size() == 1)
+        return leggiPerAltri(argomenti.first());
     if (nome == u"--help"_s || nome == u"-h"_s) {
         scrivi(stdout, istruzioni);
         return InOrdine;

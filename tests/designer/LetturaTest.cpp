@@ -1,6 +1,8 @@
 #include "designer/logic/LetturaLayout.h"
 #include "designer/logic/ScritturaLayout.h"
+#include "shell/logic/Percorsi.h"
 #include "shell/store/EngineError.h"
+#include "shell/store/NomiFile.h"
 
 #include "kit/ArchivioLayout.h"
 
@@ -102,7 +104,7 @@ TEST_F(Lettura, AShortTableLeavesTheOtherElementsAndSavesOnlyItsRows) {
     EXPECT_EQ(layout.elemento(TipoElemento::Image1, 6).area.top, 15);
     EXPECT_EQ(layout.elemento(TipoElemento::Pannello1, 0).area, (Area{1000, 1000, 7005, 6495}));
     const LayoutElement &libera = layout.elemento(TipoElemento::Image1, 9); // no row: still the frame
-    EXPECT_EQ(layout.immagineMostrata(libera), percorsoIn(cartella(), u"ZuvoraDecorazioni/Cornici/stondata.gif"));
+    EXPECT_EQ(layout.immagineMostrata(libera), percorsoIn(cartella(), nomi::corniceLibera));
     const EsitoScrittura salvata = SalvaLayout(layout, cartella());
     EXPECT_TRUE(salvata.riuscito());
     EXPECT_EQ(salvata.scritte, 40);
@@ -129,7 +131,7 @@ TEST_F(Lettura, BackgroundThatCannotBeLoadedDoesNotReachTheLabel) {
 
 TEST_F(Lettura, TheBaseShowsItsOwnBackgroundWhateverTheRowSays) {
     prepara(u"LayoutBase"_s);
-    const QString base = percorsoIn(cartella(), u"ZuvoraSfondiHD/FH_grigio_8post_.jpg");
+    const QString base = percorsoIn(cartella(), nomi::sfondoBase);
     cambia(32, u"PercorsoImmagine"_s, u"'/altro.jpg'"_s);
     DisplayLayout layout = leggi();
     EXPECT_EQ(layout.tela().immagine, base);
@@ -165,7 +167,7 @@ TEST_F(Lettura, ADecorationWithoutItsPictureIsMarkedAndKeepsItsPath) {
 
 TEST_F(Lettura, AFreeDecorationShowsTheFrameAndSavesItsOwnPath) {
     prepara(u"Layout1"_s);
-    const QString cornice = percorsoIn(cartella(), u"ZuvoraDecorazioni/Cornici/stondata.gif");
+    const QString cornice = percorsoIn(cartella(), nomi::corniceLibera);
     esegui(u"update Layout1 set Visibile=0, PercorsoImmagine='/sua.gif' where rowid in (35,36); "
            "update Layout1 set PercorsoImmagine=NULL where rowid=36"_s);
     immagini.mancanti = {u"/sua.gif"_s}; // nobody sees it, nobody is told

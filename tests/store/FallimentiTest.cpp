@@ -79,7 +79,7 @@ TEST_F(Fallimenti, UnaPaginaAzzerata) {
     Data d;
     fallisce(3049, [&] { apri(d, u"Configurazione"_s); });
     EXPECT_EQ(apri(d, u"Versione"_s).RecordCount(), 1);
-    EXPECT_FALSE(Database::OpenDatabase(percorso()).verifica().isEmpty());
+    EXPECT_FALSE(Database::OpenDatabase(percorso()).integro());
 }
 
 TEST_F(Fallimenti, FileOCartellaMancanti) {
@@ -231,7 +231,7 @@ TEST_F(Fallimenti, DiscoPieno) {
             });
             EXPECT_TRUE(eNull(apri(d, u"Configurazione"_s)[u"Nominativo"].Value()));
         }
-        EXPECT_TRUE(Database::OpenDatabase(percorso()).verifica().isEmpty());
+        EXPECT_TRUE(Database::OpenDatabase(percorso()).integro());
     }
     modifica(d);
     EXPECT_EQ(d.Recordset()[u"Nominativo"].Value(), Valore(u"nuovo"_s));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/store/NomiFile.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
@@ -18,7 +20,7 @@ struct FraseTTS {
     std::optional<int> sistema;
 };
 
-inline constexpr QStringView NomeFileFrase = u"FraseTTS.txt";
+inline constexpr QStringView NomeFileFrase = nomi::frase;
 
 // Reads whatever there is: a short record, other line ends, no quotes.
 FraseTTS interpretaFrase(QByteArrayView byte);

@@ -34,10 +34,6 @@ int numeroLayoutDi(QStringView tabella) {
     return -1;
 }
 
-QString percorsoIn(const QString &cartella, QStringView relativo) {
-    return QDir::toNativeSeparators(u"%1/%2"_s.arg(cartella, relativo));
-}
-
 DisplayLayout::DisplayLayout(QString nomeTabella) : m_nomeTabella(std::move(nomeTabella)) {
     for (int posto = 0; posto < righeLayout; ++posto) {
         const RigaLayout &riga = righe()[static_cast<std::size_t>(posto)];

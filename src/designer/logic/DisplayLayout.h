@@ -18,8 +18,6 @@ inline constexpr int numeroLayout = 11; // the base and Layout1 to Layout10
 QString tabellaLayout(int numero);
 // The number of a layout table, -1 for any other name. Without regard to case.
 int numeroLayoutDi(QStringView tabella);
-// A file of the application folder, as the platform writes paths; `relativo` with slashes, as u"a/b.gif".
-QString percorsoIn(const QString &cartella, QStringView relativo);
 
 // One layout of the call display: its 70 elements in row order, the stacking order and the frame of free
 // decorations. It is the only copy while the designer is open. An element's number ("posto") is its row counted from 0.

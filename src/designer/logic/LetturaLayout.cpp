@@ -1,8 +1,10 @@
 #include "designer/logic/LetturaLayout.h"
 
 #include "designer/logic/Righe.h"
+#include "shell/logic/Percorsi.h"
 #include "shell/store/Data.h"
 #include "shell/store/EngineError.h"
+#include "shell/store/NomiFile.h"
 
 #include <QSet>
 #include <algorithm>
@@ -17,14 +19,12 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int primaRigaConAvvisi = 33;
-constexpr QStringView sfondoBase = u"ZuvoraSfondiHD/FH_grigio_8post_.jpg";
-constexpr QStringView corniceLibera = u"ZuvoraDecorazioni/Cornici/stondata.gif";
 
 class Lettore {
 public:
     Lettore(Recordset &rs, DisplayLayout &layout, CaricatoreImmagini &immagini, const QString &cartella)
         : m_rs(rs), m_layout(layout), m_immagini(immagini), m_cartella(cartella) {
-        m_layout.setCornice(percorsoIn(cartella, corniceLibera));
+        m_layout.setCornice(percorsoIn(cartella, nomi::corniceLibera));
     }
 
     EsitoLettura leggi() {
@@ -101,7 +101,7 @@ private:
             return;
         m_immagini.prepara(testoDi(*m_sfondo, {}));
         if (m_layout.eBase())
-            m_immagini.prepara(percorsoIn(m_cartella, sfondoBase));
+            m_immagini.prepara(percorsoIn(m_cartella, nomi::sfondoBase));
     }
 
     void leggiImmagine(int posto, const QString &percorso) {
@@ -133,7 +133,7 @@ private:
             m_layout.Label2() = percorso;
         if (!m_layout.eBase())
             return;
-        if (const QString base = percorsoIn(m_cartella, sfondoBase); m_immagini.carica(base))
+        if (const QString base = percorsoIn(m_cartella, nomi::sfondoBase); m_immagini.carica(base))
             m_layout.tela().immagine = base;
     }
 
@@ -179,6 +179,7 @@ EsitoLettura leggiLayout(Recordset &rs, DisplayLayout &layout, CaricatoreImmagin
 
 EsitoLettura CaricaLayout(DisplayLayout &layout, CaricatoreImmagini &immagini, const QString &cartella) {
     Data dato;
+    dato.limite = righeLayout;
     return leggiLayout(apri(dato, cartella, layout.NomeTabella()), layout, immagini, cartella);
 }
 

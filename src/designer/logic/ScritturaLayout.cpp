@@ -106,6 +106,7 @@ EsitoScrittura scriviLayout(Recordset &rs, DisplayLayout &layout) {
 EsitoScrittura SalvaLayout(DisplayLayout &layout, const QString &cartella) {
     try {
         Data dato;
+        dato.limite = righeLayout;
         return scriviLayout(apri(dato, cartella, layout.NomeTabella()), layout);
     } catch (const EngineError &errore) {
         EsitoScrittura esito;

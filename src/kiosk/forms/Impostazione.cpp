@@ -65,7 +65,7 @@ Impostazione::Impostazione(const Ambiente &ambiente_, const QString &cartellaTot
 template <class F> void Impostazione::conTotem(F lavoro) {
     const AttesaTotem attesa(m_occupata);
     const std::function<bool()> domanda = [lavoro, percorsi = m_percorsi, cartellaTotem = m_cartellaTotem] {
-        lavoro(fileTotem(percorsi, cartellaTotem, nomeArchivioTotem));
+        lavoro(fileTotem(percorsi, cartellaTotem, nomi::archivioTotem));
         return true;
     };
     alTotem(domanda);

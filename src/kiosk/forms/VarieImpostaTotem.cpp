@@ -70,8 +70,8 @@ void VarieImpostaTotem::ImpostaStampa() {
     {
         const AttesaTotem attesa(m_occupata);
         const std::function<Ticket()> lettura = [percorsi = m_percorsi, cartellaTotem = PRT.text()] {
-            return Ticket{variabiliTicket(fileTotem(percorsi, cartellaTotem, nomeArchivioTotem)),
-                          fileTotem(percorsi, cartellaTotem, nomeTicket)};
+            return Ticket{variabiliTicket(fileTotem(percorsi, cartellaTotem, nomi::archivioTotem)),
+                          fileTotem(percorsi, cartellaTotem, nomi::biglietto)};
         };
         ticket = alTotem(lettura);
     }

@@ -39,7 +39,7 @@ bool totemRaggiungibile(const QString &archivio) {
 
 void provaTotem(const Percorsi &percorsi, const QString &cartellaTotem, QObject &ricevente,
                 std::function<void(bool)> risposta) {
-    const QString scritto = percorsi.unisci(cartellaTotem, nomeArchivioTotem);
+    const QString scritto = percorsi.unisci(cartellaTotem, nomi::archivioTotem);
     percorsi.chiedi(scritto, ricevente,
                     [&ricevente, risposta = std::move(risposta)](const Percorsi::Esame &esame) mutable {
                         if (esame.specie == Specie::Manca)

@@ -2,6 +2,7 @@
 
 #include "shell/logic/Domanda.h"
 #include "shell/store/EngineError.h"
+#include "shell/store/NomiFile.h"
 
 #include <QString>
 #include <variant>
@@ -9,9 +10,6 @@
 namespace zuvora {
 
 class Percorsi;
-
-inline constexpr QStringView nomeArchivioTotem = u"TotemZuvora.mdb";
-inline constexpr QStringView nomeTicket = u"Ticket.lbl";
 
 // The native path of a file in the kiosk's folder, whether it is there or not. Asks the disk, and may block.
 QString fileTotem(const Percorsi &percorsi, const QString &cartellaTotem, QStringView nome);

@@ -17,6 +17,7 @@ EsitoScrittura percorri(const QString &cartella, int sorgente, int destinazione,
     try {
         Data Data1;
         Data Data2;
+        Data1.limite = Data2.limite = righeLayout;
         Recordset &da = apri(Data1, cartella, tabellaLayout(sorgente));
         return percorso(da, apri(Data2, cartella, tabellaLayout(destinazione)));
     } catch (const EngineError &errore) {

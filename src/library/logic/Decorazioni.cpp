@@ -1,6 +1,7 @@
 #include "library/logic/Decorazioni.h"
 
 #include "designer/logic/DisplayLayout.h"
+#include "shell/logic/Percorsi.h"
 
 #include <QDir>
 

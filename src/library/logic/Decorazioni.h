@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/logic/Messaggio.h"
+#include "shell/store/NomiFile.h"
 #include "shell/store/Recordset.h"
 
 #include <QString>
@@ -17,9 +18,9 @@ struct CategoriaDecorazioni {
     QStringView elenco;   // the rows, for the form that manages the catalogue
 };
 inline constexpr std::array<CategoriaDecorazioni, 3> CategorieDecorazioni = {{
-    {1, u"Cornici", u"ZuvoraDecorazioni/Cornici", u"Select * from Decorazioni where [tipo]=1 order by [file]"},
-    {2, u"Banner", u"ZuvoraDecorazioni/Banner", u"Select * from Decorazioni where [tipo]=2 order by [file]"},
-    {3, u"Elementi", u"ZuvoraDecorazioni/Elementi", u"Select * from Decorazioni where [tipo]=3 order by [file]"},
+    {1, u"Cornici", nomi::cornici, u"Select * from Decorazioni where [tipo]=1 order by [file]"},
+    {2, u"Banner", nomi::banner, u"Select * from Decorazioni where [tipo]=2 order by [file]"},
+    {3, u"Elementi", nomi::elementi, u"Select * from Decorazioni where [tipo]=3 order by [file]"},
 }};
 
 // The rows to choose from, by Tipo.

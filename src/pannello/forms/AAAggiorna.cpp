@@ -23,7 +23,7 @@ void AAAggiorna::aggiorna() {
     if (!versioneConosciuta(text1(0).text()))
         return;
     AggiornaArchivio(cartella());
-    scriviVersioneCorrente(Data1, cartella());
+    scriviVersioneCorrente(cartella());
     scarica();
 }
 

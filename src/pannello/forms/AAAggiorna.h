@@ -1,7 +1,6 @@
 #pragma once
 
 #include "shell/host/Form.h"
-#include "shell/store/Data.h"
 
 namespace zuvora {
 
@@ -14,7 +13,6 @@ public:
 private:
     void aggiorna();
 
-    Data Data1;
     Schiera<Label> Label3{this, "Label3", {{0, "Installazione aggiornamenti", {240, 180, 5295, 345}}}};
     Schiera<Label> Label1{
         this,

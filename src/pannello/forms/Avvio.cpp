@@ -12,10 +12,8 @@ namespace zuvora {
 namespace {
 
 int fermati(const Ambiente &ambiente, const EngineError &e) {
-    QString testo = e.frase() + u"\n\nIl programma viene chiuso. Nessun dato è stato modificato."_s;
-    if (!e.dettaglio().isEmpty())
-        testo += u"\n\n(Errore %1: %2)"_s.arg(e.Number()).arg(e.dettaglio());
-    ambiente.dialoghi.messaggio(nullptr, Dialoghi::Icona::Critica, u"ATTENZIONE"_s, testo);
+    ambiente.dialoghi.messaggio(nullptr, Dialoghi::Icona::Critica, u"ATTENZIONE"_s,
+                                testoErrore(e, u"Il programma viene chiuso. Nessun dato è stato modificato."_s));
     return 1;
 }
 

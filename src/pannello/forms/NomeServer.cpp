@@ -7,14 +7,14 @@ namespace zuvora {
 NomeServer::NomeServer(const Ambiente &ambiente_, QWidget *padre, std::function<void(const QString &)> salvato)
     : Form(ambiente_, "NomeServer", "Impostazione Nome del Server", {5055, 2700}, padre),
       m_salvato(std::move(salvato)) {
-    text1_1.setText(leggiNominativo(Data1, cartella()));
+    text1_1.setText(leggiNominativo(cartella()));
     alClic(Btn_1, [this] { salva(); });
     alClic(Btn_0, [this] { scarica(); });
 }
 
 void NomeServer::salva() {
     const QString nominativo = text1_1.text();
-    salvaNominativo(Data1, cartella(), nominativo);
+    salvaNominativo(cartella(), nominativo);
     m_salvato(nominativo);
     scarica();
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "shell/host/Form.h"
-#include "shell/store/Data.h"
 
 #include <optional>
 
@@ -15,7 +14,6 @@ public:
 private:
     void salva();
 
-    Data Data1;
     std::function<void(const QString &)> m_salvato;
     Label Label1{this, "Label1", "Nome Server (relativo al software Zuvora)", {240, 1020, 4455, 255}};
     Edit text1_1{this, "text1(1)", {240, 1320, 4215, 285}};

@@ -31,7 +31,7 @@ void PaginaClient::applicaPrincipale(bool principale) {
 }
 
 void PaginaClient::riempi() {
-    const DatiServer server = leggiDatiServer(Data99, cartella());
+    const DatiServer server = leggiDatiServer(cartella());
     LaPorta.setText(server.porta);
     (server.tipo == TipoChiamata::Automatica ? XZ_0 : XZ_1).setChecked(true);
     const Piattaforma &piattaforma = ambiente().piattaforma;
@@ -49,7 +49,7 @@ void PaginaClient::salva() {
         server.tipo = TipoChiamata::Automatica;
     if (XZ_1.isChecked())
         server.tipo = TipoChiamata::Selettiva;
-    salvaDatiServer(Data99, cartella(), server);
+    salvaDatiServer(cartella(), server);
 }
 
 } // namespace zuvora

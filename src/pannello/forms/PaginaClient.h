@@ -1,7 +1,6 @@
 #pragma once
 
 #include "shell/host/Pagina.h"
-#include "shell/store/Data.h"
 
 namespace zuvora {
 
@@ -16,7 +15,6 @@ private:
     void riempi() override;
     void salva();
 
-    Data Data99;
     GroupBox Gruppo{this, "GroupBox2", "IP Server ", {120, 120, 3855, 615}};
     Edit ipS1{&Gruppo, "ipS1", {60, 240, 1455, 255}};
     Edit LaPorta{&Gruppo, "LaPorta", {1500, 240, 920, 255}};

@@ -22,12 +22,12 @@ PaginaPosizione::PaginaPosizione(const Apertura &apertura) : Pagina(apertura, "B
 }
 
 void PaginaPosizione::riempi() {
-    segna(leggiSchermo(Data99, cartella()));
+    segna(leggiSchermo(cartella()));
 }
 
 void PaginaPosizione::scegli(Schermo schermo) {
     const int larghezza = twipsDa(ambiente().piattaforma.schermo().width());
-    salvaSchermo(Data99, cartella(), schermo, larghezza);
+    salvaSchermo(cartella(), schermo, larghezza);
     segna(schermo);
 }
 

@@ -3,7 +3,6 @@
 #include "pannello/logic/Configurazione.h"
 #include "shell/host/Pagina.h"
 #include "shell/host/PictureBox.h"
-#include "shell/store/Data.h"
 
 namespace zuvora {
 
@@ -17,7 +16,6 @@ private:
     void scegli(Schermo schermo);
     void segna(Schermo schermo);
 
-    Data Data99;
     PictureBox Image5{this, "Image5", {60, 840, 5040, 2250}, Disegno::DueSchermi};
     Label Label1_4{this, "Label1(4)", "1", {1020, 1470, 375, 420}};
     Label Label1_3{this, "Label1(3)", "2", {3780, 1470, 375, 420}};

@@ -34,7 +34,7 @@ PaginaRisoluzioni::PaginaRisoluzioni(const Apertura &apertura)
 
 void PaginaRisoluzioni::scegli(int indice) {
     try {
-        salvaRisoluzione(Data1, cartella(), indice + 1);
+        salvaRisoluzione(cartella(), indice + 1);
     } catch (...) {
         // The buttons go on showing what is stored. Only an auto-exclusive group of none can't be shown again.
         if (m_risoluzione > 0)

@@ -2,7 +2,6 @@
 
 #include "shell/host/Pagina.h"
 #include "shell/host/PictureBox.h"
-#include "shell/store/Data.h"
 
 namespace zuvora {
 
@@ -16,7 +15,6 @@ private:
     void scegli(int indice);
 
     std::function<void(int)> m_scelta;
-    Data Data1;
     int m_risoluzione;
     Label Label2_0{this,
                    "Label2(0)",

@@ -35,7 +35,7 @@ SplasModule::SplasModule(const Ambiente &ambiente_, std::vector<VoceMenu> voci, 
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowCloseButtonHint);
     disponi();
-    const StatoAvvio stato = leggiStatoAvvio(Data1, cartella());
+    const StatoAvvio stato = leggiStatoAvvio(cartella());
     Label5.setCaption(stato.numero);
     Label6.setCaption(stato.data);
     m_risoluzione = stato.risoluzione;
@@ -139,7 +139,7 @@ void SplasModule::apriSito() {
 void SplasModule::salvaAvvioAutomatico() {
     const bool accesa = cbAutoaccensioneFE.isChecked();
     try {
-        salvaAutoAccensione(Data1, cartella(), accesa);
+        salvaAutoAccensione(cartella(), accesa);
     } catch (...) {
         cbAutoaccensioneFE.setChecked(!accesa); // the box goes on telling what is stored
         throw;

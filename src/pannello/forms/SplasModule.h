@@ -4,7 +4,6 @@
 #include "pannello/logic/Configurazione.h"
 #include "shell/host/Form.h"
 #include "shell/host/PictureBox.h"
-#include "shell/store/Data.h"
 
 #include <QUrl>
 #include <map>
@@ -43,7 +42,6 @@ private:
     void applicaNominativo();
     void keyPressEvent(QKeyEvent *e) override;
 
-    Data Data1;
     const std::vector<VoceMenu> m_voci;
     QUrl m_sito;
     int m_risoluzione = 0;

@@ -1,13 +1,14 @@
 #include "pannello/logic/Configurazione.h"
 
 #include "shell/logic/Risoluzioni.h"
-#include "shell/store/Data.h"
+#include "shell/store/Riga.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 namespace {
 
+const QString tabella = u"Configurazione"_s;
 constexpr int OltreIlPrimo = 20; // twips beyond the first screen's right edge
 
 // The stored number of a resolution, 0 for any other value.
@@ -20,16 +21,16 @@ int risoluzioneDi(const Valore &v) {
 
 } // namespace
 
-StatoAvvio leggiStatoAvvio(Data &dato, const QString &cartella) {
+StatoAvvio leggiStatoAvvio(const QString &cartella) {
     StatoAvvio stato;
-    Recordset &versione = apri(dato, cartella, u"Versione"_s);
-    stato.numero = testoDi(versione[u"Numero"].Value(), u"n.d."_s);
-    stato.data = testoDi(versione[u"Data"].Value(), u"n.d."_s);
-    Recordset &riga = apri(dato, cartella, u"Configurazione"_s);
-    stato.risoluzione = risoluzioneDi(riga[u"MisuraFormWH"].Value());
-    stato.nominativo = testoDi(riga[u"Nominativo"].Value(), u"Non definito"_s);
-    stato.autoAccensione = numeroDi(riga[u"TempoChiamata"].Value()) == 1;
-    stato.usaDinDon = eVero(riga[u"PlayDinDon"].Value());
+    const Riga versione = leggiRiga(cartella, u"Versione"_s);
+    stato.numero = versione.testo(u"Numero", u"n.d."_s);
+    stato.data = versione.testo(u"Data", u"n.d."_s);
+    const Riga riga = leggiRiga(cartella, tabella);
+    stato.risoluzione = risoluzioneDi(riga[u"MisuraFormWH"]);
+    stato.nominativo = riga.testo(u"Nominativo", u"Non definito"_s);
+    stato.autoAccensione = numeroDi(riga[u"TempoChiamata"]) == 1;
+    stato.usaDinDon = riga.vero(u"PlayDinDon");
     return stato;
 }
 
@@ -37,60 +38,47 @@ bool ePrincipale(QStringView nominativo) {
     return nominativo.toString().toUpper() == u"SERVER1";
 }
 
-QString leggiNominativo(Data &dato, const QString &cartella) {
-    return testoDi(apri(dato, cartella, u"configurazione"_s)[u"Nominativo"].Value(), {});
+QString leggiNominativo(const QString &cartella) {
+    return leggiRiga(cartella, tabella).testo(u"Nominativo");
 }
 
-void salvaNominativo(Data &dato, const QString &cartella, const QString &nominativo) {
-    Recordset &riga = apri(dato, cartella, u"configurazione"_s);
-    riga.Edit();
-    riga[u"Nominativo"].SetValue(nominativo);
-    riga.Update();
+void salvaNominativo(const QString &cartella, const QString &nominativo) {
+    scriviRiga(cartella, tabella, {{u"Nominativo", nominativo}});
 }
 
-void salvaAutoAccensione(Data &dato, const QString &cartella, bool accesa) {
-    Recordset &riga = apri(dato, cartella, u"Configurazione"_s);
-    riga.Edit();
-    riga[u"TempoChiamata"].SetValue(accesa ? 1 : 2);
-    riga.Update();
+void salvaAutoAccensione(const QString &cartella, bool accesa) {
+    scriviRiga(cartella, tabella, {{u"TempoChiamata", accesa ? 1 : 2}});
 }
 
-void salvaRisoluzione(Data &dato, const QString &cartella, int misura) {
-    Recordset &riga = apri(dato, cartella, u"Configurazione"_s);
-    riga.Edit();
-    riga[u"MisuraFormWH"].SetValue(misura);
-    riga.Update();
+void salvaRisoluzione(const QString &cartella, int misura) {
+    scriviRiga(cartella, tabella, {{u"MisuraFormWH", misura}});
 }
 
-Schermo leggiSchermo(Data &dato, const QString &cartella) {
-    const Valore sinistra = apri(dato, cartella, u"Configurazione"_s)[u"MisuraFormLeft"].Value();
-    return numeroDi(sinistra) == 0 ? Schermo::Primo : Schermo::Secondo;
+Schermo leggiSchermo(const QString &cartella) {
+    return numeroDi(leggiRiga(cartella, tabella)[u"MisuraFormLeft"]) == 0 ? Schermo::Primo : Schermo::Secondo;
 }
 
-void salvaSchermo(Data &dato, const QString &cartella, Schermo schermo, int larghezzaSchermoTwips) {
-    Recordset &riga = apri(dato, cartella, u"Configurazione"_s);
-    riga.Edit();
-    riga[u"MisuraFormLeft"].SetValue(schermo == Schermo::Primo ? 0 : larghezzaSchermoTwips + OltreIlPrimo);
-    riga.Update();
+void salvaSchermo(const QString &cartella, Schermo schermo, int larghezzaSchermoTwips) {
+    const int sinistra = schermo == Schermo::Primo ? 0 : larghezzaSchermoTwips + OltreIlPrimo;
+    scriviRiga(cartella, tabella, {{u"MisuraFormLeft", sinistra}});
 }
 
-DatiServer leggiDatiServer(Data &dato, const QString &cartella) {
-    Recordset &riga = apri(dato, cartella, u"Configurazione"_s);
+DatiServer leggiDatiServer(const QString &cartella) {
+    const Riga riga = leggiRiga(cartella, tabella);
     DatiServer server;
-    server.porta = testoDi(riga[u"RHPort"].Value(), {});
-    server.tipo = numeroDi(riga[u"ModoClient"].Value()) == 1 ? TipoChiamata::Automatica : TipoChiamata::Selettiva;
+    server.porta = riga.testo(u"RHPort");
+    server.tipo = numeroDi(riga[u"ModoClient"]) == 1 ? TipoChiamata::Automatica : TipoChiamata::Selettiva;
     return server;
 }
 
-void salvaDatiServer(Data &dato, const QString &cartella, const DatiServer &server) {
-    Recordset &riga = apri(dato, cartella, u"configurazione"_s);
-    riga.Edit();
+void salvaDatiServer(const QString &cartella, const DatiServer &server) {
+    QList<Assegno> valori;
     if (server.tipo)
-        riga[u"ModoClient"].SetValue(static_cast<int>(*server.tipo));
-    riga[u"IPServer"].SetValue(server.indirizzo);
-    riga[u"ServerName"].SetValue(server.nome);
-    riga[u"RHPort"].SetValue(server.porta);
-    riga.Update();
+        valori += {u"ModoClient", static_cast<int>(*server.tipo)};
+    valori += {u"IPServer", server.indirizzo};
+    valori += {u"ServerName", server.nome};
+    valori += {u"RHPort", server.porta};
+    scriviRiga(cartella, tabella, valori);
 }
 
 } // namespace zuvora

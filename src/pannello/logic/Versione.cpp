@@ -3,6 +3,7 @@
 #include "shell/store/Data.h"
 #include "shell/store/Database.h"
 #include "shell/store/EngineError.h"
+#include "shell/store/Riga.h"
 
 #include <QDir>
 #include <algorithm>
@@ -43,12 +44,8 @@ void AggiornaArchivio(const QString &cartella) {
     archivio.Close();
 }
 
-void scriviVersioneCorrente(Data &dato, const QString &cartella) {
-    Recordset &riga = apri(dato, cartella, u"versione"_s);
-    riga.Edit();
-    riga[u"numero"].SetValue(u"Versione 3.1.11"_s);
-    riga[u"data"].SetValue(u"del 03 Ottobre 2013"_s);
-    riga.Update();
+void scriviVersioneCorrente(const QString &cartella) {
+    scriviRiga(cartella, u"Versione"_s, {{u"Numero", u"Versione 3.1.11"_s}, {u"Data", u"del 03 Ottobre 2013"_s}});
 }
 
 } // namespace zuvora

@@ -6,8 +6,6 @@
 
 namespace zuvora {
 
-class Data;
-
 // The short form ("3.1.8") of an older version label ("Versione 3.1.8") that the program can bring to the current one;
 // nothing for every other label. Case counts.
 std::optional<QString> versioneDaAggiornare(QStringView etichetta);
@@ -20,6 +18,6 @@ bool versioneConosciuta(QStringView breve);
 void AggiornaArchivio(const QString &cartella);
 
 // Writes the current version's label and date into the version row. Throws EngineError.
-void scriviVersioneCorrente(Data &dato, const QString &cartella);
+void scriviVersioneCorrente(const QString &cartella);
 
 } // namespace zuvora

@@ -23,9 +23,7 @@ void Schermata::segnalaErrore() {
     try {
         throw;
     } catch (const EngineError &e) {
-        testo = e.frase();
-        if (!e.dettaglio().isEmpty())
-            testo += u"\n\n(Errore %1: %2)"_s.arg(e.Number()).arg(e.dettaglio());
+        testo = testoErrore(e);
     } catch (const std::bad_alloc &) {
         testo = u"Memoria insufficiente: l'operazione non è stata eseguita."_s;
     } catch (const std::exception &e) {

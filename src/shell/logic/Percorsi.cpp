@@ -3,6 +3,7 @@
 #include "shell/logic/Domanda.h"
 #include "shell/logic/FileAtomico.h"
 
+#include <QDir>
 #include <array>
 #include <utility>
 
@@ -62,6 +63,10 @@ bool stessaMacchina(QStringView a, QStringView b) {
 }
 
 } // namespace
+
+QString percorsoIn(const QString &cartella, QStringView relativo) {
+    return QDir::toNativeSeparators(u"%1/%2"_s.arg(senzaBarraFinale(cartella), relativo));
+}
 
 Percorsi::Percorsi(std::shared_ptr<const SistemaFile> sistema) : m_sistema(std::move(sistema)) {}
 

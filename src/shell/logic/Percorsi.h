@@ -11,6 +11,9 @@
 
 namespace zuvora {
 
+// A file of the application folder, as the platform writes paths; `relativo` with slashes, as u"a/b.gif".
+QString percorsoIn(const QString &cartella, QStringView relativo);
+
 // Paths in every form that rows have them: native ("/home/sala/Totem"), with the drive of another system
 // ("C:\Totem"), of the network ("\\SERVER1\Totem"). On a platform without drives the root is the one drive, and the
 // folders below it count as shared under their own names.

@@ -114,20 +114,6 @@ bool Database::integro() {
     return primaColonna(m_connessione->prepara("PRAGMA quick_check(1)", Azione::Lettura)) == QStringList{u"ok"_s};
 }
 
-QStringList Database::verifica() {
-    QStringList esito;
-    try {
-        Istruzione i = m_connessione->prepara("PRAGMA integrity_check", Azione::Lettura);
-        while (i.avanti())
-            esito.append(i.testo(0));
-    } catch (const EngineError &e) {
-        if (e.numero() != Errore::FileDanneggiato)
-            throw;
-        esito.append(e.dettaglio()); // damage that the check itself stumbles over
-    }
-    return esito == QStringList{u"ok"_s} ? QStringList() : esito;
-}
-
 Database::ElencoTabelle::ElencoTabelle(Connessione &c) : m_connessione(&c) {}
 
 QStringList Database::ElencoTabelle::Names() const {

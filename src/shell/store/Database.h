@@ -81,8 +81,6 @@ public:
     QList<QStringList> leggiTesti(const QString &sql); // Null as a null text
     // The engine's quick check of the file.
     bool integro();
-    // The engine's own check of the whole file: one finding a line, empty when it is sound.
-    QStringList verifica();
     void Close();
 
 private:

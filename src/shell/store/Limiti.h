@@ -8,6 +8,6 @@ namespace zuvora {
 inline constexpr std::chrono::milliseconds attesaBlocco{2000};
 
 // How many rows a record set takes when its form states no limit of its own. A view can give rows without end.
-inline constexpr int righeMassime = 1'000'000;
+inline constexpr int righeMassime = 100'000;
 
 } // namespace zuvora

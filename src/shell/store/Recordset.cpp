@@ -105,10 +105,6 @@ bool Recordset::tagliato() const {
     return stato().sorgente.tagliata;
 }
 
-bool Recordset::Bof() const {
-    return RecordCount() == 0;
-}
-
 bool Recordset::Eof() const {
     const Stato &s = stato();
     return s.sorgente.quante() == 0 || (!s.cancellato && s.posto >= s.sorgente.quante());

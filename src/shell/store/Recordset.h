@@ -51,7 +51,6 @@ public:
 
     int RecordCount() const;              // 0 when empty; exact from the start
     bool tagliato() const;                // the source has more rows than the Data object's limit
-    bool Bof() const;                     // before the first record (also when empty)
     bool Eof() const;                     // behind the last record (also when empty)
     void MoveFirst();                     // 3021 when empty
     void MoveLast();                      // 3021 when empty
