@@ -22,6 +22,8 @@ public:
     std::deque<std::optional<FontScelto>> font;
     std::deque<std::optional<int>> colori;
     std::vector<RichiestaFile> richiesteFile; // as they came
+    QStringList primeCartelle;
+    std::optional<FontScelto> primoFont; // of the last request
 
     ~FintiDialoghi() override {
         EXPECT_TRUE(file.empty() && cartelle.empty() && font.empty() && colori.empty()) << "answers left over";
@@ -44,8 +46,14 @@ public:
         richiesteFile.push_back(richiesta);
         return prossima(file);
     }
-    std::optional<QString> scegliCartella(QWidget *, const QString &) override { return prossima(cartelle); }
-    std::optional<FontScelto> scegliFont(QWidget *) override { return prossima(font); }
+    std::optional<QString> scegliCartella(QWidget *, const QString &, const QString &prima) override {
+        primeCartelle << prima;
+        return prossima(cartelle);
+    }
+    std::optional<FontScelto> scegliFont(QWidget *, const std::optional<FontScelto> &primo) override {
+        primoFont = primo;
+        return prossima(font);
+    }
     std::optional<int> scegliColore(QWidget *, int) override { return prossima(colori); }
 
 private:

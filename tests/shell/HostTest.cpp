@@ -5,10 +5,16 @@
 #include "shell/host/Grid.h"
 #include "shell/host/QtDialoghi.h"
 #include "shell/host/QtPiattaforma.h"
+#include "shell/host/Rete.h"
 #include "shell/store/Data.h"
 
+#include <QApplication>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QListView>
 #include <QSignalSpy>
 #include <QTest>
+#include <sys/stat.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -24,9 +30,8 @@ TEST(Twips, ControlliCheSiToccanoSiToccanoSulloSchermo) {
 }
 
 TEST(Filtri, DescrizioniEModelli) {
-    EXPECT_EQ(filtriQt(u"File Suono (*.wav) )|*.wav"_s), QStringList{u"File Suono (*.wav *.WAV)"_s});
-    EXPECT_EQ(filtriQt(u"(*.bmp;*.jpg;*.gif)|*.bmp;*.jpg;*.gif"_s),
-              QStringList{u"File (*.bmp *.jpg *.gif *.BMP *.JPG *.GIF)"_s});
+    EXPECT_EQ(filtriQt(u"File Suono (*.wav) )|*.wav"_s), QStringList{u"File Suono (*.wav)"_s});
+    EXPECT_EQ(filtriQt(u"(*.bmp;*.jpg;*.gif)|*.bmp;*.jpg;*.gif"_s), QStringList{u"File (*.bmp *.jpg *.gif)"_s});
     EXPECT_TRUE(filtriQt(QString()).isEmpty());
 }
 
@@ -158,6 +163,59 @@ TEST(Griglia, ClicRigaEAttivazioneSonoTreCose) {
     prova.esegui(u"ALTER TABLE Servizi RENAME TO Altrove"_s);
     EXPECT_ANY_THROW(dato.Refresh());
     EXPECT_EQ(griglia.Rows() + seconda.Rows(), 0) << "no rows of a list that could not be read";
+}
+
+TEST(Rete, LIndirizzoDellaRottaPredefinitaNonIlPrimoPonte) {
+    const QByteArray rotte = "Iface\tDestination\tGateway\tFlags\tRefCnt\tUse\tMetric\tMask\tMTU\tWindow\tIRTT\n"
+                             "docker0\t000011AC\t00000000\t0001\t0\t0\t0\t0000FFFF\t0\t0\t0\n"
+                             "wlan0\t00000000\t0101A8C0\t0003\t0\t0\t600\t00000000\t0\t0\t0\n"
+                             "spenta\t00000000\t0101A8C0\t0002\t0\t0\t1\t00000000\t0\t0\t0\n"
+                             "eth0\t00000000\t0101A8C0\t0003\t0\t0\t100\t00000000\t0\t0\t0\n";
+    EXPECT_EQ(interfacciaPredefinita(rotte), u"eth0"_s);
+    EXPECT_EQ(interfacciaPredefinita("Iface\nrotta\n"), QString());
+    const QList<Interfaccia> tutte{
+        {u"docker0"_s, u"172.17.0.1"_s, true}, {u"wlan0"_s, u"192.0.2.9"_s, false}, {u"eth0"_s, u"192.0.2.7"_s, false}};
+    EXPECT_EQ(indirizzoProposto(tutte, u"eth0"_s), u"192.0.2.7"_s);
+    EXPECT_EQ(indirizzoProposto(tutte, {}), u"192.0.2.9"_s);
+    EXPECT_EQ(indirizzoProposto({tutte.front()}, {}), u"172.17.0.1"_s);
+    EXPECT_EQ(indirizzoProposto({}, u"eth0"_s), u"127.0.0.1"_s);
+}
+
+// Qt's own provider of icons looks into each file: this dialog would never come up.
+TEST(DialogoFile, UnFileCheNonRispondeNonLoFerma) {
+    InstallazioneProva prova;
+    ASSERT_EQ(mkfifo(QFile::encodeName(prova.file(u"tubo.jpg"_s)).constData(), 0600), 0);
+    QtDialoghi dialoghi;
+    bool visto = false;
+    QTimer::singleShot(0, [&] {
+        auto *dialogo = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        ASSERT_NE(dialogo, nullptr);
+        auto *lista = dialogo->findChild<QListView *>();
+        visto = QTest::qWaitFor([&] { return lista->model()->rowCount(lista->rootIndex()) > 0; });
+        fotografa(*dialogo, u"Dialogo file"_s);
+        dialogo->reject();
+    });
+    EXPECT_EQ(dialoghi.apriFile(nullptr, {u"Prova"_s, u"Immagini|*.jpg"_s, prova.cartella()}), std::nullopt);
+    EXPECT_TRUE(visto);
+}
+
+TEST(DialogoFont, SenzaBarratoNeSottolineato) {
+    preparaApplicazione();
+    QtDialoghi dialoghi;
+    QTimer::singleShot(0, [&] {
+        auto *dialogo = qobject_cast<QFontDialog *>(QApplication::activeModalWidget());
+        ASSERT_NE(dialogo, nullptr);
+        const auto caselle = dialogo->findChildren<QCheckBox *>();
+        EXPECT_FALSE(caselle.isEmpty());
+        for (const QCheckBox *casella : caselle)
+            EXPECT_FALSE(casella->isVisible());
+        fotografa(*dialogo, u"Dialogo font"_s);
+        dialogo->accept();
+    });
+    const auto scelto = dialoghi.scegliFont(nullptr, FontScelto{u"Tahoma"_s, 14, true, false});
+    ASSERT_TRUE(scelto.has_value());
+    EXPECT_EQ(scelto->misura, 14);
+    EXPECT_TRUE(scelto->grassetto);
 }
 
 TEST(Istanza, UnaSolaPerMacchinaELiberaDopoLaFine) {

@@ -1,10 +1,9 @@
 #include "shell/host/ComponenteWeb.h"
 
+#include "shell/host/Componente.h"
+
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
 #include <QOpenGLContext>
-#include <QPluginLoader>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -36,28 +35,20 @@ void preparaContesto() {
     qAddPostRoutine(togliContesto);
 }
 
-EsitoComponenteWeb senza(const QString &causa) {
-    return {nullptr, u"L'anteprima delle pagine web non è disponibile: %1\n\nTutto il resto funziona. Per riavere "
-                     "l'anteprima occorre reinstallare il programma."_s.arg(causa)};
-}
+constexpr QStringView cosaManca = u"L'anteprima delle pagine web non è disponibile";
 
 } // namespace
 
 EsitoComponenteWeb creaVistaWeb(const QString &cartella, QWidget *padre) {
-    const QString file = QDir(cartella).filePath(QString::fromLatin1(FileComponenteWeb));
-    if (!QFile::exists(file))
-        return senza(u"manca il componente %1 nella cartella %2."_s.arg(QString::fromLatin1(FileComponenteWeb),
-                                                                        QDir::toNativeSeparators(cartella)));
     preparaContesto();
-    QPluginLoader caricatore(file);
-    auto *fabbrica = qobject_cast<FabbricaVistaWeb *>(caricatore.instance());
-    if (fabbrica == nullptr)
-        return senza(u"il componente %1 non può essere caricato.\n\n(%2)"_s.arg(QDir::toNativeSeparators(file),
-                                                                                caricatore.errorString()));
-    auto vista = fabbrica->crea(padre);
-    if (vista == nullptr)
-        return senza(u"il motore delle pagine web (Qt WebEngine) non è installato per intero."_s);
-    return {std::move(vista), {}};
+    const auto componente =
+        caricaComponente<FabbricaVistaWeb>(cartella, QString::fromLatin1(FileComponenteWeb), cosaManca.toString());
+    if (componente.fabbrica == nullptr)
+        return {nullptr, componente.motivo};
+    if (auto vista = componente.fabbrica->crea(padre))
+        return {std::move(vista), {}};
+    return {nullptr, senzaComponente(cosaManca.toString(),
+                                     u"il motore delle pagine web (Qt WebEngine) non è installato per intero."_s)};
 }
 
 } // namespace zuvora

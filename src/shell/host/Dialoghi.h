@@ -30,8 +30,10 @@ public:
     virtual void messaggio(QWidget *padre, Icona icona, const QString &titolo, const QString &testo) = 0;
     // The chosen file's full path in native form; nothing when cancelled. The same for the next three.
     virtual std::optional<QString> apriFile(QWidget *padre, const RichiestaFile &richiesta) = 0;
-    virtual std::optional<QString> scegliCartella(QWidget *padre, const QString &titolo) = 0;
-    virtual std::optional<FontScelto> scegliFont(QWidget *padre) = 0;
+    // `prima` is the folder where it opens; empty: the platform's own.
+    virtual std::optional<QString> scegliCartella(QWidget *padre, const QString &titolo, const QString &prima = {}) = 0;
+    // Without a first font it starts from the program's.
+    virtual std::optional<FontScelto> scegliFont(QWidget *padre, const std::optional<FontScelto> &primo = {}) = 0;
     // Colours are whole numbers 0x00BBGGRR.
     virtual std::optional<int> scegliColore(QWidget *padre, int attuale) = 0;
 };

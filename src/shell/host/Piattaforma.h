@@ -17,7 +17,8 @@ public:
     // this process the running instance until it ends, in whatever way.
     virtual bool altraIstanza() = 0;
     virtual QString nomeMacchina() const = 0;
-    virtual QString indirizzoLocale() const = 0; // IPv4 in dotted form; "127.0.0.1" when there is no network
+    virtual QString
+    indirizzoLocale() const = 0; // of the default route, IPv4 in dotted form; "127.0.0.1" without a network
     virtual const SistemaMonitor &monitor() const = 0;
     virtual QSize schermo() const = 0; // the primary screen, pixels
     virtual void svuotaAppunti() = 0;

@@ -1,18 +1,85 @@
 #include "shell/host/QtDialoghi.h"
 
+#include "shell/disegni/Disegni.h"
 #include "shell/host/ColorPicker.h"
 
+#include <QAbstractFileIconProvider>
 #include <QApplication>
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
+#include <QFontDatabase>
 #include <QFontDialog>
-#include <QLibraryInfo>
+#include <QGroupBox>
 #include <QMessageBox>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
+namespace {
+
+// Icons and kinds by the name alone. Qt's own provider looks into each file, and one that never answers, a pipe say,
+// would hold the dialog up for ever.
+class IconeFile : public QAbstractFileIconProvider {
+public:
+    QIcon icon(const QFileInfo &info) const override { return info.isDir() ? m_cartella : m_file; }
+    QIcon icon(IconType tipo) const override {
+        switch (tipo) {
+        case Folder:
+        case Desktop:
+        case Network:
+            return m_cartella;
+        case Computer:
+        case Drive:
+            return m_unita;
+        default:
+            return m_file;
+        }
+    }
+    QString type(const QFileInfo &info) const override {
+        if (info.isDir())
+            return u"Cartella"_s;
+        return info.suffix().isEmpty() ? u"File"_s : u"File %1"_s.arg(info.suffix().toUpper());
+    }
+
+private:
+    QIcon m_cartella = icona(Disegno::Cartella);
+    QIcon m_unita = icona(Disegno::Unita);
+    QIcon m_file = icona(Disegno::FileImmagine);
+};
+
+void prepara(QFileDialog &dialogo, const IconeFile &icone) {
+    dialogo.setOption(QFileDialog::DontUseNativeDialog);
+    dialogo.setOption(QFileDialog::DontUseCustomDirectoryIcons);
+    dialogo.setIconProvider(const_cast<IconeFile *>(&icone)); // Qt doesn't change it
+}
+
+std::optional<QString> risposta(QFileDialog &dialogo) {
+    if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty())
+        return std::nullopt;
+    return QDir::toNativeSeparators(dialogo.selectedFiles().constFirst());
+}
+
+// Styles go by the names that the font's file gives them, while Qt asks for translated ones.
+QString stileDi(const FontScelto &font) {
+    const QStringList stili = QFontDatabase::styles(font.nome);
+    for (const QString &stile : stili)
+        if ((QFontDatabase::weight(font.nome, stile) > QFont::Medium) == font.grassetto &&
+            QFontDatabase::italic(font.nome, stile) == font.italico)
+            return stile;
+    return {};
+}
+
+// The frame with strike-out and underline: no column keeps them. It is known by the two boxes in it.
+void nascondiEffetti(QFontDialog &dialogo) {
+    const auto gruppi = dialogo.findChildren<QGroupBox *>();
+    for (QGroupBox *gruppo : gruppi)
+        if (gruppo->findChildren<QCheckBox *>().size() == 2)
+            gruppo->hide();
+}
+
+} // namespace
 
 QStringList filtriQt(const QString &filtro) {
     QStringList esito;
@@ -22,25 +89,12 @@ QStringList filtriQt(const QString &filtro) {
         QString descrizione = pezzi.at(i).section(u'(', 0, 0).trimmed();
         if (descrizione.isEmpty())
             descrizione = u"File"_s;
-        QStringList modelli = pezzi.at(i + 1).split(u';', Qt::SkipEmptyParts);
-        const QStringList scritti = modelli;
-        for (const QString &modello : scritti)
-            if (modello.toUpper() != modello)
-                modelli << modello.toUpper();
-        esito << descrizione + u" ("_s + modelli.join(u' ') + u")"_s;
+        esito << descrizione + u" ("_s + pezzi.at(i + 1).split(u';', Qt::SkipEmptyParts).join(u' ') + u")"_s;
     }
     return esito;
 }
 
-void QtDialoghi::parlaItaliano() {
-    if (std::exchange(m_caricata, true))
-        return;
-    if (m_traduzione.load(u"qtbase_it"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&m_traduzione);
-}
-
 void QtDialoghi::messaggio(QWidget *padre, Icona icona, const QString &titolo, const QString &testo) {
-    parlaItaliano();
     QMessageBox box(icona == Icona::Critica ? QMessageBox::Critical : QMessageBox::Information, titolo, testo,
                     QMessageBox::Ok, padre);
     box.setTextFormat(Qt::PlainText);
@@ -48,37 +102,41 @@ void QtDialoghi::messaggio(QWidget *padre, Icona icona, const QString &titolo, c
 }
 
 std::optional<QString> QtDialoghi::apriFile(QWidget *padre, const RichiestaFile &richiesta) {
-    parlaItaliano();
+    const IconeFile icone;
     QFileDialog dialogo(padre, richiesta.titolo, richiesta.cartella);
-    dialogo.setOption(QFileDialog::DontUseNativeDialog);
+    prepara(dialogo, icone);
     dialogo.setFileMode(QFileDialog::ExistingFile);
     dialogo.setNameFilters(filtriQt(richiesta.filtro));
-    if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty())
-        return std::nullopt;
-    return QDir::toNativeSeparators(dialogo.selectedFiles().constFirst());
+    return risposta(dialogo);
 }
 
-std::optional<QString> QtDialoghi::scegliCartella(QWidget *padre, const QString &titolo) {
-    parlaItaliano();
-    const QString cartella = QFileDialog::getExistingDirectory(
-        padre, titolo, {}, QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
-    if (cartella.isEmpty())
-        return std::nullopt;
-    return QDir::toNativeSeparators(cartella);
+std::optional<QString> QtDialoghi::scegliCartella(QWidget *padre, const QString &titolo, const QString &prima) {
+    const IconeFile icone;
+    QFileDialog dialogo(padre, titolo, prima);
+    prepara(dialogo, icone);
+    dialogo.setFileMode(QFileDialog::Directory);
+    dialogo.setOption(QFileDialog::ShowDirsOnly);
+    return risposta(dialogo);
 }
 
-std::optional<FontScelto> QtDialoghi::scegliFont(QWidget *padre) {
-    parlaItaliano();
-    bool confermato = false;
-    const QFont font =
-        QFontDialog::getFont(&confermato, QApplication::font(), padre, {}, QFontDialog::DontUseNativeDialog);
-    if (!confermato)
+std::optional<FontScelto> QtDialoghi::scegliFont(QWidget *padre, const std::optional<FontScelto> &primo) {
+    QFont inizio = QApplication::font();
+    if (primo) {
+        inizio.setFamily(primo->nome);
+        if (primo->misura > 0)
+            inizio.setPointSizeF(primo->misura);
+        inizio.setStyleName(stileDi(*primo));
+    }
+    QFontDialog dialogo(inizio, padre);
+    dialogo.setOption(QFontDialog::DontUseNativeDialog);
+    nascondiEffetti(dialogo);
+    if (dialogo.exec() != QDialog::Accepted)
         return std::nullopt;
+    const QFont font = dialogo.selectedFont();
     return FontScelto{font.family(), font.pointSizeF(), font.bold(), font.italic()};
 }
 
 std::optional<int> QtDialoghi::scegliColore(QWidget *padre, int attuale) {
-    parlaItaliano();
     const QColor colore = QColorDialog::getColor(coloreDa(attuale), padre, {}, QColorDialog::DontUseNativeDialog);
     if (!colore.isValid())
         return std::nullopt;

@@ -1,8 +1,12 @@
 #include "shell/host/QtPiattaforma.h"
 
+#include "shell/host/Rete.h"
+#include "shell/logic/FileAtomico.h"
+
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSysInfo>
@@ -66,6 +70,28 @@ public:
     }
 };
 
+QList<Interfaccia> interfacceAttive() {
+    QList<Interfaccia> attive;
+    ifaddrs *elenco = nullptr;
+    if (getifaddrs(&elenco) != 0)
+        return attive;
+    const std::unique_ptr<ifaddrs, decltype(&freeifaddrs)> custode(elenco, freeifaddrs);
+    for (const ifaddrs *i = elenco; i != nullptr; i = i->ifa_next) {
+        if (i->ifa_addr == nullptr || i->ifa_addr->sa_family != AF_INET)
+            continue;
+        if ((i->ifa_flags & IFF_UP) == 0 || (i->ifa_flags & IFF_LOOPBACK) != 0)
+            continue;
+        char testo[INET_ADDRSTRLEN] = {};
+        const auto *indirizzo = reinterpret_cast<const sockaddr_in *>(i->ifa_addr);
+        if (inet_ntop(AF_INET, &indirizzo->sin_addr, testo, sizeof testo) == nullptr)
+            continue;
+        const QString nome = QString::fromLocal8Bit(i->ifa_name);
+        attive << Interfaccia{nome, QString::fromLatin1(testo),
+                              QFileInfo::exists(u"/sys/class/net/%1/bridge"_s.arg(nome))};
+    }
+    return attive;
+}
+
 } // namespace
 
 QtPiattaforma::QtPiattaforma(QByteArray chiaveIstanza)
@@ -107,21 +133,7 @@ QString QtPiattaforma::nomeMacchina() const {
 }
 
 QString QtPiattaforma::indirizzoLocale() const {
-    ifaddrs *elenco = nullptr;
-    if (getifaddrs(&elenco) != 0)
-        return u"127.0.0.1"_s;
-    const std::unique_ptr<ifaddrs, decltype(&freeifaddrs)> custode(elenco, freeifaddrs);
-    for (const ifaddrs *i = elenco; i != nullptr; i = i->ifa_next) {
-        if (i->ifa_addr == nullptr || i->ifa_addr->sa_family != AF_INET)
-            continue;
-        if ((i->ifa_flags & IFF_UP) == 0 || (i->ifa_flags & IFF_LOOPBACK) != 0)
-            continue;
-        char testo[INET_ADDRSTRLEN] = {};
-        const auto *indirizzo = reinterpret_cast<const sockaddr_in *>(i->ifa_addr);
-        if (inet_ntop(AF_INET, &indirizzo->sin_addr, testo, sizeof testo) != nullptr)
-            return QString::fromLatin1(testo);
-    }
-    return u"127.0.0.1"_s;
+    return indirizzoProposto(interfacceAttive(), interfacciaPredefinita(leggiFile(u"/proc/net/route"_s).contenuto));
 }
 
 const SistemaMonitor &QtPiattaforma::monitor() const {

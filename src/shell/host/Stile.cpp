@@ -6,7 +6,10 @@
 #include "shell/host/StileCasa.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QPalette>
+#include <QTranslator>
 #include <array>
 
 namespace zuvora {
@@ -47,9 +50,18 @@ QPalette paletteCasa() {
     return palette;
 }
 
+// Context menus of text boxes are Qt's too, so its texts are Italian from the start.
+void parlaItaliano(QApplication &applicazione) {
+    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+    auto *traduzione = new QTranslator(&applicazione);
+    if (traduzione->load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(traduzione);
+}
+
 } // namespace
 
 void preparaAspetto(QApplication &applicazione) {
+    parlaItaliano(applicazione);
     QApplication::setStyle(new StileCasa);
     QApplication::setFont(carattereCasa());
     QApplication::setPalette(paletteCasa());
