@@ -83,6 +83,10 @@ QByteArray righeDi(QLatin1StringView righe, bool esempio) {
     return testo.isEmpty() ? leggi(u"righe/%1.csv"_s.arg(righe)) : testo;
 }
 
+QByteArray improntePredefinite() {
+    return leggi(u"impronte.txt"_s);
+}
+
 QByteArray testoDi(QLatin1StringView file) {
     return leggi(file);
 }

@@ -1,6 +1,8 @@
 #include "installer/Crea.h"
 #include "installer/Interruzione.h"
 #include "installer/Verifica.h"
+#include "installer/copia/Ripristina.h"
+#include "installer/copia/Salva.h"
 #include "installer/importa/FonteAccess.h"
 #include "installer/importa/Importa.h"
 #include "installer/importa/LettoreAccess.h"
@@ -28,6 +30,13 @@ const auto istruzioni =
     "  importa VECCHIO.mdb [--totem VECCHIO_TOTEM.mdb] [--cartella VECCHIA] CARTELLA\n"
     "                      crea un'installazione dai database di una vecchia, in formato Access 97 o 2000-2003;\n"
     "                      --cartella prende dalla vecchia cartella immagini, playlist, suoni e frase\n"
+    "  salva [--tieni N] CARTELLA FILE\n"
+    "                      salva l'installazione in un file, anche con il programma aperto; con --tieni il nome\n"
+    "                      prende la data e restano le ultime N copie\n"
+    "  ripristina [--sopra] FILE CARTELLA\n"
+    "                      rifà l'installazione di una copia nella cartella, nuova o vuota; con --sopra al posto\n"
+    "                      di quella che c'è, che prima viene salvata\n"
+    "  elenca FILE         mostra che cosa contiene una copia\n"
     "  verifica CARTELLA   controlla un'installazione senza modificarla: una riga per ogni difetto; le note\n"
     "                      non sono difetti\n"
     "  --help              mostra queste istruzioni\n"
@@ -82,6 +91,28 @@ int leggiPerAltri(const QString &file) {
     if (!uscita.open(stdout, QIODevice::WriteOnly))
         return NonRiuscito;
     return leggiAccess(file, uscita);
+}
+
+int salva(const Richiesta &richiesta) {
+    ascoltaInterruzioni();
+    OpzioniSalva opzioni{richiesta.argomenti.at(0), richiesta.argomenti.at(1), 0};
+    if (richiesta.opzioni.contains(u"--tieni"_s)) {
+        opzioni.tieni = richiesta.opzioni.value(u"--tieni"_s).toInt();
+        if (opzioni.tieni < 1)
+            return usoErrato(u"Con --tieni va un numero da 1 in su."_s);
+    }
+    return riferisci(salvaInstallazione(opzioni, [](const QString &riga) { scrivi(stdout, riga + u'\n'); }));
+}
+
+int ripristina(const Richiesta &richiesta) {
+    ascoltaInterruzioni();
+    OpzioniRipristina opzioni{richiesta.argomenti.at(0), richiesta.opzioni.contains(u"--sopra"_s), {}};
+    opzioni.crea.cartella = richiesta.argomenti.at(1);
+    return riferisci(ripristinaInstallazione(opzioni));
+}
+
+int elenca(const Richiesta &richiesta) {
+    return riferisci(elencaCopia(richiesta.argomenti.first()));
 }
 
 int verifica(const Richiesta &richiesta) {
@@ -139,6 +170,9 @@ int main(int argc, char **argv) {
         Comando{"crea"_L1, {u"--esempio"_s}, {u"--notizie"_s}, {u"la cartella"_s}, crea},
         Comando{
             "importa"_L1, {}, {u"--totem"_s, u"--cartella"_s}, {u"il vecchio database"_s, u"la cartella"_s}, importa},
+        Comando{"salva"_L1, {}, {u"--tieni"_s}, {u"la cartella"_s, u"il file della copia"_s}, salva},
+        Comando{"ripristina"_L1, {u"--sopra"_s}, {}, {u"il file della copia"_s, u"la cartella"_s}, ripristina},
+        Comando{"elenca"_L1, {}, {}, {u"il file della copia"_s}, elenca},
         Comando{"verifica"_L1, {}, {}, {u"la cartella"_s}, verifica}};
     QStringList argomenti = QCoreApplication::arguments().mid(1);
     if (argomenti.isEmpty())

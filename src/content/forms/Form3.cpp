@@ -10,7 +10,7 @@ Form3::Form3(const Ambiente &ambiente_, const QString &host, QWidget *padre)
     grid.lega(Data2);
     quando(Text4, &QLineEdit::textChanged, [this] { cerca(); });
     alClic(CBT_3, [this] { prova(); });
-    quando(grid, &Grid::doppioClic, [this] { prova(); });
+    quando(grid, &Grid::attivato, [this] { prova(); });
     CBT_2.setRuolo(Ruolo::Principale);
     alClic(CBT_2, [this] { salva(); });
     alClic(CBT_0, [this] { scarica(); });

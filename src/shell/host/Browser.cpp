@@ -6,6 +6,7 @@
 
 #include <QEvent>
 #include <QPlainTextEdit>
+#include <QShortcut>
 #include <QStackedLayout>
 #include <QTimer>
 
@@ -69,6 +70,10 @@ Browser::Browser(QWidget *padre, const char *nome, const Posto &posto, const Pia
     m_avviso->viewport()->installEventFilter(this);
     m_pila->setSizeConstraint(QLayout::SetNoConstraint);
     m_pila->addWidget(m_avviso);
+    // A page that has the focus keeps Esc to itself: it must close the window from there too.
+    auto *chiudi = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    chiudi->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(chiudi, &QShortcut::activated, this, [this] { window()->close(); });
 }
 
 Browser::~Browser() = default;
