@@ -28,17 +28,24 @@ void scrivi(QByteArray &dati, qsizetype posto, quint16 valore) {
     qToBigEndian(valore, dati.data() + posto);
 }
 
-// Where the table OS/2 begins; -1 when there is none that can be read whole.
-qsizetype tabellaOs2(const QByteArray &file) {
+// Where the directory tells of a table; -1 when it doesn't.
+qsizetype voceDi(const QByteArray &file, const char *tabella) {
     if (file.size() < Intestazione)
         return -1;
     const int voci = leggi(file, 4);
     for (qsizetype voce = Intestazione; voce < Intestazione + voci * Voce && voce + Voce <= file.size(); voce += Voce)
-        if (QByteArrayView(file).sliced(voce, 4) == "OS/2") {
-            const auto inizio = qsizetype{qFromBigEndian<quint32>(file.constData() + voce + 8)};
-            return inizio + Selezione + 2 <= file.size() ? inizio : -1;
-        }
+        if (QByteArrayView(file).sliced(voce, 4) == tabella)
+            return voce;
     return -1;
+}
+
+// Where the table OS/2 begins; -1 when there is none that can be read whole.
+qsizetype tabellaOs2(const QByteArray &file) {
+    const qsizetype voce = voceDi(file, "OS/2");
+    if (voce < 0)
+        return -1;
+    const auto inizio = qsizetype{qFromBigEndian<quint32>(file.constData() + voce + 8)};
+    return inizio + Selezione + 2 <= file.size() ? inizio : -1;
 }
 
 void carica(const char *percorso) {
@@ -59,6 +66,8 @@ QByteArray carattereCorretto(QByteArray file) {
         scrivi(file, os2 + Peso, QuasiGrassetto);
     }
     scrivi(file, os2 + Selezione, selezione);
+    if (const qsizetype voce = voceDi(file, "EBLC"); voce >= 0)
+        file.replace(voce, 4, "senz");
     return file;
 }
 
