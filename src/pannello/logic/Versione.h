@@ -6,6 +6,9 @@
 
 namespace zuvora {
 
+// The label of the version that this program's data have.
+inline constexpr QStringView versioneCorrente = u"Versione 3.1.11";
+
 // The short form ("3.1.8") of an older version label ("Versione 3.1.8") that the program can bring to the current one;
 // nothing for every other label. Case counts.
 std::optional<QString> versioneDaAggiornare(QStringView etichetta);
