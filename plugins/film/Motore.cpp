@@ -148,9 +148,9 @@ void Motore::finisci() {
 void Motore::finisciSeFermo() {
     if (m_notizia.stato != StatoLettore::InCorso)
         return;
+    m_lettore->stop(); // tells of its way back to the start first
     m_notizia.stato = StatoLettore::Finito;
     m_notizia.posizione = m_notizia.durata;
-    m_lettore->stop();
     Q_EMIT notizia(m_notizia);
 }
 
