@@ -203,6 +203,14 @@ TEST(Apritori, LaDecorazioneSceltaVaSullaTelaNelSuoPiano) {
     QTest::mouseClick(&tela.w("Image1(1)"), Qt::RightButton);
     EXPECT_EQ(tela.form->childAt(centro)->objectName(), u"Image1(1)"_s);
     EXPECT_EQ(tela.form->childAt(tela.rettangolo("SSPanel1").topLeft() + QPoint(2, 2))->objectName(), u"Image2"_s);
+    scelta.percorso = altra.file(u"nuova.png"_s);
+    for (const Qt::GlobalColor colore : {Qt::red, Qt::blue}) { // the same file, drawn anew
+        QImage figura(colore == Qt::red ? 8 : 9, 8, QImage::Format_RGB32);
+        figura.fill(colore);
+        ASSERT_TRUE(figura.save(scelta.percorso));
+        QTest::mouseClick(&tela.w("Image1(1)"), Qt::RightButton);
+        EXPECT_EQ(QColor(tela.vista()(centro)), QColor(colore));
+    }
     scelta.percorso = altra.file(u"Zuvora.mdb"_s); // no picture
     QString righe;
     Guida guida;
