@@ -46,6 +46,7 @@ enum class Disegno : unsigned char {
     Informazione,
     Avviso,
     Critico,
+    Riuscita,
     SpostaFinestra, // grip that moves the whole designer
     Presa,          // dots of a drag strip
     // Illustrations, each with its own shape

@@ -60,7 +60,7 @@ constexpr Strato copia[] = {
 };
 
 constexpr Strato domanda[] = {
-    {"M2 16a14 14 0 1 1 28 0a14 14 0 1 1 -28 0z", Accento},
+    {"M2 16a14 14 0 1 1 28 0a14 14 0 1 1 -28 0z", Primario},
     {"M11.5 12.5a4.5 4.5 0 1 1 6.5 4q-2 1-2 3", Nessuna, Bianco, 3.2},
     {"M14 23.6a2 2 0 1 1 4 0a2 2 0 1 1 -4 0z", Bianco},
 };
@@ -80,6 +80,11 @@ constexpr Strato avviso[] = {
 constexpr Strato critico[] = {
     {"M2 16a14 14 0 1 1 28 0a14 14 0 1 1 -28 0z", Pericolo},
     {"M11 11l10 10M21 11l-10 10", Nessuna, Bianco, 3.6},
+};
+
+constexpr Strato riuscita[] = {
+    {"M2 16a14 14 0 1 1 28 0a14 14 0 1 1 -28 0z", Accento},
+    {"M9.5 16.5l4.5 4.8l8.5 -10", Nessuna, Bianco, 3.6},
 };
 
 constexpr Strato spostaFinestra[] = {
@@ -108,6 +113,7 @@ constexpr std::array figure{
     Figura{Disegno::Informazione, 32, 32, informazione},
     Figura{Disegno::Avviso, 32, 32, avviso},
     Figura{Disegno::Critico, 32, 32, critico},
+    Figura{Disegno::Riuscita, 32, 32, riuscita},
     Figura{Disegno::SpostaFinestra, 32, 32, spostaFinestra},
     Figura{Disegno::Presa, 32, 32, presa},
 };
