@@ -28,17 +28,31 @@ void scrivi(QByteArray &dati, qsizetype posto, quint16 valore) {
     qToBigEndian(valore, dati.data() + posto);
 }
 
-// Where the table OS/2 begins; -1 when there is none that can be read whole.
-qsizetype tabellaOs2(const QByteArray &file) {
+// Where the directory has a table; -1 when it has none.
+qsizetype voceDi(const QByteArray &file, const char *tabella) {
     if (file.size() < Intestazione)
         return -1;
     const int voci = leggi(file, 4);
     for (qsizetype voce = Intestazione; voce < Intestazione + voci * Voce && voce + Voce <= file.size(); voce += Voce)
-        if (QByteArrayView(file).sliced(voce, 4) == "OS/2") {
-            const auto inizio = qsizetype{qFromBigEndian<quint32>(file.constData() + voce + 8)};
-            return inizio + Selezione + 2 <= file.size() ? inizio : -1;
-        }
+        if (QByteArrayView(file).sliced(voce, 4) == tabella)
+            return voce;
     return -1;
+}
+
+// Where the table OS/2 begins; -1 when there is none that can be read whole.
+qsizetype tabellaOs2(const QByteArray &file) {
+    const qsizetype voce = voceDi(file, "OS/2");
+    if (voce < 0)
+        return -1;
+    const auto inizio = qsizetype{qFromBigEndian<quint32>(file.constData() + voce + 8)};
+    return inizio + Selezione + 2 <= file.size() ? inizio : -1;
+}
+
+// Ready-made small letters are not drawn, but their own heights would count.
+void nascondiLettereFatte(QByteArray &file) {
+    for (const char *tabella : {"EBLC", "EBDT"})
+        if (const qsizetype voce = voceDi(file, tabella); voce >= 0)
+            file[voce] = 'x';
 }
 
 void carica(const char *percorso) {
@@ -59,6 +73,7 @@ QByteArray carattereCorretto(QByteArray file) {
         scrivi(file, os2 + Peso, QuasiGrassetto);
     }
     scrivi(file, os2 + Selezione, selezione);
+    nascondiLettereFatte(file);
     return file;
 }
 
