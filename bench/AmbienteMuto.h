@@ -13,8 +13,8 @@ class NessunDialogo final : public Dialoghi {
 public:
     void messaggio(QWidget *, Icona, const QString &, const QString &) override {}
     std::optional<QString> apriFile(QWidget *, const RichiestaFile &) override { return {}; }
-    std::optional<QString> scegliCartella(QWidget *, const QString &) override { return {}; }
-    std::optional<FontScelto> scegliFont(QWidget *) override { return {}; }
+    std::optional<QString> scegliCartella(QWidget *, const QString &, const QString &) override { return {}; }
+    std::optional<FontScelto> scegliFont(QWidget *, const std::optional<FontScelto> &) override { return {}; }
     std::optional<int> scegliColore(QWidget *, int) override { return {}; }
 };
 

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QListWidget>
 #include <QPainter>
 #include <algorithm>
 #include <benchmark/benchmark.h>
@@ -31,7 +32,6 @@ InstallazioneProva &installazione() {
 void mostraEDipingi(QWidget &finestra) {
     finestra.show();
     QApplication::processEvents();
-    finestra.repaint();
 }
 
 void apriImpostatotem(benchmark::State &stato) {
@@ -65,8 +65,10 @@ void apriSemplice(benchmark::State &stato) {
                 copia = new QPushButton(u"testo"_s, &form);
             else if (qobject_cast<const QGroupBox *>(controllo) != nullptr)
                 copia = new QGroupBox(u"testo"_s, &form);
-            else if (qobject_cast<const QComboBox *>(controllo) != nullptr)
-                copia = new QComboBox(&form);
+            else if (qobject_cast<const QListWidget *>(controllo) != nullptr)
+                copia = new QListWidget(&form);
+            else if (qobject_cast<const QAbstractScrollArea *>(controllo->parentWidget()) != nullptr)
+                continue; // a part of the list
             else
                 copia = new QLabel(u"testo"_s, &form);
             copia->setGeometry(QRect(controllo->mapTo(&modello, QPoint()), controllo->size()));

@@ -41,7 +41,7 @@ const std::array tabelleTotem{
 };
 
 constexpr std::array cartelle{"ZuvoraDecorazioni"_L1, "ZuvoraSfondiHD"_L1, "Suoni"_L1};
-constexpr std::array testi{"FraseTTS.txt"_L1, "th19.rtf"_L1};
+constexpr std::array testi{"FraseTTS.txt"_L1, "th19.rtf"_L1, "Totem/Ticket.lbl"_L1};
 constexpr std::array necessari{"FraseTTS.txt"_L1, "th19.rtf"_L1, "ZuvoraSfondiHD/FH_grigio_8post_.jpg"_L1,
                                "ZuvoraDecorazioni/Cornici/stondata.gif"_L1};
 constexpr std::array categorie{"Cornici"_L1, "Banner"_L1, "Elementi"_L1};
@@ -81,6 +81,10 @@ QByteArray righeDi(QLatin1StringView righe, bool esempio) {
     if (esempio)
         testo = leggi(u"esempio/%1.csv"_s.arg(righe));
     return testo.isEmpty() ? leggi(u"righe/%1.csv"_s.arg(righe)) : testo;
+}
+
+QByteArray improntePredefinite() {
+    return leggi(u"impronte.txt"_s);
 }
 
 QByteArray testoDi(QLatin1StringView file) {

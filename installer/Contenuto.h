@@ -40,5 +40,7 @@ QLatin1StringView cartellaDecorazioni(int tipo);
 QByteArray schemaDi(const Archivio &archivio);
 QByteArray righeDi(QLatin1StringView righe, bool esempio = false);
 QByteArray testoDi(QLatin1StringView file);
+// "SHA-256 name" of each picture, sound and text that the product brings, a line each.
+QByteArray improntePredefinite();
 
 } // namespace zuvora::installa

@@ -6,6 +6,7 @@
 #include "installer/Esempio.h"
 #include "installer/File.h"
 #include "installer/Guasto.h"
+#include "installer/Programma.h"
 
 #include "shell/logic/IndirizzoWeb.h"
 #include "shell/store/EngineError.h"
@@ -26,11 +27,7 @@ void copiaProgramma(const QString &origine, const QString &destinazione) {
     if (!QFileInfo(da.filePath(u"zuvora"_s)).isFile())
         throw Guasto{
             u"Nella cartella %1 manca il programma zuvora, che va copiato nell'installazione."_s.arg(nativo(origine))};
-    QStringList voci =
-        da.entryList({u"zuvora"_s, u"zuvora-installa"_s, u"zuvora-biglietto"_s, u"libzuvora-*.so"_s}, QDir::Files);
-    if (QFileInfo(da.filePath(u"plugins"_s)).isDir())
-        voci += u"plugins"_s;
-    for (const QString &voce : voci)
+    for (const QString &voce : partiDelProgramma(origine))
         copia(da.filePath(voce), destinazione + u'/' + voce);
 }
 
@@ -42,8 +39,10 @@ void copiaFile(const QString &origine, const QString &destinazione) {
                 nativo(origine), cartella)};
         copia(da, destinazione + u'/' + cartella);
     }
-    for (const QLatin1StringView file : fileDiTesto())
+    for (const QLatin1StringView file : fileDiTesto()) {
+        creaCartella(QFileInfo(destinazione + u'/' + file).path());
         scriviNuovo(destinazione + u'/' + file, testoDi(file));
+    }
 }
 
 void prepara(const QString &destinazione, const QString &cartella, const OpzioniCrea &opzioni) {

@@ -30,12 +30,6 @@ QString motivo(int errore) {
     return frase;
 }
 
-// As the user knows it: without the hidden folder in which an installation is put together.
-QString posto(const QString &file) {
-    static const QRegularExpression preparazione(u"/\\.zuvora-installa-[^/]*"_s);
-    return QDir::toNativeSeparators(QString(file).remove(preparazione));
-}
-
 [[noreturn]] void fallisci(int errore, const QString &azione, const QString &file) {
     throw Guasto{u"Impossibile %1 %2: %3"_s.arg(azione, posto(file), motivo(errore))};
 }
@@ -103,6 +97,11 @@ void sincronizzaVoce(const QString &voce) {
         fallisci(errno, u"scrivere"_s, voce);
 }
 } // namespace
+
+QString posto(const QString &file) {
+    static const QRegularExpression preparazione(u"/\\.zuvora-installa-[^/]*"_s);
+    return QDir::toNativeSeparators(QString(file).remove(preparazione));
+}
 
 void creaCartella(const QString &cartella) {
     std::error_code errore;

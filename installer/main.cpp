@@ -1,16 +1,22 @@
 #include "installer/Crea.h"
+#include "installer/Disegna.h"
 #include "installer/Interruzione.h"
+#include "installer/Programma.h"
 #include "installer/Verifica.h"
+#include "installer/copia/Ripristina.h"
+#include "installer/copia/Salva.h"
 #include "installer/importa/FonteAccess.h"
 #include "installer/importa/Importa.h"
 #include "installer/importa/LettoreAccess.h"
 
-#include <QCoreApplication>
 #include <QFile>
+#include <QGuiApplication>
 #include <QHash>
 #include <array>
 #include <csignal>
 #include <cstdio>
+#include <cstring>
+#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace zuvora::installa;
@@ -28,6 +34,16 @@ const auto istruzioni =
     "  importa VECCHIO.mdb [--totem VECCHIO_TOTEM.mdb] [--cartella VECCHIA] CARTELLA\n"
     "                      crea un'installazione dai database di una vecchia, in formato Access 97 o 2000-2003;\n"
     "                      --cartella prende dalla vecchia cartella immagini, playlist, suoni e frase\n"
+    "  aggiorna CARTELLA   porta nell'installazione il programma di questa macchina; i dati restano come sono\n"
+    "  disegna CARTELLA LAYOUT FILE.png\n"
+    "                      scrive l'immagine di un layout (LayoutBase, Layout1 ... Layout10)\n"
+    "  salva [--tieni N] CARTELLA FILE\n"
+    "                      salva l'installazione in un file, anche con il programma aperto; con --tieni il nome\n"
+    "                      prende la data e restano le ultime N copie\n"
+    "  ripristina [--sopra] FILE CARTELLA\n"
+    "                      rifà l'installazione di una copia nella cartella, nuova o vuota; con --sopra al posto\n"
+    "                      di quella che c'è, che prima viene salvata\n"
+    "  elenca FILE         mostra che cosa contiene una copia\n"
     "  verifica CARTELLA   controlla un'installazione senza modificarla: una riga per ogni difetto; le note\n"
     "                      non sono difetti\n"
     "  --help              mostra queste istruzioni\n"
@@ -77,11 +93,50 @@ int importa(const Richiesta &richiesta) {
     }));
 }
 
+int aggiorna(const Richiesta &richiesta) {
+    ascoltaInterruzioni();
+    return riferisci(aggiornaInstallazione(richiesta.argomenti.first()));
+}
+
+int disegna(const Richiesta &richiesta) {
+    return riferisci(disegnaLayout(richiesta.argomenti.at(0), richiesta.argomenti.at(1), richiesta.argomenti.at(2)));
+}
+
+// Only the drawing of a layout needs the graphics module, and no display.
+std::unique_ptr<QCoreApplication> applicazione(int &argc, char **argv) {
+    if (argc < 2 || std::strcmp(argv[1], "disegna") != 0)
+        return std::make_unique<QCoreApplication>(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
 int leggiPerAltri(const QString &file) {
     QFile uscita;
     if (!uscita.open(stdout, QIODevice::WriteOnly))
         return NonRiuscito;
     return leggiAccess(file, uscita);
+}
+
+int salva(const Richiesta &richiesta) {
+    ascoltaInterruzioni();
+    OpzioniSalva opzioni{richiesta.argomenti.at(0), richiesta.argomenti.at(1), 0};
+    if (richiesta.opzioni.contains(u"--tieni"_s)) {
+        opzioni.tieni = richiesta.opzioni.value(u"--tieni"_s).toInt();
+        if (opzioni.tieni < 1)
+            return usoErrato(u"Con --tieni va un numero da 1 in su."_s);
+    }
+    return riferisci(salvaInstallazione(opzioni, [](const QString &riga) { scrivi(stdout, riga + u'\n'); }));
+}
+
+int ripristina(const Richiesta &richiesta) {
+    ascoltaInterruzioni();
+    OpzioniRipristina opzioni{richiesta.argomenti.at(0), richiesta.opzioni.contains(u"--sopra"_s), {}};
+    opzioni.crea.cartella = richiesta.argomenti.at(1);
+    return riferisci(ripristinaInstallazione(opzioni));
+}
+
+int elenca(const Richiesta &richiesta) {
+    return riferisci(elencaCopia(richiesta.argomenti.first()));
 }
 
 int verifica(const Richiesta &richiesta) {
@@ -132,13 +187,18 @@ int main(int argc, char **argv) {
 #ifdef SIGXFSZ
     std::signal(SIGXFSZ, SIG_IGN);
 #endif
-    const QCoreApplication app(argc, argv);
+    const auto app = applicazione(argc, argv);
     QCoreApplication::setApplicationVersion(QStringLiteral(ZUVORA_VERSIONE));
 
     const std::array comandi{
         Comando{"crea"_L1, {u"--esempio"_s}, {u"--notizie"_s}, {u"la cartella"_s}, crea},
         Comando{
             "importa"_L1, {}, {u"--totem"_s, u"--cartella"_s}, {u"il vecchio database"_s, u"la cartella"_s}, importa},
+        Comando{"aggiorna"_L1, {}, {}, {u"la cartella"_s}, aggiorna},
+        Comando{"disegna"_L1, {}, {}, {u"la cartella"_s, u"il layout"_s, u"il file"_s}, disegna},
+        Comando{"salva"_L1, {}, {u"--tieni"_s}, {u"la cartella"_s, u"il file della copia"_s}, salva},
+        Comando{"ripristina"_L1, {u"--sopra"_s}, {}, {u"il file della copia"_s, u"la cartella"_s}, ripristina},
+        Comando{"elenca"_L1, {}, {}, {u"il file della copia"_s}, elenca},
         Comando{"verifica"_L1, {}, {}, {u"la cartella"_s}, verifica}};
     QStringList argomenti = QCoreApplication::arguments().mid(1);
     if (argomenti.isEmpty())

@@ -6,11 +6,16 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QThread>
+#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace zuvora {
 namespace {
+
+// What has been decoded to its end sounds on for this time: the output holds it still.
+constexpr auto Coda = 150ms;
 
 // The ear hears loudness by ratios.
 float perOrecchio(int percento) {
@@ -99,8 +104,8 @@ void Motore::aggiorna() {
             guasta(GuastoLettore::Interrotto, u"La stazione ha smesso di trasmettere."_s);
             return;
         }
-        m_notizia.stato = StatoLettore::Finito;
-        m_notizia.posizione = m_notizia.durata;
+        QTimer::singleShot(m_notizia.haUscita ? Coda : 0ms, this, &Motore::finisci);
+        return;
     } else if (m_lettore->playbackState() == QMediaPlayer::PlayingState) {
         m_notizia.stato = StatoLettore::InCorso;
     } else if (m_lettore->playbackState() == QMediaPlayer::PausedState) {
@@ -108,6 +113,14 @@ void Motore::aggiorna() {
     } else {
         return; // stopped: the end follows
     }
+    Q_EMIT notizia(m_notizia);
+}
+
+void Motore::finisci() {
+    if (m_notizia.stato == StatoLettore::Guasto || m_lettore->mediaStatus() != QMediaPlayer::EndOfMedia)
+        return; // begun again meanwhile
+    m_notizia.stato = StatoLettore::Finito;
+    m_notizia.posizione = m_notizia.durata;
     Q_EMIT notizia(m_notizia);
 }
 

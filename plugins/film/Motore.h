@@ -41,6 +41,7 @@ private:
     bool prepara();
     void apri(const QUrl &indirizzo);
     void aggiorna();
+    void finisci();
     void guasta(GuastoLettore guasto, const QString &motivo);
     void sbaglia(const QString &dettaglio);
 

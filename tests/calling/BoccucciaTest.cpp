@@ -62,6 +62,7 @@ TEST_F(ProvaBoccuccia, LeggeESalvaGliStessiByte) {
          "RB1(1) VociPS(1)",
          {}},
         {"\"altro\",7,8,9", "", "\"altro\",0,0,1\r\n"},
+        {QByteArray("\"a\0b\",0,1,0\r\n", 13), "RB1(0) VociPS(0)", {}},
     };
     for (const auto &[byte, accesi, dopo] : casi) {
         scrivi(byte);
@@ -112,15 +113,20 @@ TEST_F(ProvaBoccuccia, UnFileStranoSiDiceEUnoMancanteNo) {
     QFile::remove(file());
     apri();
     EXPECT_EQ(frase().toPlainText(), u""_s);
-    ASSERT_EQ(mkfifo(file().toUtf8().constData(), 0600), 0);
-    QString righe;
-    {
+    const auto avvisoAllaApertura = [this] {
+        QString righe;
         Guida guida;
         guida.messaggio(&righe);
         apri();
         EXPECT_TRUE(QTest::qWaitFor([&] { return guida.finita(); }));
-    }
-    EXPECT_TRUE(righe.startsWith(u"La frase salvata non si può leggere !\n"_s)) << righe.toStdString();
+        return righe;
+    };
+    const QString inizio = u"La frase salvata non si può leggere !\n"_s;
+    scrivi(QByteArray(10 * 1024 * 1024, 'x'));
+    EXPECT_TRUE(avvisoAllaApertura().startsWith(inizio));
+    QFile::remove(file());
+    ASSERT_EQ(mkfifo(file().toUtf8().constData(), 0600), 0);
+    EXPECT_TRUE(avvisoAllaApertura().startsWith(inizio));
 }
 
 TEST_F(ProvaBoccuccia, LaVoceDiSistemaSpegneLaScelta) {

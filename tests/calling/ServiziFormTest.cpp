@@ -124,6 +124,17 @@ TEST_F(ProvaServizi, UnaRigaSiLibera) {
     EXPECT_EQ(attivi(), u"0"_s);
 }
 
+TEST_F(ProvaServizi, DopoUnaScritturaFallitaSiContinua) {
+    apri();
+    i.esegui(u"CREATE TRIGGER no BEFORE UPDATE ON Servizi BEGIN SELECT RAISE(FAIL, 'no'); END"_s);
+    doppioClic(1);
+    EXPECT_FALSE(i.dialoghi.unicoMessaggio().isEmpty());
+    EXPECT_EQ(attivi(), u"1"_s);
+    i.esegui(u"DROP TRIGGER no"_s);
+    doppioClic(1);
+    EXPECT_EQ(attivi(), u"2"_s);
+}
+
 TEST_F(ProvaServizi, UnaTabellaVuotaNonFaNulla) {
     i.esegui(u"DELETE FROM Servizi"_s);
     apri();

@@ -1,36 +1,38 @@
 #include "calling/logic/Postazioni.h"
 #include "calling/logic/Servizi.h"
 #include "calling/logic/Suoni.h"
-#include "store/Archivio.h"
+#include "kit/Fratello.h"
+#include "shell/store/Data.h"
+#include "shell/store/EngineError.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
 
 namespace zuvora {
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
-using prova::Fratello;
 
 class ProvaTabelle : public testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_EQ(f.esegui("CREATE TABLE Servizi(ID INTEGER PRIMARY KEY, Servizio TEXT, ServizioAttivo BOOLEAN, "
-                           "Percorsofoto TEXT);"
-                           "INSERT INTO Servizi VALUES(2,'Cassa',1,'foto.png'),(1,'nessun SERVIZIO',0,''),"
-                           "(3,'Esami',0,''),(4,NULL,NULL,NULL);"
-                           "CREATE TABLE PostazioneUtente(Posto1SS, Posto2SS, Posto3SS, Posto4SS, Posto5SS, Posto6SS, "
-                           "Posto7SS, Posto8SS, Posto9SS, Posto10SS);"
-                           "INSERT INTO PostazioneUtente(Posto1SS, Posto2SS, Posto3SS, Posto10SS)"
-                           "VALUES('SG', 'ST', 'sg', 'ST');"
-                           "CREATE TABLE Configurazione(dindon TEXT, PlayDinDon BOOLEAN);"
-                           "INSERT INTO Configurazione VALUES(NULL, NULL);"
-                           "CREATE TABLE DinDon(ID INTEGER PRIMARY KEY, DinDon TEXT);"
-                           "INSERT INTO DinDon VALUES(1, NULL)"),
-                  SQLITE_OK);
+        f.esegui(u"CREATE TABLE Servizi(ID INTEGER PRIMARY KEY, Servizio TEXT, ServizioAttivo BOOLEAN, "
+                 "Percorsofoto TEXT);"
+                 "INSERT INTO Servizi VALUES(2,'Cassa',1,'foto.png'),(1,'nessun SERVIZIO',0,''),"
+                 "(3,'Esami',0,''),(4,NULL,NULL,NULL);"
+                 "CREATE TABLE PostazioneUtente(Posto1SS, Posto2SS, Posto3SS, Posto4SS, Posto5SS, Posto6SS, "
+                 "Posto7SS, Posto8SS, Posto9SS, Posto10SS);"
+                 "INSERT INTO PostazioneUtente(Posto1SS, Posto2SS, Posto3SS, Posto10SS)"
+                 "VALUES('SG', 'ST', 'sg', 'ST');"
+                 "CREATE TABLE Configurazione(dindon TEXT, PlayDinDon BOOLEAN);"
+                 "INSERT INTO Configurazione VALUES(NULL, NULL);"
+                 "CREATE TABLE DinDon(ID INTEGER PRIMARY KEY, DinDon TEXT);"
+                 "INSERT INTO DinDon VALUES(1, NULL)"_s);
     }
-    QString riga(const char *id) {
-        return f.leggi(QByteArray("SELECT quote(Servizio)||','||quote(ServizioAttivo)||','||quote(Percorsofoto) FROM "
-                                  "Servizi WHERE ID=")
-                           .append(id)
-                           .constData());
+    QString leggi(const QString &sql) { return f.valore(sql).toString(); }
+    QString riga(int id) {
+        return leggi(u"SELECT quote(Servizio)||','||quote(ServizioAttivo)||','||quote(Percorsofoto) FROM Servizi "
+                     "WHERE ID=%1"_s.arg(id));
     }
     Recordset &servizi() { return apri(Data8, cartella(), SorgenteServizi.toString()); }
     QString cartella() const { return m_cartella.path(); }
@@ -45,19 +47,19 @@ TEST_F(ProvaTabelle, UnServizioSiAccendeSpegneELibera) {
     EXPECT_EQ(contaAttivi(Data1, cartella()), 1);
     Recordset &s = servizi(); // on row 1, which is free
     EXPECT_FALSE(scambiaStato(s));
-    EXPECT_EQ(riga("1"), u"'nessun SERVIZIO',0,''"_s);
+    EXPECT_EQ(riga(1), u"'nessun SERVIZIO',0,''"_s);
     s.SetAbsolutePosition(3); // Null counts as named and off
     EXPECT_TRUE(scambiaStato(s));
-    EXPECT_EQ(riga("4"), u"NULL,1,NULL"_s);
+    EXPECT_EQ(riga(4), u"NULL,1,NULL"_s);
     EXPECT_EQ(contaAttivi(Data1, cartella()), 2);
     s.SetAbsolutePosition(1);
     EXPECT_TRUE(scambiaStato(s));
-    EXPECT_EQ(riga("2"), u"'Cassa',0,'foto.png'"_s);
+    EXPECT_EQ(riga(2), u"'Cassa',0,'foto.png'"_s);
     liberaServizio(s);
-    EXPECT_EQ(riga("2"), u"'Nessun Servizio',0,''"_s);
+    EXPECT_EQ(riga(2), u"'Nessun Servizio',0,''"_s);
     scriviServizio(s, u"L'\"altro\" 100%"_s, true);
-    EXPECT_EQ(riga("2"), u"'L''\"altro\" 100%',1,''"_s);
-    f.esegui("UPDATE Servizi SET ServizioAttivo=0");
+    EXPECT_EQ(riga(2), u"'L''\"altro\" 100%',1,''"_s);
+    f.esegui(u"UPDATE Servizi SET ServizioAttivo=0"_s);
     EXPECT_EQ(contaAttivi(Data1, cartella()), 0);
 }
 
@@ -65,13 +67,13 @@ TEST_F(ProvaTabelle, UnServizioSiAccendeSpegneELibera) {
 TEST_F(ProvaTabelle, LaRigaApertaELaRigaScritta) {
     Recordset &s = servizi();
     s.SetAbsolutePosition(2);
-    f.esegui("DELETE FROM Servizi WHERE ID=1; UPDATE Servizi SET Servizio='Altro nome' WHERE ID=3");
+    f.esegui(u"DELETE FROM Servizi WHERE ID=1; UPDATE Servizi SET Servizio='Altro nome' WHERE ID=3"_s);
     scriviServizio(s, u"Prelievi"_s, true);
-    EXPECT_EQ(riga("3"), u"'Prelievi',1,''"_s);
-    EXPECT_EQ(riga("2"), u"'Cassa',1,'foto.png'"_s);
-    f.esegui("DELETE FROM Servizi WHERE ID=3");
+    EXPECT_EQ(riga(3), u"'Prelievi',1,''"_s);
+    EXPECT_EQ(riga(2), u"'Cassa',1,'foto.png'"_s);
+    f.esegui(u"DELETE FROM Servizi WHERE ID=3"_s);
     EXPECT_THROW(scriviServizio(s, u"Nulla"_s, true), EngineError);
-    EXPECT_EQ(f.leggi("SELECT count(*) FROM Servizi"), u"2"_s);
+    EXPECT_EQ(leggi(u"SELECT count(*) FROM Servizi"_s), u"2"_s);
 }
 
 TEST_F(ProvaTabelle, OgniPostazioneHaIlSuoTipo) {
@@ -80,7 +82,7 @@ TEST_F(ProvaTabelle, OgniPostazioneHaIlSuoTipo) {
         ImpostaPostazione(cartella(), i);
         EXPECT_EQ(leggiPostazioni(cartella())[std::size_t(i / 2)], i);
     }
-    EXPECT_EQ(f.leggi("SELECT Posto1SS||Posto10SS FROM PostazioneUtente"), u"STST"_s);
+    EXPECT_EQ(leggi(u"SELECT Posto1SS||Posto10SS FROM PostazioneUtente"_s), u"STST"_s);
     EXPECT_THROW(ImpostaPostazione(cartella(), 20), std::out_of_range);
     EXPECT_THROW(ImpostaPostazione(cartella(), -1), std::out_of_range);
 }
@@ -103,12 +105,12 @@ TEST_F(ProvaTabelle, SuonoPredefinitoEUso) {
     Recordset &suoni = apri(Data1, cartella(), SorgenteSuoni.toString());
     EXPECT_EQ(suonoCorrente(suoni), u""_s);
     aggiungiSuono(suoni, u"\\\\PC1\\din.wav"_s);
-    EXPECT_EQ(f.leggi("SELECT DinDon FROM DinDon WHERE ID=2"), u"\\\\PC1\\din.wav"_s);
+    EXPECT_EQ(leggi(u"SELECT DinDon FROM DinDon WHERE ID=2"_s), u"\\\\PC1\\din.wav"_s);
     EXPECT_FALSE(leggiUsoSuono(cartella()));
     salvaUsoSuono(cartella(), true);
     salvaSuonoPredefinito(cartella(), u"x"_s);
     EXPECT_TRUE(leggiUsoSuono(cartella()));
-    EXPECT_EQ(f.leggi("SELECT dindon||PlayDinDon FROM Configurazione"), u"x1"_s);
+    EXPECT_EQ(leggi(u"SELECT dindon||PlayDinDon FROM Configurazione"_s), u"x1"_s);
 }
 
 } // namespace

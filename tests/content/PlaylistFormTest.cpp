@@ -47,7 +47,7 @@ protected:
     void attendiBox() {
         ASSERT_TRUE(QTest::qWaitFor([&] { return !(m_box = i.dialoghi.prendiBox()).empty(); }, Attesa_ms));
     }
-    static ElencoPercorsi &lista(QWidget &form) { return trova<ElencoPercorsi>(form, "List2"); }
+    static ListBox &lista(QWidget &form) { return trova<ListBox>(form, "List2"); }
     static QString attiva(QWidget &form) { return trova<Label>(form, "Label1(1)").Caption(); }
     // A click on a line of a list.
     static void scegli(QListWidget &elenco, int riga) {
@@ -85,7 +85,7 @@ TEST_F(ProvaPlaylistForm, EntriesMoveAndGo) {
     clic(*form, "Command2");
     clic(*form, "Command3");
     clic(*form, "Command10");
-    ElencoPercorsi &elenco = lista(*form);
+    ListBox &elenco = lista(*form);
     const QString a = foto(u"a.jpg"_s);
     const QString b = foto(u"b.jpg"_s);
     const QString c = foto(u"c.jpg"_s);
@@ -177,7 +177,11 @@ TEST_F(ProvaPlaylistForm, TheDefaultAndItsTime) {
     EXPECT_EQ(premi(*form, "Command89"), u"Impostare valore compreso fra 1 e 60"_s);
     EXPECT_EQ(i.valore(u"SELECT playlistFoto FROM Configurazione"_s), QVariant());
     QTest::keyClick(&tempo, Qt::Key_Backspace);
-    EXPECT_EQ(premi(*form, "Command89"), u"PlayList impostata come predefinita !"_s);
+    QString detto;
+    Guida guida;
+    guida.messaggio(&detto);
+    QTest::keyClick(&tempo, Qt::Key_Return);
+    EXPECT_EQ(detto, u"PlayList impostata come predefinita !"_s);
     EXPECT_EQ(i.righe(u"SELECT playlistFoto, tempo FROM Configurazione"_s),
               QStringList{i.file(u"sala.zvi"_s) + u"|6000"_s});
     EXPECT_EQ(trova<QLineEdit>(*apri<ImpostaFoto>(), "text1").text(), u"6"_s);
@@ -243,6 +247,15 @@ TEST_F(ProvaPlaylistForm, SavedUnderANewNameTheFirstIsShown) {
     clic(*form, "PushButton1");
     EXPECT_EQ(attiva(*form), QString());
     EXPECT_EQ(lista(*form).ListCount(), 0);
+}
+
+TEST_F(ProvaPlaylistForm, WhatCannotBeDeletedStays) {
+    scrivi(u"sala.zvi"_s, foto(u"a.jpg"_s).toLatin1() + "\r\n");
+    auto form = apri<ImpostaFoto>();
+    QFile::remove(i.file(u"sala.zvi"_s));
+    QDir(i.cartella()).mkpath(u"sala.zvi/x"_s); // a folder that isn't empty
+    EXPECT_TRUE(premi(*form, "PushButton1").startsWith(u"Il file non è stato eliminato !"_s));
+    EXPECT_EQ(lista(*form).ListCount(), 1);
 }
 
 TEST_F(ProvaPlaylistForm, FilesOfAFileManagerAreAppendedWhenTheyMatch) {

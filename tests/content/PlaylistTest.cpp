@@ -1,6 +1,8 @@
 #include "content/logic/Playlist.h"
 #include "content/logic/ControlloPlaylist.h"
+#include "kit/FintoSistema.h"
 #include "kit/InstallazioneProva.h"
+#include "shell/logic/Percorsi.h"
 
 #include <QDir>
 #include <QFile>
@@ -43,6 +45,18 @@ TEST_F(ProvaPlaylist, TheReport) {
     EXPECT_EQ(scriviRapporto(PlaylistFoto, {}), QString());
     EXPECT_EQ(leggi(u"FileImmaginiMancanti.txt"_s), "");
     QDir::setCurrent(prima);
+}
+
+TEST_F(ProvaPlaylist, AnEntryInAnyForm) {
+    const auto sistema = std::make_shared<FintoSistema>();
+    sistema->albero = {{u"/foto"_s, Specie::Cartella}, {u"/foto/A.jpg"_s, Specie::File}};
+    const Percorsi percorsi(sistema);
+    const std::pair<QString, bool> casi[] = {
+        {u"/foto/A.jpg"_s, true}, {u"C:\\foto\\a.JPG"_s, true},        {u"\\\\SALA1\\foto\\A.jpg"_s, true},
+        {u"/foto"_s, false},      {u"/foto/b.jpg"_s, false},           {u""_s, false},
+        {cartella.path(), false}, {u"\\\\ALTRA\\foto\\A.jpg"_s, false}};
+    for (const auto &[voce, presente] : casi)
+        EXPECT_EQ(vocePresente(percorsi, voce), presente) << voce.toStdString();
 }
 
 // A path service that never answers for what lies in some folders.

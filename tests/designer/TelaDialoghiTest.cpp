@@ -114,13 +114,18 @@ TEST(Pagine, IlFontSceltoEIlTestoArrivanoAlTitolo) {
     EXPECT_EQ(tela.e("Text9(0)").didascalia, QString(50, u'x'));
 }
 
-// Watches a control for the moment in which it is disabled.
+// Watches a control for the moment in which it is disabled: a second click then finds nobody.
 class Spia : public QObject {
 public:
     explicit Spia(QWidget &w) : m_w(w) { w.installEventFilter(this); }
     int lampi = 0;
     bool eventFilter(QObject *, QEvent *e) override {
-        lampi += e->type() == QEvent::EnabledChange && !m_w.isEnabled() ? 1 : 0;
+        if (e->type() != QEvent::EnabledChange || m_w.isEnabled())
+            return false;
+        ++lampi;
+        QMouseEvent clic(QEvent::MouseButtonPress, QPointF(4, 4), m_w.mapToGlobal(QPointF(4, 4)), Qt::RightButton,
+                         Qt::RightButton, {});
+        QCoreApplication::sendEvent(&m_w, &clic);
         return false;
     }
 
@@ -139,7 +144,7 @@ TEST(Lampo, ChiApreUnaFinestraSiSpegneUnMomento) {
                    {u"UPDATE Layout1 SET Visibile=1, \"left\"=6000, \"top\"=2000 WHERE DescCampo='Image1(5)'"_s},
                    apritori);
     for (const auto &[elemento, lampi] :
-         {std::pair("Text9(1)", 1), {"Pannello1(1)", 0}, {"Image1(5)", 1}, {"WB1", 1}, {"MP1", 0}}) {
+         {std::pair("Text9(1)", 1), {"Text1(3)", 1}, {"Pannello1(1)", 0}, {"Image1(5)", 1}, {"WB1", 1}, {"MP1", 0}}) {
         Guida guida;
         if (elemento[0] == 'T' || elemento[0] == 'P')
             guida.premi("Form2", "Btn(1)");
@@ -198,6 +203,14 @@ TEST(Apritori, LaDecorazioneSceltaVaSullaTelaNelSuoPiano) {
     QTest::mouseClick(&tela.w("Image1(1)"), Qt::RightButton);
     EXPECT_EQ(tela.form->childAt(centro)->objectName(), u"Image1(1)"_s);
     EXPECT_EQ(tela.form->childAt(tela.rettangolo("SSPanel1").topLeft() + QPoint(2, 2))->objectName(), u"Image2"_s);
+    scelta.percorso = altra.file(u"nuova.png"_s);
+    for (const Qt::GlobalColor colore : {Qt::red, Qt::blue}) { // the same file, drawn anew
+        QImage figura(colore == Qt::red ? 8 : 9, 8, QImage::Format_RGB32);
+        figura.fill(colore);
+        ASSERT_TRUE(figura.save(scelta.percorso));
+        QTest::mouseClick(&tela.w("Image1(1)"), Qt::RightButton);
+        EXPECT_EQ(QColor(tela.vista()(centro)), QColor(colore));
+    }
     scelta.percorso = altra.file(u"Zuvora.mdb"_s); // no picture
     QString righe;
     Guida guida;

@@ -159,12 +159,14 @@ TEST(Tela, SalvaERiapreComeLasciata) {
     tela.trascina(presa, presa + QPoint(-33, 11));
     clicca(*tela.form, "Btn(22)");
     const Area video = tela.e("MP1").area;
+    tela.e("WB1").area.width = 3000;
     QString righe;
     Guida guida;
     guida.messaggio(&righe);
     clicca(*tela.form, "Btn(16)");
     EXPECT_EQ(righe, u"Memorizzazione effettuata !"_s);
     EXPECT_EQ(tela.e("WB1").area.width, 6760);
+    EXPECT_EQ(tela.rettangolo("WB1").width(), 451);
     DisplayLayout riaperto(u"Layout1"_s);
     CaricaLayout(riaperto, tela.immagini, tela.installazione.cartella());
     EXPECT_EQ(riaperto.elemento(TipoElemento::MP1).area, video);

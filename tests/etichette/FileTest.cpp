@@ -52,6 +52,12 @@ TEST(FileBiglietto, AndataERitorno) {
             << modello.nome.toStdString();
 }
 
+TEST(FileBiglietto, IlBigliettoDiSerieEIlPrimoDeiPronti) {
+    const EtichettaLetta letta = leggiEtichetta(QStringLiteral(BIGLIETTO_DI_SERIE));
+    ASSERT_TRUE(letta.etichetta) << letta.motivo.toStdString();
+    EXPECT_TRUE(*letta.etichetta == modelliPronti().first().etichetta);
+}
+
 TEST(FileBiglietto, QuelloCheNonSiConosceResta) {
     QJsonObject json = QJsonDocument::fromJson(testoEtichetta(piena())).object();
     json[u"autore"_s] = u"Rossi"_s;

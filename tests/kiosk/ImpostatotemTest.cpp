@@ -86,6 +86,9 @@ TEST_F(ProvaImpostatotem, TheFontDialogFillsItsGroupAndItsCancelNothing) {
     EXPECT_TRUE(trova<CheckBox>(form(), "Check1Data").isChecked());
     EXPECT_EQ(casella("FontTitolo").text(), u"Arial"_s);
     clic("PBData");
+    ASSERT_TRUE(i.dialoghi.primoFont);
+    EXPECT_EQ(i.dialoghi.primoFont->nome, u"Verdana"_s);
+    EXPECT_EQ(i.dialoghi.primoFont->misura, 8.25);
     EXPECT_EQ(casella("FontData").text(), u"Verdana"_s);
     EXPECT_TRUE(trova<CheckBox>(form(), "Check2Data").isChecked());
 }

@@ -3,6 +3,8 @@
 #include "kit/FintoSistema.h"
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
+#include "shell/store/EngineError.h"
+#include "store/Ostacoli.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -227,6 +229,43 @@ TEST_F(ProvaImpostazione, AWriteThatFailsIsToldAndKeepsWhatWasTyped) {
     QTest::mouseClick(&trova<QWidget>(*form, "Na1(5)"), Qt::LeftButton);
     EXPECT_EQ(i.dialoghi.unicoMessaggio(), u"Numero Modificato !"_s);
     EXPECT_EQ(numero(u"P5"_s), u"17"_s);
+}
+
+TEST_F(ProvaImpostazione, AFullDiskIsTold) {
+    scrivi("NumIniz(2)", "77");
+    {
+        const prova::LimiteFile pieno(512);
+        QTest::mouseClick(&trova<QWidget>(*form, "Salvain"), Qt::LeftButton);
+    }
+    EXPECT_TRUE(i.dialoghi.unicoMessaggio().contains(u"TotemZuvora.mdb"_s));
+    EXPECT_EQ(casella("NumIniz(2)").text(), u"77"_s);
+    EXPECT_EQ(numero(u"P2"_s, u"NumerazioneIniziale"_s), u"1"_s);
+}
+
+TEST_F(ProvaImpostazione, AKioskThatFallsSilentIsToldInTime) {
+    const auto sistema = std::make_shared<FintoSistema>();
+    sistema->albero[totem()] = Specie::File;
+    form = std::make_unique<Impostazione>(i.ambiente, i.file(u"Totem"_s), nullptr, Percorsi(sistema));
+    form->show();
+    sistema->muta = totem();
+    scrivi("Modifnr(1)", "9");
+    QTest::mouseClick(&trova<QWidget>(*form, "Na1(1)"), Qt::LeftButton);
+    EXPECT_TRUE(i.dialoghi.unicoMessaggio().contains(u"non risponde"_s));
+    EXPECT_EQ(casella("Modifnr(1)").text(), u"9"_s);
+    sistema->risveglia();
+    // What was asked may still be done, and must be over before its file goes.
+    EXPECT_TRUE(QTest::qWaitFor([this] { return numero(u"P1"_s) == u"9"_s; }));
+}
+
+TEST_F(ProvaVarie, AnUnusableDatabaseOpensNoNumbering) {
+    for (const QByteArray &contenuto : {QByteArray(), QByteArray(5000, 'x')}) {
+        QFile file(totem());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(contenuto);
+        file.close();
+        EXPECT_THROW(Impostazione(i.ambiente, i.file(u"Totem"_s), nullptr), EngineError);
+        EXPECT_EQ(file.size(), contenuto.size());
+    }
 }
 
 } // namespace

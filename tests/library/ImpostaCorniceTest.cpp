@@ -1,6 +1,7 @@
 #include "library/forms/ImpostaCornice.h"
 #include "kit/InstallazioneProva.h"
 #include "library/Premi.h"
+#include "shell/host/Grid.h"
 
 #include <QCheckBox>
 #include <QFile>
@@ -50,6 +51,23 @@ TEST_F(ProvaCornice, SenzaSceltaNonCambiaNulla) {
     Guida guida;
     guida.premi("ImpostaCornice", "Btn(1)");
     EXPECT_FALSE(apriImpostaCornice(i.ambiente, 1, nullptr));
+}
+
+TEST_F(ProvaCornice, DoppioClicEInvioApplicano) {
+    for (const bool mouse : {true, false}) {
+        ImpostaCornice form(i.ambiente, 1, nullptr);
+        form.show();
+        auto &grid = trova<Grid>(form, "grid");
+        const QPoint terza = grid.visualRect(grid.model()->index(2, 0)).center();
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, terza);
+        EXPECT_TRUE(form.isVisible());
+        if (mouse)
+            QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, terza);
+        else
+            QTest::keyClick(&grid, Qt::Key_Enter, Qt::KeypadModifier);
+        EXPECT_FALSE(form.isVisible());
+        EXPECT_TRUE(testo(form.applicata()).contains(grid.testo(2, 0))) << mouse;
+    }
 }
 
 TEST_F(ProvaCornice, UnaCategoriaVuotaApplicaIlVuoto) {

@@ -66,6 +66,7 @@ void Boccuccia::disponi() {
         bottone->setToolTip(u"Inserisce %1 nella frase"_s.arg(Variabili.at(std::size_t(i)).segno));
     for (const auto &[i, etichetta] : Label2)
         etichetta->setAllineamento(Qt::AlignHCenter);
+    Stato.setAbbrevia(true);
     Testo.hide();
     FE1.hide();
     GroupBox4.hide(); // closed, it takes no focus

@@ -20,6 +20,12 @@ Posto nelBlocco(int postazione, int left, int width) {
             255};
 }
 
+// A label's text stands at the top of its place, a radio button's in the middle.
+Posto accanto(Posto posto) {
+    posto.top += 45;
+    return posto;
+}
+
 } // namespace
 
 // A workstation: its name and its two types, of which one or none is on.
@@ -27,7 +33,7 @@ struct GruppoPostazioni::Linea {
     Linea(QWidget *padre, int postazione)
         : nome(u"Postazione %1"_s.arg(postazione + 1)),
           etichetta(padre, u"Label3(%1)"_s.arg(postazione).toLatin1().constData(), nome.toLatin1().constData(),
-                    nelBlocco(postazione, 0, 1200)),
+                    accanto(nelBlocco(postazione, 0, 1200))),
           tipi("PosSS", 2 * postazione, 2 * postazione + 1, [&](int Index, const char *nomeTipo) {
               const bool primo = Index % 2 == 0;
               auto bottone = std::make_unique<RadioButton>(padre, nomeTipo, primo ? "SG" : "ST",

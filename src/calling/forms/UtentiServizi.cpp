@@ -16,6 +16,7 @@ UtentiServizi::UtentiServizi(const Ambiente &ambiente_, QWidget *padre)
     : Form(ambiente_, "UtentiServizi",
            "Gestione Servizi   (Si ricorda che i servizi disponibili sono un massimo di 20)", {7335, 6495}, padre) {
     NrServizi.setSolaLettura(u"Il numero segue l'elenco"_s);
+    NrServizi.setFocusPolicy(Qt::ClickFocus); // Tab goes from the list to what can be done with it
     ctButton2(1).setRuolo(Ruolo::Principale);
     ctButton2(2).setRuolo(Ruolo::Distruttivo);
     grid.lega(Data8);

@@ -1,6 +1,7 @@
 #include "calling/logic/Servizi.h"
 
 #include "shell/store/Data.h"
+#include "shell/store/Riga.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -8,6 +9,19 @@ namespace zuvora {
 namespace {
 
 constexpr QStringView NomeLibero = u"Nessun Servizio";
+
+// On the current record. A write that fails leaves nothing pending: what is read next is what is stored.
+void scrivi(Recordset &servizi, const QList<Assegno> &valori) {
+    servizi.Edit();
+    try {
+        for (const auto &[colonna, valore] : valori)
+            servizi[colonna].SetValue(valore);
+        servizi.Update();
+    } catch (...) {
+        servizi.CancelUpdate();
+        throw;
+    }
+}
 
 } // namespace
 
@@ -27,25 +41,16 @@ bool scambiaStato(Recordset &servizi) {
     if (eLibero(testoDi(servizi[u"Servizio"].Value(), {})))
         return false;
     const bool attivo = eVero(servizi[u"ServizioAttivo"].Value());
-    servizi.Edit();
-    servizi[u"ServizioAttivo"].SetValue(!attivo);
-    servizi.Update();
+    scrivi(servizi, {{u"ServizioAttivo", !attivo}});
     return true;
 }
 
 void scriviServizio(Recordset &servizi, const QString &nome, bool attivo) {
-    servizi.Edit();
-    servizi[u"Servizio"].SetValue(nome);
-    servizi[u"ServizioAttivo"].SetValue(attivo);
-    servizi.Update();
+    scrivi(servizi, {{u"Servizio", nome}, {u"ServizioAttivo", attivo}});
 }
 
 void liberaServizio(Recordset &servizi) {
-    servizi.Edit();
-    servizi[u"Servizio"].SetValue(NomeLibero.toString());
-    servizi[u"Percorsofoto"].SetValue(u""_s);
-    servizi[u"ServizioAttivo"].SetValue(false);
-    servizi.Update();
+    scrivi(servizi, {{u"Servizio", NomeLibero.toString()}, {u"Percorsofoto", u""_s}, {u"ServizioAttivo", false}});
 }
 
 } // namespace zuvora

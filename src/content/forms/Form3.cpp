@@ -1,5 +1,7 @@
 #include "content/forms/Form3.h"
 
+#include "shell/host/Tastiera.h"
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
@@ -10,10 +12,11 @@ Form3::Form3(const Ambiente &ambiente_, const QString &host, QWidget *padre)
     grid.lega(Data2);
     quando(Text4, &QLineEdit::textChanged, [this] { cerca(); });
     alClic(CBT_3, [this] { prova(); });
-    quando(grid, &Grid::doppioClic, [this] { prova(); });
+    quando(grid, &Grid::attivato, [this] { prova(); });
     CBT_2.setRuolo(Ruolo::Principale);
     alClic(CBT_2, [this] { salva(); });
     alClic(CBT_0, [this] { scarica(); });
+    bottoneDi(Text4, CBT_3); // what was searched is tried
     Text4.setFocus();
     // Without the towns a code can still be typed.
     proteggi([this] { apri(Data2, cartella(), ElencoComuni.toString()); });

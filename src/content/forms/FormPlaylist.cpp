@@ -10,6 +10,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <filesystem>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,11 +19,6 @@ namespace {
 
 constexpr const char *Suggerimento = "Imposta il file ZVI attivo come Predefinito";
 constexpr int MargineDestro = 90; // twips, for a place that reaches beyond the form
-
-bool esisteFile(const Percorsi &percorsi, const QString &percorso) {
-    const Specie specie = percorsi.esamina(percorso).specie;
-    return specie == Specie::File || specie == Specie::Altro;
-}
 
 Posto entro(const Posto &posto, const Misura &interno) {
     return {posto.left, posto.top, std::min(posto.width, interno.width - MargineDestro - posto.left), posto.height};
@@ -33,11 +29,12 @@ Posto entro(const Posto &posto, const Misura &interno) {
 FormPlaylist::FormPlaylist(const Ambiente &ambiente_, const AspettoPlaylist &a, QWidget *padre,
                            const Percorsi &percorsi_)
     : Form(ambiente_, a.nome, a.didascalia, a.interno, padre), m_tipo(*a.tipo), m_percorsi(percorsi_),
-      m_controllo([percorsi_](const QString &percorso) { return esisteFile(percorsi_, percorso); }),
+      m_controllo([percorsi_](const QString &percorso) { return vocePresente(percorsi_, percorso); }),
       Label1_0(this, "Label1(0)", a.attiva, a.Label1_0), Label1_1(this, "Label1(1)", "", entro(a.Label1_1, a.interno)),
       Label1_5(this, "Label1(5)", "Disco / Cartelle", {120, 750, 1185, 255}),
       Drive1(this, "Drive1", {1320, 720, 1935, 315}), Dir1(this, "Dir1", a.Dir1), File1(this, "File1", a.File1),
-      Command6(this, "Command6", "&Salva", a.Command6),
+      Command89(this, "Command89", "Seleziona come Predefinito!", {6360, 7080, 2415, 330}),
+      m_scelta(Drive1, Dir1, File1, m_tipo.contenuti.toString()), Command6(this, "Command6", "&Salva", a.Command6),
       SalvaNuovo(this, "SalvaNuovo", "&Salva in nuovo file", a.SalvaNuovo),
       command1(this, "command1", a.aggiungi, a.command1), Command10(this, "Command10", a.aggiungiTutti, a.Command10),
       Label2_1(this, "Label2(1)", "Files presenti nella playlist selezionata", {120, 4200, 6240, 255}),
@@ -48,7 +45,6 @@ FormPlaylist::FormPlaylist(const Ambiente &ambiente_, const AspettoPlaylist &a, 
       Command4(this, "Command4", "Sposta S&u", {2880, 7080, 975, 330}),
       Command9(this, "Command9", "&Vuota PlayList", {3840, 7080, 1215, 330}),
       EliminaFile(this, a.nomeElimina, a.elimina, {5040, 7080, 1335, 330}),
-      Command89(this, "Command89", "Seleziona come Predefinito!", {6360, 7080, 2415, 330}),
       Command5(this, "Command5", "C&hiudi", {8760, 7080, 975, 330}) {
     Label1_1.setAbbrevia(true);
     Command6.setRuolo(Ruolo::Principale);
@@ -56,36 +52,22 @@ FormPlaylist::FormPlaylist(const Ambiente &ambiente_, const AspettoPlaylist &a, 
     EliminaFile.setRuolo(Ruolo::Distruttivo);
     File1.setAccessibleName(u"File della cartella"_s);
     File2.setPattern(m_tipo.modello.toString());
+    List2.setRilascioFile(true);
     collega();
     Drive1.setAccessibleName(u"Disco"_s);
     Dir1.setAccessibleName(u"Cartelle"_s);
-    Dir1.setPath(QDir::currentPath());
     File2.setFocus();
 }
 
-void FormPlaylist::cambiaDisco() {
-    if (Dir1.setPath(Drive1.Drive()))
-        return;
-    Drive1.setDrive(Dir1.Path());
-    avvisa(u"Il disco scelto non è disponibile !"_s);
-}
-
-void FormPlaylist::cambiaCartella() {
-    Drive1.setDrive(Dir1.Path());
-    File1.setPattern(m_tipo.contenuti.toString());
-    File1.setPath(Dir1.Path());
-}
-
 void FormPlaylist::collega() {
-    quando(Drive1, &DriveListBox::cambiato, [this] { cambiaDisco(); });
-    quando(Dir1, &DirListBox::cambiata, [this] { cambiaCartella(); });
+    quando(m_scelta, &SceltaFile::nonDisponibile, [this] { avvisa(u"Il disco scelto non è disponibile !"_s); });
     quando(File1, &FileListBox::cliccato, [this] {
         FileSelezionato = File1.percorso(File1.ListIndex());
         clicFile(FileSelezionato);
     });
     quando(File2, &FileListBox::cliccato, [this] { clicPlaylist(); });
-    quando(List2, &ElencoPercorsi::cliccato, [this] { clicVoce(voceScelta()); });
-    quando(List2, &ElencoPercorsi::fileRilasciati, [this](const QStringList &file) {
+    quando(List2, &ListBox::cliccato, [this] { clicVoce(voceScelta()); });
+    quando(List2, &ListBox::fileRilasciati, [this](const QStringList &file) {
         for (const QString &percorso : file)
             if (eContenuto(m_tipo, percorso))
                 List2.AddItem(percorso);
@@ -106,7 +88,7 @@ void FormPlaylist::collega() {
 void FormPlaylist::ElencaPlaylist() {
     File2.setPath(cartella());
     if (File2.ListCount() > 0)
-        File2.setCurrentRow(0); // counts as a click
+        File2.setListIndex(0); // counts as a click
     else
         Label1_1.setCaption({});
 }
@@ -220,11 +202,13 @@ void FormPlaylist::predefinisci() {
 void FormPlaylist::eliminaPlaylist() {
     if (File2.ListCount() == 0 || Label1_1.Caption().isEmpty())
         return;
-    QFile file(Label1_1.Caption());
-    if (file.exists() && !file.remove()) {
-        avvisa(u"Il file non è stato eliminato !"_s, file.errorString());
+    std::error_code errore;
+    std::filesystem::remove(QFile::encodeName(Label1_1.Caption()).toStdString(), errore);
+    if (errore) {
+        avvisa(u"Il file non è stato eliminato !"_s, motivoSistema(errore.value()));
         return;
     }
+    m_controllo.smetti();
     List2.Clear();
     File2.setFocus();
     ElencaPlaylist();

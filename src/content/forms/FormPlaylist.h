@@ -1,11 +1,11 @@
 #pragma once
 
 #include "content/forms/AspettoPlaylist.h"
-#include "content/forms/ElencoPercorsi.h"
 #include "content/logic/ControlloPlaylist.h"
 #include "shell/host/Edit.h"
-#include "shell/host/ElenchiFile.h"
 #include "shell/host/Form.h"
+#include "shell/host/ListBox.h"
+#include "shell/host/SceltaFile.h"
 #include "shell/logic/Percorsi.h"
 
 #include <optional>
@@ -45,8 +45,6 @@ private:
     void salvaNuovo();
     void predefinisci();
     void eliminaPlaylist();
-    void cambiaDisco();
-    void cambiaCartella();
 
     QString PlaylistAperta;
     QString FileSelezionato;
@@ -62,14 +60,16 @@ private:
 
 protected:
     FileListBox File1;
+    Button Command89;
 
 private:
+    SceltaFile m_scelta;
     Button Command6;
     Button SalvaNuovo;
     Button command1;
     Button Command10;
     Label Label2_1;
-    ElencoPercorsi List2;
+    ListBox List2;
     Label Label2_0;
     FileListBox File2;
     Button Command2;
@@ -77,7 +77,6 @@ private:
     Button Command4;
     Button Command9;
     Button EliminaFile;
-    Button Command89;
     Button Command5;
 };
 

@@ -15,7 +15,7 @@ PaginaRadio::PaginaRadio(const Apertura &apertura) : Pagina(apertura, "RadioBox"
     alClic(btnRadio(1), [this] { modifica(); });
     alClic(btnRadio(2), [this] { cancella(); });
     alClic(btnRadio(4), [this] { prova(); });
-    quando(GridRadio, &Grid::doppioClic, [this] { modifica(); });
+    quando(GridRadio, &Grid::attivato, [this] { modifica(); });
 }
 
 void PaginaRadio::riempi() {

@@ -7,6 +7,8 @@
 
 namespace zuvora {
 
+class Percorsi;
+
 // A playlist is a text file of full paths, one a line, in the platform's 8-bit code page: see leggiRighe, scriviRighe.
 
 // True when the name ends like a playlist of this kind, case and all: only such a file is loaded or made the default.
@@ -15,6 +17,10 @@ bool haEstensione(const TipoPlaylist &tipo, const QString &percorso);
 QString conEstensione(const TipoPlaylist &tipo, const QString &percorso);
 // True when a file's name matches the kind's patterns for what a playlist lists.
 bool eContenuto(const TipoPlaylist &tipo, const QString &percorso);
+
+// True when an entry's file is there and isn't a folder, in whatever form its path is written. May block as long as the
+// disk does.
+bool vocePresente(const Percorsi &percorsi, const QString &voce);
 
 // The report of missing files in the current folder, each path in double quotes. Gives an Italian reason when it can't
 // be written, else empty.

@@ -64,10 +64,6 @@ void Form2::disponi(const PaginaClasse &pagina) {
     Testo999.setEnabled(pagina.testo);
     for (const QStringView nome : pagina.disabilitati)
         box1.findChild<QWidget *>(nome.toString())->setEnabled(false);
-    if (PB1_0.isEnabled())
-        PB1_0.setFocus();
-    else
-        CP1.setFocus();
 }
 
 void Form2::riempi(const CampiForm2 &campi) {

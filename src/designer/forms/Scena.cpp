@@ -1,5 +1,6 @@
 #include "designer/forms/Scena.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 
 namespace zuvora {
@@ -12,6 +13,7 @@ constexpr double puntiPerMetro = puntiPerPollice / 0.0254;
 Scena::Scena(const DisplayLayout &layout, ImmaginiQt &immagini, QSize misura)
     : m_layout(layout), m_immagini(immagini), m_pittore(layout, m_immagini), m_misura(misura) {
     ricorda();
+    stiraTutte(qGuiApp->devicePixelRatio()); // while the form is being made
 }
 
 // Points of a font become pixels by the device's resolution.

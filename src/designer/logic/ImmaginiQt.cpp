@@ -8,7 +8,7 @@ namespace zuvora {
 
 namespace {
 
-constexpr qsizetype memoria = 128 * 1024; // KiB
+constexpr qsizetype memoria = 320 * 1024; // KiB: a background and all decorations, as large as they are decoded
 
 } // namespace
 

@@ -149,7 +149,7 @@ void Impostatotem::salva() {
 }
 
 void Impostatotem::scegliPercorso() {
-    if (const auto percorso = chiediPercorsoTotem(ambiente(), this))
+    if (const auto percorso = chiediPercorsoTotem(ambiente(), this, m_percorsi))
         PRT.setText(*percorso);
 }
 
@@ -164,7 +164,7 @@ GruppoFont &Impostatotem::gruppo() {
 
 void Impostatotem::ScegliFont(const QString &bersaglio) {
     BersaglioFont = bersaglio;
-    if (const auto scelto = ambiente().dialoghi.scegliFont(this))
+    if (const auto scelto = ambiente().dialoghi.scegliFont(this, gruppo().font()))
         gruppo().setFont(*scelto);
 }
 

@@ -1,7 +1,6 @@
 #include "kiosk/logic/RigaTotem.h"
 
 #include "kiosk/logic/Disposizione.h"
-#include "shell/store/Data.h"
 #include "shell/store/Database.h"
 #include "shell/store/Riga.h"
 
@@ -52,8 +51,7 @@ Valore valoreDa(const ColonnaTotem &colonna, const QString &testo) {
 
 } // namespace
 
-QStringList serviziAttivi(const QString &cartella) {
-    Data dato;
+QStringList serviziAttivi(Data &dato, const QString &cartella) {
     Recordset &righe = apri(dato, cartella, u"Select [Servizio] from Servizi where [ServizioAttivo]=true"_s);
     QStringList nomi;
     for (; !righe.Eof(); righe.MoveNext())
@@ -70,14 +68,14 @@ void RigaTotem::carica() {
 }
 
 void RigaTotem::caricaInizio() {
-    const Riga riga = leggiRiga(m_cartella, tabellaTotem.toString());
+    Recordset &riga = apri(Data8, m_cartella, tabellaTotem.toString());
     mostra(CampoTotem::RisoluzioneTotem, riga);
     mostra(CampoTotem::PercorsoReteTotem, riga);
 }
 
 bool RigaTotem::caricaServizi() {
     try {
-        m_servizi = serviziAttivi(m_cartella);
+        m_servizi = serviziAttivi(Data8, m_cartella);
     } catch (const EngineError &e) {
         m_guasto = e;
     }
@@ -86,9 +84,8 @@ bool RigaTotem::caricaServizi() {
 
 void RigaTotem::caricaResto() {
     for (int giro = 0; giro < 2; ++giro) {
-        std::optional<Riga> riga;
         try {
-            riga = leggiRiga(m_cartella, tabellaTotem.toString());
+            apri(Data8, m_cartella, tabellaTotem.toString());
         } catch (const EngineError &e) {
             m_guasto = e;
             // The box is emptied, the row keeps its path: what a failure took away is nothing that the user decided.
@@ -99,9 +96,10 @@ void RigaTotem::caricaResto() {
             return;
         }
         try {
+            Recordset &riga = Data8.Recordset();
             for (std::size_t i = indice(CampoTotem::SfondoTotem); i < indice(CampoTotem::TestoVisibile); ++i)
-                mostra(static_cast<CampoTotem>(i), *riga);
-            if (mostraVisibilita(*riga))
+                mostra(static_cast<CampoTotem>(i), riga);
+            if (mostraVisibilita(riga))
                 return;
             AggiungiColonneTotem(m_cartella);
         } catch (const EngineError &e) {
@@ -112,7 +110,7 @@ void RigaTotem::caricaResto() {
 }
 
 // False when the database is older than these columns.
-bool RigaTotem::mostraVisibilita(const Riga &riga) {
+bool RigaTotem::mostraVisibilita(Recordset &riga) {
     try {
         mostra(CampoTotem::TestoVisibile, riga);
         mostra(CampoTotem::DataVisibile, riga);
@@ -124,9 +122,9 @@ bool RigaTotem::mostraVisibilita(const Riga &riga) {
     }
 }
 
-void RigaTotem::mostra(CampoTotem campo, const Riga &riga) {
+void RigaTotem::mostra(CampoTotem campo, Recordset &riga) {
     const ColonnaTotem &questa = colonna(campo);
-    m_contenuto[campo] = testoMostrato(questa, riga[questa.nome]);
+    m_contenuto[campo] = testoMostrato(questa, riga[questa.nome].Value());
     m_mostrati.set(indice(campo));
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kiosk/logic/ConfigurazioneTotem.h"
+#include "shell/store/Data.h"
 #include "shell/store/EngineError.h"
 
 #include <QStringList>
@@ -8,11 +9,6 @@
 #include <optional>
 
 namespace zuvora {
-
-class Riga;
-
-// The names of the active services, in the order of the table.
-QStringList serviziAttivi(const QString &cartella);
 
 // Brings the kiosk's row to the form and back. A load can stop early; what it didn't show is not overwritten later.
 class RigaTotem {
@@ -36,12 +32,13 @@ public:
     void salva(const ContenutoTotem &adesso);
 
 private:
-    void mostra(CampoTotem campo, const Riga &riga);
-    bool mostraVisibilita(const Riga &riga);
+    void mostra(CampoTotem campo, Recordset &riga);
+    bool mostraVisibilita(Recordset &riga);
     void scrivi(const ContenutoTotem &adesso, QList<CampoTotem> campi);
     bool daScrivere(CampoTotem campo, const ContenutoTotem &adesso) const;
 
     QString m_cartella;
+    Data Data8; // one connection for the three parts
     ContenutoTotem m_contenuto;
     std::bitset<colonneTotem.size()> m_mostrati;
     QStringList m_servizi;

@@ -11,10 +11,12 @@ CancellaLayout::CancellaLayout(const Ambiente &ambiente_, const QString &numero,
     QFont grande = font();
     grande.setPointSizeF(11);
     Label1.setFontBase(grande);
+    grande.setPointSizeF(10);
     grande.setBold(true);
     Label3.setFontBase(grande);
     Label3.setCaption(numero);
     setAccessibleName(u"Cancellazione del Layout "_s + numero);
+    PB1(1).setRuolo(Ruolo::Distruttivo);
     alClic(PB1(1), [this] { conferma(); });
     alClic(PB1(0), [this] { scarica(); });
     PB1(0).setFocus();

@@ -15,7 +15,7 @@ private:
     void conferma();
 
     Label Label2{this, "Label2", "Layout nr", {480, 1320, 1335, 255}};
-    Label Label3{this, "Label3", "1", {480, 1610, 735, 345}};
+    Label Label3{this, "Label3", "1", {480, 1640, 735, 255}};
     Label Label1{this, "Label1", "Intendi realmente annullare il Layout selezionato ?", {360, 3000, 3975, 855}};
     PictureBox Image1{this, "Image1", {5040, 1200, 2400, 2400}, Disegno::Pulisci};
     Schiera<Button> PB1{

@@ -6,13 +6,13 @@
 namespace zuvora {
 namespace {
 
-constexpr int PassoRiga = 240; // twips
-constexpr int UltimaSorgente = 10;
-constexpr int UltimaDestinazione = 9;
+constexpr int passoRiga = 240; // twips
+constexpr int ultimaSorgente = 10;
+constexpr int ultimaDestinazione = 9;
 
 template <class Numero>
 std::unique_ptr<RadioButton> bottone(QWidget *padre, const char *nome, int n, Numero numero, Posto p) {
-    p.top += PassoRiga * n;
+    p.top += passoRiga * n;
     return std::make_unique<RadioButton>(padre, nome, nomeLinea(numero(n)).toUtf8().constData(), p);
 }
 
@@ -21,41 +21,35 @@ QFont inGrassetto(QFont font) {
     return font;
 }
 
-int sceltoIn(const Schiera<RadioButton> &gruppo) {
-    for (const auto &[indice, bottone] : gruppo)
-        if (bottone->isChecked())
-            return indice;
-    return 0; // one of a group is always on
-}
-
 } // namespace
 
 CopiaLayout::CopiaLayout(const Ambiente &ambiente_, QWidget *padre)
     : Form(ambiente_, "CopiaLayout", "Funzione di Copia Layout", {5925, 5550}, padre),
-      L0("L0", 0, UltimaSorgente,
+      L0("L0", 0, ultimaSorgente,
          [this](int n, const char *nome) {
-             return bottone(&GroupBox1, nome, n, layoutSorgente, {480, 720, n == UltimaSorgente ? 1575 : 1215, 255});
+             return bottone(&GroupBox1, nome, n, layoutSorgente, {480, 720, n == ultimaSorgente ? 1575 : 1215, 255});
          }),
-      L1("L1", 0, UltimaDestinazione, [this](int n, const char *nome) {
+      L1("L1", 0, ultimaDestinazione, [this](int n, const char *nome) {
           return bottone(&GroupBox2, nome, n, layoutDestinazione, {240, 600, 1140, 255});
       }) {
     for (Label *titolo : {&Label1_0, &Label1_1, &Label3(0), &Label3(1)})
         titolo->setFontBase(inGrassetto(font()));
-    L0(0).setChecked(true);
-    L1(0).setChecked(true);
-    alClic(L0, [this](int n) { Label3(0).setCaption(nomeLinea(layoutSorgente(n))); });
-    alClic(L1, [this](int n) { Label3(1).setCaption(nomeLinea(layoutDestinazione(n))); });
+    m_sorgente.setScelto(0);
+    m_destinazione.setScelto(0);
+    Btn(1).setRuolo(Ruolo::Principale);
+    quando(m_sorgente, &GruppoRadio::cambiato, [this](int n) { Label3(0).setCaption(nomeLinea(layoutSorgente(n))); });
+    quando(m_destinazione, &GruppoRadio::cambiato,
+           [this](int n) { Label3(1).setCaption(nomeLinea(layoutDestinazione(n))); });
     alClic(Btn(1), [this] { copia(); });
     alClic(Btn(0), [this] { scarica(); });
-    L0(0).setFocus();
 }
 
 void CopiaLayout::ImpostaSorgente() {
-    LayoutSorgente = layoutSorgente(sceltoIn(L0));
+    LayoutSorgente = layoutSorgente(m_sorgente.scelto());
 }
 
 void CopiaLayout::ImpostaDestinazione() {
-    LayoutDestinazione = layoutDestinazione(sceltoIn(L1));
+    LayoutDestinazione = layoutDestinazione(m_destinazione.scelto());
 }
 
 void CopiaLayout::copia() {

@@ -23,6 +23,8 @@ private:
     Label Label1_1{&GroupBox2, "Label1(1)", "sul Layout", {240, 240, 1335, 255}};
     Schiera<RadioButton> L0;
     Schiera<RadioButton> L1;
+    GruppoRadio m_sorgente{L0};
+    GruppoRadio m_destinazione{L1};
     Schiera<Label> Label2{&GroupBox3,
                           "Label2",
                           {{0, "Copia del Layout", {120, 240, 1455, 255}}, {1, "sul Layout", {120, 840, 1455, 255}}}};

@@ -17,9 +17,12 @@ Elementi::Elementi(const Ambiente &ambiente_, QWidget *padre)
     IlFileX.hide();
     grid.lega(Data1);
     grid.setAccessibleName(u"Immagini Decorazioni"_s);
-    RB1(0).setChecked(true);
+    m_gruppo.setScelto(0);
+    PushButton2.setRuolo(Ruolo::Principale);
+    PushButton1.setRuolo(Ruolo::Distruttivo);
     quando(grid, &Grid::rigaCambiata, [this] { mostraRiga(); });
-    alClic(RB1, [this](int indice) { scegliCategoria(indice); });
+    quando(grid, &Grid::attivato, [this] { anteprima(); });
+    quando(m_gruppo, &GruppoRadio::cambiato, [this](int indice) { scegliCategoria(indice); });
     alClic(PushButton1, [this] { elimina(); });
     alClic(PushButton2, [this] { aggiungi(); });
     alClic(PushButton3, [this] { anteprima(); });

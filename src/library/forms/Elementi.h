@@ -37,6 +37,7 @@ private:
                              {{0, " Cornici", {120, 240, 975, 255}},
                               {1, " Banner", {1200, 240, 1095, 255}},
                               {2, "Elementi", {2400, 240, 1095, 255}}}};
+    GruppoRadio m_gruppo{RB1};
     Grid grid{this, "grid", {3840, 120, 3660, 5460}, {{"File", "File", 0}}};
     AnteprimaImmagine Image1{this, "Image1", {120, 2040, 3615, 3495}};
     Button PushButton2{this,

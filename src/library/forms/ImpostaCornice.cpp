@@ -18,9 +18,11 @@ ImpostaCornice::ImpostaCornice(const Ambiente &ambiente_, int i, QWidget *padre)
     Label1.setCaption(nomeDecorazione(i));
     Label2.hide();
     grid.lega(Data1);
-    RB1(0).setChecked(true);
+    m_gruppo.setScelto(0);
+    Btn(0).setRuolo(Ruolo::Principale);
     quando(grid, &Grid::rigaCambiata, [this] { mostraRiga(); });
-    alClic(RB1, [this](int indice) { scegliCategoria(indice); });
+    quando(grid, &Grid::attivato, [this] { applica(); });
+    quando(m_gruppo, &GruppoRadio::cambiato, [this](int indice) { scegliCategoria(indice); });
     alClic(Btn(0), [this] { applica(); });
     alClic(Btn(1), [this] { scarica(); });
     scegliCategoria(0);

@@ -35,6 +35,7 @@ private:
                              {{0, " Cornici", {120, 360, 1095, 285}},
                               {1, " Banner", {1320, 360, 1095, 285}},
                               {2, " Elementi", {2520, 360, 1215, 285}}}};
+    GruppoRadio m_gruppo{RB1};
     Label Label3{this, "Label3", "Immagini Decorazioni", {4080, 840, 2415, 255}};
     Grid grid{this, "grid", {4080, 1080, 4740, 5220}, {{"File", "File", 0}}};
     AnteprimaImmagine Image1{this, "Image1", {120, 2040, 3855, 2895}};

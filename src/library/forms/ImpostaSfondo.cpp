@@ -3,14 +3,10 @@
 #include "shell/host/ImmagineIllegibile.h"
 #include "shell/logic/Percorsi.h"
 
-#include <QDir>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 namespace {
-
-constexpr QStringView Modello = u"*.jpg;*.bmp";
 
 QString parolaModo(ModoSfondo modo) {
     return modo == ModoSfondo::Layout ? u"Layout"_s : u"Sfondo Totem"_s;
@@ -31,31 +27,18 @@ ImpostaSfondo::ImpostaSfondo(const Ambiente &ambiente_, ModoSfondo modo, UsoSfon
         misura->setReadOnly(true);
         misura->setFocusPolicy(Qt::ClickFocus);
     }
-    quando(Drive1, &DriveListBox::cambiato, [this] { cambiaDisco(); });
-    quando(Dir1, &DirListBox::cambiata, [this] { cambiaCartella(); });
+    quando(m_scelta, &SceltaFile::nonDisponibile, [this] { avvisa(u"Il disco scelto non è disponibile !"_s); });
     quando(File1, &FileListBox::cliccato, [this] { clicFile(); });
+    PushButton1.setRuolo(Ruolo::Principale);
+    PushButton3.setRuolo(Ruolo::Distruttivo);
     alClic(PushButton1, [this] { imposta(); });
     alClic(PushButton3, [this] { elimina(); });
     alClic(Command5, [this] { scarica(); });
-    Dir1.setPath(QDir::currentPath());
     Dir1.setFocus();
 }
 
-void ImpostaSfondo::cambiaDisco() {
-    if (Dir1.setPath(Drive1.Drive()))
-        return;
-    Drive1.setDrive(Dir1.Path());
-    avvisa(u"Il disco scelto non è disponibile !"_s);
-}
-
-void ImpostaSfondo::cambiaCartella() {
-    Drive1.setDrive(Dir1.Path());
-    File1.setPattern(Modello.toString());
-    File1.setPath(Dir1.Path());
-}
-
 void ImpostaSfondo::clicFile() {
-    SfondoScelto = File1.percorso(File1.ListIndex());
+    SfondoScelto = m_scelta.percorso();
     Label1.hide();
     Image1.mostra(SfondoScelto);
     // The control's own size: it doesn't change with the picture.
@@ -69,15 +52,19 @@ void ImpostaSfondo::imposta() {
         return;
     if (!SfondoScelto.isEmpty() && avvisaSeIllegibile(ambiente(), SfondoScelto, this))
         return;
-    if (!m_uso.imposta(totem ? Percorsi().diRete(SfondoScelto) : SfondoScelto))
+    if (m_uso.imposta(totem ? Percorsi().diRete(SfondoScelto) : SfondoScelto))
+        PushButton1.spunta();
+    else
         avvisa(u"Impossibile caricare l'immagine scelta !"_s, u"Lo sfondo resta quello di prima."_s);
 }
 
 void ImpostaSfondo::elimina() {
-    if (m_uso.elimina)
-        m_uso.elimina();
-    else
+    if (!m_uso.elimina) {
         avvisa(u"Nessun Layout aperto: lo sfondo del Totem"_s, u"si elimina dalla sua schermata."_s);
+        return;
+    }
+    m_uso.elimina();
+    PushButton3.spunta();
 }
 
 void apriSfondoLayout(const Ambiente &ambiente, const UsoSfondo &uso, QWidget *padre) {

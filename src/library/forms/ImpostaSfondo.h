@@ -2,8 +2,8 @@
 
 #include "designer/forms/ApritoriTela.h"
 #include "shell/host/AnteprimaImmagine.h"
-#include "shell/host/ElenchiFile.h"
 #include "shell/host/Form.h"
+#include "shell/host/SceltaFile.h"
 
 #include <optional>
 
@@ -19,8 +19,6 @@ public:
     ImpostaSfondo(const Ambiente &ambiente, ModoSfondo modo, UsoSfondo uso, QWidget *padre);
 
 private:
-    void cambiaDisco();
-    void cambiaCartella();
     void clicFile();
     void imposta();
     void elimina();
@@ -33,6 +31,7 @@ private:
     DriveListBox Drive1{this, "Drive1", {1440, 120, 1695, 315}};
     DirListBox Dir1{this, "Dir1", {120, 495, 3015, 2340}};
     FileListBox File1{this, "File1", {3160, 120, 2895, 2760}};
+    SceltaFile m_scelta{Drive1, Dir1, File1, QStringLiteral("*.jpg;*.bmp")};
     Label Label3{this, "Label3", "Misure Immagine", {6240, 120, 1815, 255}};
     Schiera<Label> Label2{
         this, "Label2", {{0, "Larghezza", {6480, 600, 735, 255}}, {1, "Altezza", {6480, 840, 735, 255}}}};

@@ -5,9 +5,9 @@
 #include "library/forms/CopiaLayout.h"
 #include "shell/disegni/Disegni.h"
 #include "shell/host/Dialoghi.h"
+#include "shell/host/Tastiera.h"
 
 #include <QMouseEvent>
-#include <QTimer>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -15,28 +15,35 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr int PrimaLinea = 600; // twips
-constexpr int PassoLinea = 360;
-constexpr int MassimoTesto = 255; // characters
-constexpr int LarghezzaDescrizione = 2775;
-constexpr int LarghezzaDescrizioneBase = 3135; // no button behind it
-constexpr QSize Icona{15, 15};
+constexpr int primaLinea = 600; // twips
+constexpr int passoLinea = 360;
+constexpr int massimoTesto = 255; // characters
+constexpr int larghezzaDescrizione = 2775;
+constexpr int larghezzaDescrizioneBase = 3135; // no button behind it
+constexpr QSize latoIcona{15, 15};
+constexpr int nessuna = -1; // line of the group
 
 constexpr int topLinea(int linea) {
-    return PrimaLinea + PassoLinea * linea;
+    return primaLinea + passoLinea * linea;
 }
 
 Posto postoTesto(int indice) {
     const int linea = indice / 2;
     if (indice % 2 == 0)
         return {600, topLinea(linea), 1095, 285};
-    return {1680, topLinea(linea), linea == 0 ? LarghezzaDescrizioneBase : LarghezzaDescrizione, 285};
+    return {1680, topLinea(linea), linea == 0 ? larghezzaDescrizioneBase : larghezzaDescrizione, 285};
 }
 
 // Set from the program, a text shows its beginning.
 void mostraTesto(Edit &campo, const QString &testo) {
     campo.setText(testo);
     campo.setCursorPosition(0);
+}
+
+// A text longer than its box is there to read as a whole all the same.
+void suggerisciTesto(Edit &campo) {
+    const bool intero = campo.fontMetrics().horizontalAdvance(campo.text()) < campo.contentsRect().width();
+    campo.setToolTip(intero ? QString() : campo.text());
 }
 
 } // namespace
@@ -57,6 +64,8 @@ SceltaLayout::SceltaLayout(const Ambiente &ambiente_, int risoluzione, QWidget *
     Label1.setAlignment(Qt::AlignLeft | Qt::AlignVCenter); // to the box beside it
     Label2.setReadOnly(true);
     Label2.setFocusPolicy(Qt::ClickFocus);
+    PB1(3).setRuolo(Ruolo::Principale);
+    bottoneDi(GroupBox1, PB1(1));
     riempi();
     alClic(PPBB1, [this](int i) { CancellaLayout(ambiente(), QString::number(i), this).mostraModale(); });
     alClic(PB1(0), [this] { scarica(); });
@@ -77,26 +86,24 @@ void SceltaLayout::disponiLinee() {
         nome.installEventFilter(this);
         nome.setFocusPolicy(Qt::ClickFocus); // Tab goes from the radio buttons to what can be edited
         descrizione.setReadOnly(i == 0);
-        nome.setMaxLength(MassimoTesto);
-        descrizione.setMaxLength(MassimoTesto);
+        nome.setMaxLength(massimoTesto);
+        descrizione.setMaxLength(massimoTesto);
+        for (Edit *campo : {&nome, &descrizione})
+            quando(*campo, &Edit::textChanged, [campo] { suggerisciTesto(*campo); });
     }
     for (const auto &[i, bottone] : PPBB1) {
         bottone->setIcon(icona(Disegno::Pulisci));
-        bottone->setIconSize(Icona);
+        bottone->setIconSize(latoIcona);
         bottone->setToolTip(u"Pulisce il Layout"_s);
         bottone->setAccessibleName(u"Pulisce il "_s + nomeLinea(i));
-        setTabOrder(&text1(2 * i + 1), bottone.get());
-        if (i < numeroLayout - 1)
-            setTabOrder(bottone.get(), &text1(2 * i + 3));
+        bottone->setRuolo(Ruolo::Distruttivo);
     }
 }
 
 void SceltaLayout::riempi() {
     const auto linea = lineaPredefinita(leggiQualeLayout(apri(Data2, cartella(), u"Configurazione"_s)));
     Label2.setText(testoPredefinito(linea));
-    if (linea)
-        RB1(*linea).setChecked(true);
-    RB1(linea.value_or(0)).setFocus();
+    m_gruppo.setScelto(linea.value_or(nessuna));
     m_lette = leggiLinee(apri(Data1, cartella(), u"DescrizioneLayout"_s));
     for (int i = 0; i < numeroLayout; ++i) {
         const LineaLayout &letta = m_lette[std::size_t(i)];
@@ -109,9 +116,7 @@ void SceltaLayout::riempi() {
 
 void SceltaLayout::attivata() {
     if (const QString avviso = std::exchange(m_avviso, {}); !avviso.isEmpty())
-        QTimer::singleShot(0, this, [this, avviso] {
-            ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, u"Zuvora-Messaggio"_s, avviso);
-        });
+        ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, u"Zuvora-Messaggio"_s, avviso);
 }
 
 // The name of a line acts like its radio button; a double click opens the layout as well.
@@ -122,7 +127,7 @@ bool SceltaLayout::eventFilter(QObject *oggetto, QEvent *evento) {
         return false;
     for (int i = 0; i < numeroLayout; ++i)
         if (oggetto == &text1(2 * i))
-            RB1(i).setChecked(true);
+            m_gruppo.setScelto(i);
     if (doppio) // once the click is over: the designer must not open inside it
         QMetaObject::invokeMethod(
             this, [this] { proteggi([this] { CaricaLayout(); }); }, Qt::QueuedConnection);
@@ -139,10 +144,7 @@ LineeLayout SceltaLayout::linee() const {
 }
 
 std::optional<int> SceltaLayout::lineaScelta() const {
-    for (const auto &[i, bottone] : RB1)
-        if (bottone->isChecked())
-            return i;
-    return std::nullopt;
+    return m_gruppo.scelto() == nessuna ? std::nullopt : std::optional(m_gruppo.scelto());
 }
 
 void SceltaLayout::salvaDati() {

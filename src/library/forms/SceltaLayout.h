@@ -37,6 +37,7 @@ private:
     Label Label4{&GroupBox1, "Label4", "Tipo Layout", {600, 240, 1095, 255}};
     Label Label5{&GroupBox1, "Label5", "Descrizione Layout", {1680, 240, 3135, 255}};
     Schiera<RadioButton> RB1;
+    GruppoRadio m_gruppo{RB1};
     Schiera<Edit> text1;
     Schiera<Button> PPBB1;
     Label Label1{this, "Label1", "Layout Predefinito", {240, 5205, 1455, 255}};

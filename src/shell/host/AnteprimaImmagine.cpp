@@ -1,6 +1,6 @@
 #include "shell/host/AnteprimaImmagine.h"
 
-#include "shell/immagini/LetturaImmagine.h"
+#include "shell/store/EngineError.h"
 
 #include <QFileInfo>
 #include <QPainter>
@@ -107,7 +107,7 @@ void AnteprimaImmagine::paintEvent(QPaintEvent *e) {
 
 void AnteprimaImmagine::fallisci(const QString &motivo) {
     m_stato = Stato::NonLeggibile;
-    m_guasto = motivo + u'\n' + QFileInfo(m_percorso).fileName();
+    m_guasto = motivo + u'\n' + accorciato(QFileInfo(m_percorso).fileName());
     setTesto(m_guasto);
     Q_EMIT cambiata();
 }

@@ -6,6 +6,7 @@
 
 #include <QEvent>
 #include <QPlainTextEdit>
+#include <QShortcut>
 #include <QStackedLayout>
 #include <QTimer>
 
@@ -64,11 +65,16 @@ Browser::Browser(QWidget *padre, const char *nome, const Posto &posto, const Pia
     m_avviso->setReadOnly(true);
     m_avviso->setFrameStyle(QFrame::NoFrame);
     m_avviso->setTabChangesFocus(true);
+    m_avviso->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_avviso->document()->setDocumentMargin(MargineAvviso);
     m_avviso->setAccessibleName(u"Avviso"_s);
     m_avviso->viewport()->installEventFilter(this);
     m_pila->setSizeConstraint(QLayout::SetNoConstraint);
     m_pila->addWidget(m_avviso);
+    // A page that has the focus keeps Esc to itself: it must close the window from there too.
+    auto *chiudi = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    chiudi->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(chiudi, &QShortcut::activated, this, [this] { window()->close(); });
 }
 
 Browser::~Browser() = default;

@@ -28,7 +28,7 @@ void scrivi(QByteArray &dati, qsizetype posto, quint16 valore) {
     qToBigEndian(valore, dati.data() + posto);
 }
 
-// Where the directory has a table; -1 when it has none.
+// Where the directory tells of a table; -1 when it doesn't.
 qsizetype voceDi(const QByteArray &file, const char *tabella) {
     if (file.size() < Intestazione)
         return -1;
@@ -46,13 +46,6 @@ qsizetype tabellaOs2(const QByteArray &file) {
         return -1;
     const auto inizio = qsizetype{qFromBigEndian<quint32>(file.constData() + voce + 8)};
     return inizio + Selezione + 2 <= file.size() ? inizio : -1;
-}
-
-// Ready-made small letters are not drawn, but their own heights would count.
-void nascondiLettereFatte(QByteArray &file) {
-    for (const char *tabella : {"EBLC", "EBDT"})
-        if (const qsizetype voce = voceDi(file, tabella); voce >= 0)
-            file[voce] = 'x';
 }
 
 void carica(const char *percorso) {
@@ -73,7 +66,8 @@ QByteArray carattereCorretto(QByteArray file) {
         scrivi(file, os2 + Peso, QuasiGrassetto);
     }
     scrivi(file, os2 + Selezione, selezione);
-    nascondiLettereFatte(file);
+    if (const qsizetype voce = voceDi(file, "EBLC"); voce >= 0)
+        file.replace(voce, 4, "senz");
     return file;
 }
 

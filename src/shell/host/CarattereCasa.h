@@ -13,7 +13,8 @@ QFont carattereCasa();
 // The platform's Tahoma asks for its typographic ascent, which leaves a quarter of a line out: text stands too high and
 // two lines collide. Without that flag the ascent of the horizontal header holds, the one that the places of all
 // controls and layouts were made for. The bold file has bold distances but regular shapes; said to be a little less
-// than bold, it has its strokes thickened by the font system as a regular one has.
+// than bold, it has its strokes thickened by the font system as a regular one has. Ready-drawn small letters are left
+// out: at their sizes their own measures, again a quarter of a line short, would stand in for the font's.
 QByteArray carattereCorretto(QByteArray file);
 
 } // namespace zuvora

@@ -9,7 +9,7 @@ inline constexpr const char *FileComponenteVoce = "libzuvora-voce.so";
 
 struct EsitoComponenteVoce {
     std::unique_ptr<Voce> voce; // null when the component can't be used
-    QString motivo;             // then an Italian text that says why
+    QString motivo;             // then an Italian sentence that says why
 };
 
 // The program's own voice. The first call loads the component from `cartella`; it stays loaded until the program ends.

@@ -10,7 +10,7 @@
 namespace zuvora {
 namespace {
 
-constexpr int sospeseMassime = 32; // threads that may be stuck at a time; a further question is not answered
+constexpr int sospeseMassime = 128; // threads that may be stuck at a time; a further question is not answered
 std::atomic<int> sospese = 0;
 
 class Attesa;

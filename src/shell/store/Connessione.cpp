@@ -3,6 +3,7 @@
 #include "shell/store/Disco.h"
 #include "shell/store/Like.h"
 
+#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <csignal>
 #include <sqlite3.h>
@@ -170,6 +171,22 @@ Istruzione Connessione::preparaUnica(const QString &sql, Azione azione) {
 
 void Connessione::eseguiTutto(const QByteArray &sql) {
     if (const int rc = sqlite3_exec(db(), sql.constData(), nullptr, nullptr, nullptr); rc != SQLITE_OK)
+        throw errore(rc, Azione::Scrittura);
+}
+
+void Connessione::copiaDa(Connessione &origine) {
+    sqlite3_backup *copia = sqlite3_backup_init(db(), "main", origine.db(), "main");
+    if (copia == nullptr)
+        throw errore(sqlite3_extended_errcode(m_db), Azione::Scrittura);
+    // All pages at one go; the busy timeout doesn't hold for what the backup waits for.
+    QDeadlineTimer fine(m_attesa);
+    int rc = sqlite3_backup_step(copia, -1);
+    while ((rc == SQLITE_BUSY || rc == SQLITE_LOCKED) && !fine.hasExpired()) {
+        sqlite3_sleep(20);
+        rc = sqlite3_backup_step(copia, -1);
+    }
+    sqlite3_backup_finish(copia);
+    if (rc != SQLITE_DONE)
         throw errore(rc, Azione::Scrittura);
 }
 

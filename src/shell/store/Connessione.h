@@ -41,6 +41,8 @@ public:
     Istruzione preparaUnica(const QString &sql, Azione azione);
     // Any number of statements, their results dropped.
     void eseguiTutto(const QByteArray &sql);
+    // The content of `origine` in place of its own, through the engine's backup.
+    void copiaDa(Connessione &origine);
     // Runs one of the store's own changing statements. Gives the number of rows changed.
     int scrivi(const QByteArray &sql, const QList<Valore> &valori);
     qint64 ultimaChiave() const;

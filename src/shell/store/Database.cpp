@@ -110,6 +110,10 @@ QList<QStringList> Database::leggiTesti(const QString &sql) {
     return righe;
 }
 
+void Database::copiaDa(Database &origine) {
+    m_connessione->copiaDa(*origine.m_connessione);
+}
+
 bool Database::integro() {
     return primaColonna(m_connessione->prepara("PRAGMA quick_check(1)", Azione::Lettura)) == QStringList{u"ok"_s};
 }

@@ -79,6 +79,8 @@ public:
     // All rows of one select, each value as it is stored.
     QList<QList<Valore>> leggi(const QString &sql);
     QList<QStringList> leggiTesti(const QString &sql); // Null as a null text
+    // Takes the whole content of `origine` in place of its own, in one piece, while other programs have either open.
+    void copiaDa(Database &origine);
     // The engine's quick check of the file.
     bool integro();
     void Close();
