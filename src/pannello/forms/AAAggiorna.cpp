@@ -1,6 +1,9 @@
 #include "pannello/forms/AAAggiorna.h"
 
 #include "pannello/logic/Versione.h"
+#include "shell/store/EngineError.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 
@@ -22,9 +25,21 @@ AAAggiorna::AAAggiorna(const Ambiente &ambiente_, const QString &versione, QWidg
 void AAAggiorna::aggiorna() {
     if (!versioneConosciuta(text1(0).text()))
         return;
+    if (!copiaConservata())
+        return;
     AggiornaArchivio(cartella());
     scriviVersioneCorrente(cartella());
     scarica();
+}
+
+// False when there is no copy and the user doesn't want to go on without one.
+bool AAAggiorna::copiaConservata() {
+    try {
+        conservaArchivio(cartella(), text1(0).text());
+    } catch (const EngineError &) {
+        return conferma(u"La copia dell'archivio di prima non si può fare."_s, u"Aggiornare senza copia ?"_s);
+    }
+    return true;
 }
 
 } // namespace zuvora
