@@ -49,6 +49,35 @@ TEST_F(Pagine, RisoluzioneNonSalvataTornaQuellaDiPrima) {
     EXPECT_EQ(pannello.risoluzione(), 3);
 }
 
+TEST_F(Pagine, PrimaRisoluzioneNonSalvataRestaSpenta) {
+    prova.esegui(u"UPDATE Configurazione SET MisuraFormWH=NULL"_s);
+    SplasModule nuovo(prova.ambiente, vociDelPannello(), QUrl());
+    prova.esegui(u"CREATE TRIGGER pieno BEFORE UPDATE ON Configurazione BEGIN SELECT RAISE(ABORT,'no'); END"_s);
+    clicca(nuovo, "PB1(9)");
+    clicca(nuovo, "RB1(1)");
+    EXPECT_FALSE(prova.dialoghi.unicoMessaggio().isEmpty());
+    for (const char *nome : {"RB1(0)", "RB1(1)", "RB1(2)", "RB1(3)"})
+        EXPECT_FALSE(trova<QRadioButton>(nuovo, nome).isChecked()) << nome;
+}
+
+TEST_F(Pagine, UnoSchermoScalatoHaISuoiPixel) {
+    prova.piattaforma.monitors.monitor = {QRect(0, 0, 1280, 720)};
+    prova.piattaforma.monitors.scala = 1.5;
+    EXPECT_EQ(testo(apriPagina("PB1(9)", "BoxImpostazioni(0)"), "RisM1"), u"1920 x 1080"_s);
+}
+
+TEST_F(Pagine, INumeriDegliSchermiApronoIlSito) {
+    QWidget &pagina = apriPagina("Position", "BoxImpostazioni(4)");
+    for (const char *numero : {"Label1(3)", "Label1(4)"})
+        QTest::mouseClick(&trova<QWidget>(pagina, numero), Qt::LeftButton);
+    EXPECT_EQ(prova.piattaforma.aperti.size(), 2);
+    EXPECT_FALSE(trova<Button>(pagina, "PosSchermo(1)").conSpunta());
+    clicca(pagina, "PosSchermo(1)");
+    EXPECT_TRUE(trova<Button>(pagina, "PosSchermo(1)").conSpunta()) << "a save that says nothing shows a tick";
+    EXPECT_EQ(trova<Button>(pagina, "PosSchermo(1)").accessibleDescription(), u"Salvato"_s);
+    EXPECT_EQ(trova<Button>(pagina, "PosSchermo(1)").Caption(), u"Secondo Schermo"_s);
+}
+
 struct CasoPagina {
     std::vector<QRect> monitor;
     QStringList testi; // QMonitor, RisM1, L1, RisM2, L2

@@ -18,8 +18,10 @@ AAAggiorna::AAAggiorna(const Ambiente &ambiente_, const QString &versione, QWidg
     Label3(0).setFontBase(titolo);
     text1(0).setText(versione);
     text1(0).setReadOnly(true);
+    command1(0).setRuolo(Ruolo::Principale);
     alClic(command1(0), [this] { aggiorna(); });
     alClic(command1(5), [this] { scarica(); });
+    command1(5).setFocus();
 }
 
 void AAAggiorna::aggiorna() {

@@ -14,9 +14,11 @@ PaginaPosizione::PaginaPosizione(const Apertura &apertura) : Pagina(apertura, "B
     QFont cifra = font();
     cifra.setPointSizeF(16);
     cifra.setBold(true);
-    for (Label *numero : {&Label1_4, &Label1_3}) {
+    for (LabelLink *numero : {&Label1_4, &Label1_3}) {
         numero->setFontBase(cifra);
         numero->setAlignment(Qt::AlignCenter);
+        numero->setFocusPolicy(Qt::NoFocus); // the panel's own link serves the keyboard
+        alClic(*numero, apertura.apriSito);
     }
     alClic(PosSchermo, [this](int indice) { scegli(indice == 0 ? Schermo::Primo : Schermo::Secondo); });
 }
@@ -29,6 +31,7 @@ void PaginaPosizione::scegli(Schermo schermo) {
     const int larghezza = twipsDa(ambiente().piattaforma.schermo().width());
     salvaSchermo(cartella(), schermo, larghezza);
     segna(schermo);
+    PosSchermo(schermo == Schermo::Primo ? 0 : 1).spunta();
 }
 
 void PaginaPosizione::segna(Schermo schermo) {

@@ -40,6 +40,7 @@ enum class Disegno : unsigned char {
     FileImmagine,
     Domanda,
     Avviso,
+    Riuscita,
     SpostaFinestra, // grip that moves the whole designer
     Presa,          // dots of a drag strip
     // Illustrations, each with its own shape

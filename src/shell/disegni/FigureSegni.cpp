@@ -36,7 +36,7 @@ constexpr Strato fileImmagine[] = {
 };
 
 constexpr Strato domanda[] = {
-    {"M2 16a14 14 0 1 1 28 0a14 14 0 1 1 -28 0z", Accento},
+    {"M2 16a14 14 0 1 1 28 0a14 14 0 1 1 -28 0z", Primario},
     {"M11.5 12.5a4.5 4.5 0 1 1 6.5 4q-2 1-2 3", Nessuna, Bianco, 3.2},
     {"M14 23.6a2 2 0 1 1 4 0a2 2 0 1 1 -4 0z", Bianco},
 };
@@ -45,6 +45,11 @@ constexpr Strato avviso[] = {
     {"M16 4.5l12.5 22h-25z", Evidenza, Evidenza, 3},
     {"M16 11.5v7", Nessuna, Primario, 3.2},
     {"M14 23.4a2 2 0 1 1 4 0a2 2 0 1 1 -4 0z", Primario},
+};
+
+constexpr Strato riuscita[] = {
+    {"M2 16a14 14 0 1 1 28 0a14 14 0 1 1 -28 0z", Accento},
+    {"M9.5 16.5l4.5 4.8l8.5 -10", Nessuna, Bianco, 3.6},
 };
 
 constexpr Strato spostaFinestra[] = {
@@ -67,6 +72,7 @@ constexpr std::array figure{
     Figura{Disegno::FileImmagine, 32, 32, fileImmagine},
     Figura{Disegno::Domanda, 32, 32, domanda},
     Figura{Disegno::Avviso, 32, 32, avviso},
+    Figura{Disegno::Riuscita, 32, 32, riuscita},
     Figura{Disegno::SpostaFinestra, 32, 32, spostaFinestra},
     Figura{Disegno::Presa, 32, 32, presa},
 };
