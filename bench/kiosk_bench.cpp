@@ -1,5 +1,6 @@
-// Opening of the kiosk's settings against a form of as many plain controls; the preview of twenty buttons against its
-// picture alone; the window's longest standstill while a kiosk that never answers is asked.
+// Opening of the kiosk's settings against a form of as many plain controls, the program's own (and, to compare, the
+// platform's bare ones); the preview of twenty buttons against its picture alone; the window's longest standstill while
+// a kiosk that never answers is asked.
 #include "Applicazione.h"
 #include "kiosk/forms/Impostatotem.h"
 #include "kiosk/forms/LayoutTotem.h"
@@ -9,6 +10,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QHash>
 #include <QListWidget>
 #include <QPainter>
 #include <algorithm>
@@ -44,35 +46,69 @@ void apriImpostatotem(benchmark::State &stato) {
     stato.counters["limite"] = 1.5;
 }
 
-// As many controls of each kind, made one by one as a form without any help would.
-void apriSemplice(benchmark::State &stato) {
+// As many controls of each kind, with the texts and at the places of the form's own, but without its data and handlers.
+template <class C> QWidget *copiaDi(const C &controllo, QWidget *padre, const QString &testo) {
+    return new C(padre, "copia", testo.toUtf8().constData(), controllo.posto());
+}
+
+QWidget *copiaDelKit(const QWidget *controllo, QWidget *padre, Dialoghi &dialoghi) {
+    if (const auto *c = qobject_cast<const Edit *>(controllo))
+        return new Edit(padre, "copia", c->posto(), c->text().toUtf8().constData());
+    if (const auto *c = qobject_cast<const CheckBox *>(controllo))
+        return copiaDi(*c, padre, c->text());
+    if (const auto *c = qobject_cast<const RadioButton *>(controllo))
+        return copiaDi(*c, padre, c->text());
+    if (const auto *c = qobject_cast<const Button *>(controllo))
+        return copiaDi(*c, padre, c->text());
+    if (const auto *c = qobject_cast<const ColorPicker *>(controllo))
+        return new ColorPicker(padre, "copia", c->posto(), dialoghi);
+    if (const auto *c = qobject_cast<const GroupBox *>(controllo))
+        return copiaDi(*c, padre, c->title());
+    if (const auto *c = qobject_cast<const ListBox *>(controllo))
+        return new ListBox(padre, "copia", c->posto());
+    if (const auto *c = qobject_cast<const PictureBox *>(controllo))
+        return new PictureBox(padre, "copia", c->posto(), Disegno::Pulisci);
+    if (const auto *c = qobject_cast<const Label *>(controllo))
+        return copiaDi(*c, padre, c->Caption());
+    return nullptr;
+}
+
+// The same of the platform's bare widgets.
+QWidget *copiaNuda(const QWidget *controllo, QWidget *padre, Dialoghi &) {
+    if (qobject_cast<const QLineEdit *>(controllo) != nullptr)
+        return new QLineEdit(u"testo"_s, padre);
+    if (qobject_cast<const QCheckBox *>(controllo) != nullptr)
+        return new QCheckBox(u"testo"_s, padre);
+    if (qobject_cast<const QRadioButton *>(controllo) != nullptr)
+        return new QRadioButton(u"testo"_s, padre);
+    if (qobject_cast<const QPushButton *>(controllo) != nullptr)
+        return new QPushButton(u"testo"_s, padre);
+    if (qobject_cast<const QGroupBox *>(controllo) != nullptr)
+        return new QGroupBox(u"testo"_s, padre);
+    if (qobject_cast<const QListWidget *>(controllo) != nullptr)
+        return new QListWidget(padre);
+    return new QLabel(u"testo"_s, padre);
+}
+
+template <auto Copia> void apriSemplice(benchmark::State &stato) {
     InstallazioneProva &i = installazione();
     Misura anteprima;
     const Impostatotem modello(i.ambiente, anteprima, nullptr);
-    const QList<QWidget *> controlli = modello.findChildren<QWidget *>();
+    QList<QWidget *> controlli = modello.findChildren<QWidget *>();
+    controlli.removeIf([](const QWidget *c) { // the parts of a list
+        return qobject_cast<const QAbstractScrollArea *>(c->parentWidget()) != nullptr ||
+               qobject_cast<const QAbstractScrollArea *>(c->parentWidget()->parentWidget()) != nullptr;
+    });
     for (auto _ : stato) {
-        QDialog form;
-        form.setFixedSize(modello.size());
-        for (const QWidget *controllo : controlli) {
-            QWidget *copia = nullptr;
-            if (qobject_cast<const QLineEdit *>(controllo) != nullptr)
-                copia = new QLineEdit(u"testo"_s, &form);
-            else if (qobject_cast<const QCheckBox *>(controllo) != nullptr)
-                copia = new QCheckBox(u"testo"_s, &form);
-            else if (qobject_cast<const QRadioButton *>(controllo) != nullptr)
-                copia = new QRadioButton(u"testo"_s, &form);
-            else if (qobject_cast<const QPushButton *>(controllo) != nullptr)
-                copia = new QPushButton(u"testo"_s, &form);
-            else if (qobject_cast<const QGroupBox *>(controllo) != nullptr)
-                copia = new QGroupBox(u"testo"_s, &form);
-            else if (qobject_cast<const QListWidget *>(controllo) != nullptr)
-                copia = new QListWidget(&form);
-            else if (qobject_cast<const QAbstractScrollArea *>(controllo->parentWidget()) != nullptr)
-                continue; // a part of the list
-            else
-                copia = new QLabel(u"testo"_s, &form);
-            copia->setGeometry(QRect(controllo->mapTo(&modello, QPoint()), controllo->size()));
+        Form form(i.ambiente, "Semplice", "Semplice", {7215, 7575}, nullptr);
+        QHash<const QWidget *, QWidget *> copie{{&modello, &form}};
+        for (const QWidget *controllo : std::as_const(controlli)) {
+            QWidget *copia = Copia(controllo, copie.value(controllo->parentWidget(), &form), i.dialoghi);
+            if (copia == nullptr)
+                continue;
+            copia->setGeometry(controllo->geometry());
             copia->setVisible(!controllo->isHidden());
+            copie.insert(controllo, copia);
         }
         mostraEDipingi(form);
     }
@@ -200,7 +236,8 @@ void comune(benchmark::internal::Benchmark *b) {
 }
 
 BENCHMARK(apriImpostatotem)->Name("Totem/apertura/nostro")->Apply(comune);
-BENCHMARK(apriSemplice)->Name("Totem/apertura/metro")->Apply(comune);
+BENCHMARK(apriSemplice<copiaDelKit>)->Name("Totem/apertura/metro")->Apply(comune);
+BENCHMARK(apriSemplice<copiaNuda>)->Name("Totem/aperturaNuda")->Apply(comune);
 BENCHMARK(dipingiAnteprima)->Name("Totem/anteprima/nostro")->Apply(comune);
 BENCHMARK(dipingiImmagine)->Name("Totem/anteprima/metro")->Apply(comune);
 BENCHMARK(mostraAnteprima)->Name("Totem/mostra/nostro")->Apply(comune);

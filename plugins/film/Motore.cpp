@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QThread>
 #include <QTimer>
+#include <cstdlib>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -17,6 +18,11 @@ namespace {
 // What has been decoded to its end sounds on for this time: the output holds it still.
 constexpr auto Coda = 150ms;
 
+// Some films creep just before their end for seconds, until the decoder says that it is the end.
+constexpr qint64 PressoLaFine = 1000; // milliseconds
+constexpr auto FermoPressoLaFine = 1s;
+constexpr qint64 PassoMinimo = 50; // milliseconds
+
 // The ear hears loudness by ratios.
 float perOrecchio(int percento) {
     return QAudio::convertVolume(float(percento) / 100, QAudio::LogarithmicVolumeScale, QAudio::LinearVolumeScale);
@@ -24,8 +30,10 @@ float perOrecchio(int percento) {
 
 } // namespace
 
-Motore::Motore(std::shared_ptr<Passaggio> passaggio, int volume)
-    : m_passaggio(std::move(passaggio)), m_volume(volume) {}
+Motore::Motore(std::shared_ptr<Passaggio> passaggio, int volume) : m_passaggio(std::move(passaggio)), m_volume(volume) {
+    m_ultimo.setSingleShot(true);
+    connect(&m_ultimo, &QTimer::timeout, this, &Motore::finisciSeFermo);
+}
 
 // Made on the engine's own thread: Qt's objects belong to the thread that makes them.
 bool Motore::prepara() {
@@ -113,12 +121,34 @@ void Motore::aggiorna() {
     } else {
         return; // stopped: the end follows
     }
+    sorvegliaFine();
     Q_EMIT notizia(m_notizia);
+}
+
+void Motore::sorvegliaFine() {
+    const bool vicina = m_notizia.durata > 0 && m_notizia.durata - m_notizia.posizione < PressoLaFine;
+    if (m_notizia.stato != StatoLettore::InCorso || !vicina)
+        m_ultimo.stop();
+    else if (!m_ultimo.isActive() || std::abs(m_notizia.posizione - m_segno) > PassoMinimo) {
+        m_segno = m_notizia.posizione;
+        m_ultimo.start(FermoPressoLaFine);
+    }
 }
 
 void Motore::finisci() {
     if (m_notizia.stato == StatoLettore::Guasto || m_lettore->mediaStatus() != QMediaPlayer::EndOfMedia)
         return; // begun again meanwhile
+    m_ultimo.stop();
+    m_notizia.stato = StatoLettore::Finito;
+    m_notizia.posizione = m_notizia.durata;
+    Q_EMIT notizia(m_notizia);
+}
+
+// Stopped, it tells nothing more; played again, it begins from the start.
+void Motore::finisciSeFermo() {
+    if (m_notizia.stato != StatoLettore::InCorso)
+        return;
+    m_lettore->stop(); // tells of its way back to the start first
     m_notizia.stato = StatoLettore::Finito;
     m_notizia.posizione = m_notizia.durata;
     Q_EMIT notizia(m_notizia);

@@ -5,6 +5,7 @@
 
 #include <QAudioOutput>
 #include <QMediaPlayer>
+#include <QTimer>
 #include <QVideoSink>
 
 namespace zuvora {
@@ -42,6 +43,8 @@ private:
     void apri(const QUrl &indirizzo);
     void aggiorna();
     void finisci();
+    void finisciSeFermo();
+    void sorvegliaFine();
     void guasta(GuastoLettore guasto, const QString &motivo);
     void sbaglia(const QString &dettaglio);
 
@@ -50,6 +53,8 @@ private:
     bool m_flusso = false;
     bool m_aperto = false;
     Notizia m_notizia;
+    QTimer m_ultimo{this}; // since the position last moved, near the end
+    qint64 m_segno = 0;    // where it was then, milliseconds
     // In this order: the player goes first.
     std::unique_ptr<QVideoSink> m_film;
     std::unique_ptr<QAudioOutput> m_audio;

@@ -38,7 +38,7 @@ TEST_F(ProvaMeteo, EveryKeySearchesAndTheTownIsStored) {
     }
     ASSERT_EQ(grid.Rows(), 1);
     EXPECT_EQ(grid.testo(0, 1), u"L'Aquila"_s);
-    clic(*form, "CBT(3)");
+    QTest::keyClick(&cerca, Qt::Key_Return); // as "Prova Comune Tabella"
     EXPECT_EQ(codice.text(), grid.testo(0, 0));
     const QString scelto = codice.text();
     EXPECT_EQ(premi(*form, "CBT(2)"), u"Impostazioni Meteo aggiornate !"_s);

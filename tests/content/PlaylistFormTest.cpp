@@ -177,7 +177,11 @@ TEST_F(ProvaPlaylistForm, TheDefaultAndItsTime) {
     EXPECT_EQ(premi(*form, "Command89"), u"Impostare valore compreso fra 1 e 60"_s);
     EXPECT_EQ(i.valore(u"SELECT playlistFoto FROM Configurazione"_s), QVariant());
     QTest::keyClick(&tempo, Qt::Key_Backspace);
-    EXPECT_EQ(premi(*form, "Command89"), u"PlayList impostata come predefinita !"_s);
+    QString detto;
+    Guida guida;
+    guida.messaggio(&detto);
+    QTest::keyClick(&tempo, Qt::Key_Return);
+    EXPECT_EQ(detto, u"PlayList impostata come predefinita !"_s);
     EXPECT_EQ(i.righe(u"SELECT playlistFoto, tempo FROM Configurazione"_s),
               QStringList{i.file(u"sala.zvi"_s) + u"|6000"_s});
     EXPECT_EQ(trova<QLineEdit>(*apri<ImpostaFoto>(), "text1").text(), u"6"_s);

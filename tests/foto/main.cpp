@@ -30,6 +30,10 @@ const QList<foto::Passo> passi{
     {"Impostatotem", "ImpostaSfondototem"},
     {"Impostatotem", "Crea"},
     {"VarieImpostaTotem", "PB1(3)"},
+    {"ImpostaFoto", "SalvaNuovo"},
+    {"UtentiServizi", "ctButton2(1)"},
+    {"UtentiServizi", "ctButton2(2)"},
+    {"SplasModule", "btnRadio(3)"},
     {"SplasModule", "Image1(0)"},
     {"SplasModule", "PB1(0)"}, // the last of the panel's: its exit form
 };

@@ -10,6 +10,7 @@ namespace zuvora {
 class FintiMonitor : public SistemaMonitor {
 public:
     std::vector<QRect> monitor{QRect(0, 0, 1920, 1080)};
+    double scala = 1;
     bool supporto = true; // several monitors are known to the platform
 
     int GetSystemMetrics(Metrica indice) const override {
@@ -42,7 +43,7 @@ public:
         if (handle < 1 || handle > static_cast<std::int32_t>(monitor.size()))
             return std::nullopt;
         const QRect &r = monitor[static_cast<std::size_t>(handle - 1)];
-        return Info{r, r.adjusted(0, 0, 0, -40)};
+        return Info{r, r.adjusted(0, 0, 0, -40), scala};
     }
 };
 
@@ -58,6 +59,8 @@ public:
 
     QString cartellaEseguibile() const override { return cartella; }
     bool altraIstanza() override { return giaInEsecuzione; }
+    std::function<void()> secondaIstanza; // a test calls it in place of another start
+    void setAllaSecondaIstanza(std::function<void()> azione) override { secondaIstanza = std::move(azione); }
     QString nomeMacchina() const override { return QStringLiteral("PC-PROVA"); }
     QString indirizzoLocale() const override { return QStringLiteral("192.0.2.7"); }
     const SistemaMonitor &monitor() const override { return monitors; }

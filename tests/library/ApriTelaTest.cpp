@@ -7,7 +7,9 @@
 #include "pannello/forms/SplasModule.h"
 
 #include <QDir>
+#include <QImage>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -33,6 +35,22 @@ TEST(ApriTela, UnaDecorazioneDalCatalogoArrivaNellaTabella) {
             u"SELECT Visibile, FontBold, top, left, Larghezza, Altezza, PercorsoImmagine FROM Layout4 WHERE rowid=35"_s),
         QStringList{u"1|0|0|0|1905|1305|"_s + i.file(u"ZuvoraDecorazioni/Elementi/"_s + file)});
     EXPECT_EQ(i.valori.LayoutCorrente, u"Layout4"_s);
+}
+
+TEST(ApriTela, UnImmagineEnormeNonFermaLaFinestraESiPuoRinunciare) {
+    InstallazioneProva i;
+    QImage enorme(9000, 9000, QImage::Format_RGB32);
+    enorme.fill(Qt::red);
+    ASSERT_TRUE(enorme.save(i.file(u"enorme.png"_s)));
+    i.esegui(u"UPDATE Layout1 SET PercorsoImmagine='%1' WHERE rowid=32"_s.arg(i.file(u"enorme.png"_s)));
+    int battiti = 0;
+    QTimer orologio;
+    QObject::connect(&orologio, &QTimer::timeout, &orologio, [&battiti] { ++battiti; });
+    orologio.start(20);
+    Guida guida;
+    guida.premi("Attesa", "Annulla"); // and no Form1
+    apriTela(i.ambiente, 3, u"Layout1"_s, nullptr);
+    EXPECT_GT(battiti, 5);
 }
 
 TEST(ApriTela, LoSfondoSiImpostaESiElimina) {

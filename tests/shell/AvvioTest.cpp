@@ -73,8 +73,22 @@ TEST_F(Avvio, VersionePrecedenteSiAggiornaEIlProgrammaFinisce) {
     EXPECT_EQ(prova.valore(u"SELECT count(*) FROM pragma_table_info('ConfigurazioneTotem') "
                            "WHERE name IN ('TestoVisibile','DataVisibile')"_s),
               2);
+    EXPECT_EQ(Fratello(prova.file(u"Zuvora-3.1.8.mdb"_s)).righe(u"SELECT * FROM Versione"_s),
+              QStringList{u"Versione 3.1.8|del 2012"_s});
     EXPECT_EQ(esegui(), 0); // the next start raises no upgrade
     EXPECT_TRUE(venuto);
+}
+
+TEST_F(Avvio, SenzaCopiaLAggiornamentoSiFaSoloSeConfermato) {
+    prova.esegui(u"UPDATE Versione SET Numero='Versione 3.1.9'"_s);
+    QDir(prova.cartella()).mkpath(u"Zuvora-3.1.9.mdb/occupata"_s);
+    QString righe;
+    guida.premi("AAAggiorna", "command1(0)");
+    guida.messaggio(&righe, 0);
+    guida.quando("AAAggiorna", [](QWidget &form) { form.close(); });
+    esegui();
+    EXPECT_TRUE(righe.contains(u"Aggiornare senza copia ?"_s)) << righe.toStdString();
+    EXPECT_EQ(prova.valore(u"SELECT Numero FROM Versione"_s).toString(), u"Versione 3.1.9"_s);
 }
 
 TEST_F(Avvio, AggiornamentoConColonnaGiaPresenteAlzaLaVersione) {

@@ -7,6 +7,16 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
+TEST(MsgForm, IlSegnoDiceSeEAndata) {
+    for (const char *fatto : {"Salvataggio effettuato !", "Memorizzazione e Copia effettuate !", "Voce cancellata !",
+                              "PlayList predefinita memorizzata !", "Numero Modificato !"})
+        EXPECT_EQ(tonoDi(QString::fromUtf8(fatto)), Tono::Riuscita) << fatto;
+    for (const char *rifiuto :
+         {"Inserire i dati prima di salvare !", "Percorso TOTEM non impostato o TOTEM non raggiungibile !",
+          "Voce già presente in archivio !", "Impossibile cancellare Immagini", "La playlist non è stata salvata !"})
+        EXPECT_EQ(tonoDi(QString::fromUtf8(rifiuto)), Tono::Rifiuto) << rifiuto;
+}
+
 TEST(MsgForm, UnMotivoLungoSiLeggeTuttoEUnoBreveStaAlSuoPosto) {
     InstallazioneProva i;
     const QString lungo =

@@ -39,6 +39,21 @@ TEST_F(Pagine, LaRisoluzioneSceltaSiScriveEArrivaAlPannello) {
     }
 }
 
+TEST_F(Pagine, LaPaginaApertaHaIlFuocoSullaRisoluzioneScelta) {
+    pannello.show();
+    QWidget &pagina = apriPagina("PB1(9)", "BoxImpostazioni(0)");
+    EXPECT_EQ(pannello.focusWidget(), &trova<QWidget>(pagina, "RB1(2)"));
+}
+
+TEST_F(Pagine, LaPosizioneDiceSeIlSecondoMonitorManca) {
+    QWidget &pagina = apriPagina("Position", "BoxImpostazioni(4)");
+    EXPECT_TRUE(testo(pagina, "Avviso").startsWith(u"Il secondo monitor non è collegato"_s));
+    EXPECT_TRUE(didascalieTagliate(pannello).isEmpty()) << didascalieTagliate(pannello).join(u' ').toStdString();
+    prova.piattaforma.monitors.monitor.emplace_back(1920, 0, 1920, 1080);
+    apriPagina("Position", "BoxImpostazioni(4)");
+    EXPECT_EQ(testo(pagina, "Avviso"), QString());
+}
+
 TEST_F(Pagine, RisoluzioneNonSalvataTornaQuellaDiPrima) {
     prova.esegui(u"CREATE TRIGGER pieno BEFORE UPDATE ON Configurazione BEGIN SELECT RAISE(ABORT,'no'); END"_s);
     QWidget &pagina = apriPagina("PB1(9)", "BoxImpostazioni(0)");
@@ -47,6 +62,35 @@ TEST_F(Pagine, RisoluzioneNonSalvataTornaQuellaDiPrima) {
     EXPECT_FALSE(prova.dialoghi.unicoMessaggio().isEmpty());
     EXPECT_TRUE(trova<QRadioButton>(pagina, "RB1(2)").isChecked());
     EXPECT_EQ(pannello.risoluzione(), 3);
+}
+
+TEST_F(Pagine, PrimaRisoluzioneNonSalvataRestaSpenta) {
+    prova.esegui(u"UPDATE Configurazione SET MisuraFormWH=NULL"_s);
+    SplasModule nuovo(prova.ambiente, vociDelPannello(), QUrl());
+    prova.esegui(u"CREATE TRIGGER pieno BEFORE UPDATE ON Configurazione BEGIN SELECT RAISE(ABORT,'no'); END"_s);
+    clicca(nuovo, "PB1(9)");
+    clicca(nuovo, "RB1(1)");
+    EXPECT_FALSE(prova.dialoghi.unicoMessaggio().isEmpty());
+    for (const char *nome : {"RB1(0)", "RB1(1)", "RB1(2)", "RB1(3)"})
+        EXPECT_FALSE(trova<QRadioButton>(nuovo, nome).isChecked()) << nome;
+}
+
+TEST_F(Pagine, UnoSchermoScalatoHaISuoiPixel) {
+    prova.piattaforma.monitors.monitor = {QRect(0, 0, 1280, 720)};
+    prova.piattaforma.monitors.scala = 1.5;
+    EXPECT_EQ(testo(apriPagina("PB1(9)", "BoxImpostazioni(0)"), "RisM1"), u"1920 x 1080"_s);
+}
+
+TEST_F(Pagine, INumeriDegliSchermiApronoIlSito) {
+    QWidget &pagina = apriPagina("Position", "BoxImpostazioni(4)");
+    for (const char *numero : {"Label1(3)", "Label1(4)"})
+        QTest::mouseClick(&trova<QWidget>(pagina, numero), Qt::LeftButton);
+    EXPECT_EQ(prova.piattaforma.aperti.size(), 2);
+    EXPECT_FALSE(trova<Button>(pagina, "PosSchermo(1)").conSpunta());
+    clicca(pagina, "PosSchermo(1)");
+    EXPECT_TRUE(trova<Button>(pagina, "PosSchermo(1)").conSpunta()) << "a save that says nothing shows a tick";
+    EXPECT_EQ(trova<Button>(pagina, "PosSchermo(1)").accessibleDescription(), u"Salvato"_s);
+    EXPECT_EQ(trova<Button>(pagina, "PosSchermo(1)").Caption(), u"Secondo Schermo"_s);
 }
 
 struct CasoPagina {

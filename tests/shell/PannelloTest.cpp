@@ -5,6 +5,7 @@
 #include "pannello/forms/SplasModule.h"
 #include "shell/host/MsgForm.h"
 #include "shell/host/Pagina.h"
+#include "shell/host/QtPiattaforma.h"
 
 #include <QRadioButton>
 #include <QTest>
@@ -114,6 +115,41 @@ TEST_F(Pannello, UnaPaginaAllaVolta) {
     EXPECT_EQ(testo("Comando"), QString());
 }
 
+TEST_F(Pannello, IlTabVaDalMenuAllaPaginaAllaRigaInBasso) {
+    apriPannello();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(pannello.get()));
+    auto &voce = trova<Button>(*pannello, "PB1(10)");
+    voce.setFocus();
+    QTest::keyClick(&voce, Qt::Key_Return);
+    const auto &pagina = trova<Pagina>(*pannello, "BoxImpostazioni(1)");
+    EXPECT_TRUE(pagina.isAncestorOf(QApplication::focusWidget())) << "opening a page puts the focus into it";
+    EXPECT_TRUE(voce.segnato());
+    std::string giro;
+    for (int i = 0; i < 60; ++i) {
+        const QWidget *w = QApplication::focusWidget();
+        const char zona = pagina.isAncestorOf(w)                                   ? 'p'
+                          : trova<QWidget>(*pannello, "GroupBox3").isAncestorOf(w) ? 'm'
+                                                                                   : 'b';
+        if (giro.empty() || giro.back() != zona)
+            giro += zona;
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(giro.substr(0, 4), "pbmp");
+    clicca(*pannello, "Position");
+    EXPECT_FALSE(voce.segnato());
+}
+
+TEST_F(Pannello, LaSecondaPartenzaPortaDavantiLaFinestra) {
+    const QByteArray chiave = "zuvora-prova-davanti-" + QByteArray::number(QCoreApplication::applicationPid());
+    QtPiattaforma prima(chiave);
+    ASSERT_FALSE(prima.altraIstanza());
+    int chiamate = 0;
+    prima.setAllaSecondaIstanza([&] { ++chiamate; });
+    EXPECT_TRUE(QtPiattaforma(chiave).altraIstanza());
+    EXPECT_TRUE(QtPiattaforma(chiave).altraIstanza());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chiamate == 2; }));
+}
+
 TEST_F(Pannello, FunzioneNonAncoraDisponibileLoDice) {
     auto voci = vociDelPannello();
     voci.front().apri = std::monostate{};
@@ -176,6 +212,8 @@ TEST_F(Pannello, IlNomeCambiaIDirittiSubito) {
         EXPECT_EQ(stored.toString(), passo.nome);
         for (const char *nome : SoloPrincipale)
             EXPECT_EQ(trova<QPushButton>(*pannello, nome).isEnabled(), passo.principale) << nome;
+        EXPECT_EQ(trova<QPushButton>(*pannello, "PB1(2)").toolTip().isEmpty(), passo.principale) << "says why";
+        EXPECT_EQ(trova<QLineEdit>(*pannello, "LaPorta").isReadOnly(), !passo.principale);
         EXPECT_EQ(!trova<QWidget>(*pannello, "GroupBox1").isHidden(), passo.principale);
         EXPECT_EQ(!trova<QWidget>(*pannello, "SaveIP").isHidden(), passo.principale);
     }

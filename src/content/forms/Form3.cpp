@@ -1,5 +1,7 @@
 #include "content/forms/Form3.h"
 
+#include "shell/host/Tastiera.h"
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
@@ -14,6 +16,7 @@ Form3::Form3(const Ambiente &ambiente_, const QString &host, QWidget *padre)
     CBT_2.setRuolo(Ruolo::Principale);
     alClic(CBT_2, [this] { salva(); });
     alClic(CBT_0, [this] { scarica(); });
+    bottoneDi(Text4, CBT_3); // what was searched is tried
     Text4.setFocus();
     // Without the towns a code can still be typed.
     proteggi([this] { apri(Data2, cartella(), ElencoComuni.toString()); });

@@ -33,6 +33,7 @@ FormPlaylist::FormPlaylist(const Ambiente &ambiente_, const AspettoPlaylist &a, 
       Label1_0(this, "Label1(0)", a.attiva, a.Label1_0), Label1_1(this, "Label1(1)", "", entro(a.Label1_1, a.interno)),
       Label1_5(this, "Label1(5)", "Disco / Cartelle", {120, 750, 1185, 255}),
       Drive1(this, "Drive1", {1320, 720, 1935, 315}), Dir1(this, "Dir1", a.Dir1), File1(this, "File1", a.File1),
+      Command89(this, "Command89", "Seleziona come Predefinito!", {6360, 7080, 2415, 330}),
       m_scelta(Drive1, Dir1, File1, m_tipo.contenuti.toString()), Command6(this, "Command6", "&Salva", a.Command6),
       SalvaNuovo(this, "SalvaNuovo", "&Salva in nuovo file", a.SalvaNuovo),
       command1(this, "command1", a.aggiungi, a.command1), Command10(this, "Command10", a.aggiungiTutti, a.Command10),
@@ -44,7 +45,6 @@ FormPlaylist::FormPlaylist(const Ambiente &ambiente_, const AspettoPlaylist &a, 
       Command4(this, "Command4", "Sposta S&u", {2880, 7080, 975, 330}),
       Command9(this, "Command9", "&Vuota PlayList", {3840, 7080, 1215, 330}),
       EliminaFile(this, a.nomeElimina, a.elimina, {5040, 7080, 1335, 330}),
-      Command89(this, "Command89", "Seleziona come Predefinito!", {6360, 7080, 2415, 330}),
       Command5(this, "Command5", "C&hiudi", {8760, 7080, 975, 330}) {
     Label1_1.setAbbrevia(true);
     Command6.setRuolo(Ruolo::Principale);

@@ -60,6 +60,7 @@ private:
 
 protected:
     FileListBox File1;
+    Button Command89;
 
 private:
     SceltaFile m_scelta;
@@ -76,7 +77,6 @@ private:
     Button Command4;
     Button Command9;
     Button EliminaFile;
-    Button Command89;
     Button Command5;
 };
 

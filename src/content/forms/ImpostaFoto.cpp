@@ -1,6 +1,7 @@
 #include "content/forms/ImpostaFoto.h"
 
 #include "content/logic/Predefinita.h"
+#include "shell/host/Tastiera.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,6 +15,7 @@ constexpr int massimeCifre = 2;
 ImpostaFoto::ImpostaFoto(const Ambiente &ambiente_, QWidget *padre, const Percorsi &percorsi)
     : FormPlaylist(ambiente_, AspettoFoto, padre, percorsi) {
     text1.setFiltro(soloCifre);
+    bottoneDi(text1, Command89); // the one that stores the time
     text1.setMaxLength(massimeCifre);
     quando(Image1, &AnteprimaImmagine::cambiata, [this] {
         if (m_tace && !Image1.guasto().isEmpty())

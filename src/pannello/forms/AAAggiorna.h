@@ -12,6 +12,7 @@ public:
 
 private:
     void aggiorna();
+    bool copiaConservata();
 
     Schiera<Label> Label3{this, "Label3", {{0, "Installazione aggiornamenti", {240, 180, 5295, 345}}}};
     Schiera<Label> Label1{

@@ -17,6 +17,16 @@ int fermati(const Ambiente &ambiente, const EngineError &e) {
     return 1;
 }
 
+// A second start brings up what is there; a form that stands over the panel comes with it.
+void vieniDavanti(QWidget &pannello) {
+    QWidget *modale = QApplication::activeModalWidget();
+    pannello.setWindowState(pannello.windowState() & ~Qt::WindowMinimized);
+    for (QWidget *w : {&pannello, modale == nullptr ? &pannello : modale}) {
+        w->raise();
+        w->activateWindow();
+    }
+}
+
 } // namespace
 
 int eseguiProgramma(const Ambiente &ambiente, std::vector<VoceMenu> voci, const QUrl &sito) {
@@ -34,6 +44,7 @@ int eseguiProgramma(const Ambiente &ambiente, std::vector<VoceMenu> voci, const 
     }
     if (pannello->ControllaVersione())
         return 0;
+    ambiente.piattaforma.setAllaSecondaIstanza([&pannello] { vieniDavanti(*pannello); });
     pannello->show();
     return QApplication::exec();
 }

@@ -8,6 +8,7 @@ NomeServer::NomeServer(const Ambiente &ambiente_, QWidget *padre, std::function<
     : Form(ambiente_, "NomeServer", "Impostazione Nome del Server", {5055, 2700}, padre),
       m_salvato(std::move(salvato)) {
     text1_1.setText(leggiNominativo(cartella()));
+    Btn_1.setRuolo(Ruolo::Principale);
     alClic(Btn_1, [this] { salva(); });
     alClic(Btn_0, [this] { scarica(); });
 }

@@ -18,9 +18,8 @@ PaginaClient::PaginaClient(const Apertura &apertura) : Pagina(apertura, "BoxImpo
     ipS1.setAccessibleName(u"Indirizzo del server"_s);
     LaPorta.setAccessibleName(u"Porta di ascolto del server"_s);
     NameS1.setAccessibleName(u"Nome della macchina del server"_s);
-    for (Edit *campo : {&ipS1, &LaPorta, &NameS1})
-        campo->setToolTip(campo->accessibleName());
     LaPorta.setFiltro(soloCifre);
+    SaveIP.setRuolo(Ruolo::Principale);
     alClic(SaveIP, [this] { salva(); });
     PaginaClient::applicaPrincipale(apertura.principale);
 }
@@ -28,6 +27,13 @@ PaginaClient::PaginaClient(const Apertura &apertura) : Pagina(apertura, "BoxImpo
 void PaginaClient::applicaPrincipale(bool principale) {
     GroupBox1.setVisible(principale);
     SaveIP.setVisible(principale);
+    for (Edit *campo : {&ipS1, &LaPorta, &NameS1}) {
+        campo->setSolaLettura(principale ? QString()
+                                         : u"Solo l'installazione principale (nome SERVER1) può cambiare i dati "
+                                           "del server."_s);
+        if (principale)
+            campo->setToolTip(campo->accessibleName());
+    }
 }
 
 void PaginaClient::riempi() {
@@ -50,6 +56,7 @@ void PaginaClient::salva() {
     if (XZ_1.isChecked())
         server.tipo = TipoChiamata::Selettiva;
     salvaDatiServer(cartella(), server);
+    SaveIP.spunta();
 }
 
 } // namespace zuvora

@@ -4,6 +4,8 @@
 #include "shell/host/Piattaforma.h"
 #include "shell/logic/Risoluzioni.h"
 
+#include <cmath>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
@@ -15,8 +17,11 @@ constexpr int LeftUnMonitor = 1680;
 constexpr int LeftPrimo = 600;
 constexpr int LeftSecondo = 2760;
 
-QString misureDi(const clsMonitor &m) {
-    return QString::number(m.Width) + u" x "_s + QString::number(m.Height);
+// Where the desktop is scaled, the size that the screen has, not the one that programs reckon with.
+QString misureDi(const clsMonitor &m, const SistemaMonitor &sistema) {
+    const auto info = sistema.GetMonitorInfo(m.Handle);
+    const double scala = info ? info->scala : 1;
+    return QString::number(std::lround(m.Width * scala)) + u" x "_s + QString::number(std::lround(m.Height * scala));
 }
 
 } // namespace
@@ -27,8 +32,7 @@ PaginaRisoluzioni::PaginaRisoluzioni(const Apertura &apertura)
           const QByteArray didascalia = Risoluzioni[std::size_t(i)].didascalia.toUtf8();
           return std::make_unique<RadioButton>(this, nome, didascalia.constData(), PostiRB1[i]);
       }) {
-    if (m_risoluzione > 0)
-        RB1(m_risoluzione - 1).setChecked(true);
+    m_scelte.setScelto(m_risoluzione - 1);
     alClic(RB1, [this](int indice) { scegli(indice); });
 }
 
@@ -36,9 +40,7 @@ void PaginaRisoluzioni::scegli(int indice) {
     try {
         salvaRisoluzione(cartella(), indice + 1);
     } catch (...) {
-        // The buttons go on showing what is stored. Only an auto-exclusive group of none can't be shown again.
-        if (m_risoluzione > 0)
-            RB1(m_risoluzione - 1).setChecked(true);
+        m_scelte.setScelto(m_risoluzione - 1); // the buttons go on showing what is stored, none if nothing is
         throw;
     }
     m_risoluzione = indice + 1;
@@ -46,7 +48,8 @@ void PaginaRisoluzioni::scegli(int indice) {
 }
 
 void PaginaRisoluzioni::riempi() {
-    const clsMonitors elenco(ambiente().piattaforma.monitor());
+    const SistemaMonitor &sistema = ambiente().piattaforma.monitor();
+    const clsMonitors elenco(sistema);
     const auto &monitors = elenco.Monitors();
     const bool uno = monitors.size() == 1;
     QMonitor.setCaption(QString::number(monitors.size()));
@@ -54,9 +57,9 @@ void PaginaRisoluzioni::riempi() {
     Image3.setLeft(uno ? LeftUnMonitor : LeftSecondo);
     const bool due = monitors.size() == 2;
     // With three or more monitors the two lines can't name them all: they stay empty.
-    RisM1.setCaption(uno || due ? misureDi(monitors[0]) : QString());
+    RisM1.setCaption(uno || due ? misureDi(monitors[0], sistema) : QString());
     L1.setCaption(uno || due ? QString::number(monitors[0].left) : QString());
-    RisM2.setCaption(due ? misureDi(monitors[1]) : QString());
+    RisM2.setCaption(due ? misureDi(monitors[1], sistema) : QString());
     L2.setCaption(due ? QString::number(monitors[1].left) : QString());
     for (Label *seconda : {&Label7(2), &RisM2, &L2})
         seconda->setVisible(!uno);

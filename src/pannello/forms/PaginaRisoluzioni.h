@@ -21,6 +21,7 @@ private:
                    "Scegliere quali Risoluzione Video adoperare per lo schermo di FrontEnd della sala d'attesa",
                    {360, 240, 4815, 495}};
     Schiera<RadioButton> RB1;
+    GruppoRadio m_scelte{RB1};
     PictureBox Image2{this, "Image2", {600, 1920, 1800, 1500}, Disegno::Schermo1};
     PictureBox Image3{this, "Image3", {2760, 1920, 1800, 1500}, Disegno::Schermo2};
     Schiera<Label> Label7{this,

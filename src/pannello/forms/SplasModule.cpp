@@ -58,7 +58,12 @@ void SplasModule::disponi() {
         bottone->allineaASinistra();
         alClic(*bottone, [this, &voce] { premi(voce); });
     }
+    QList<Button *> menu{&IlMenu};
+    for (const auto &bottone : m_menu)
+        menu << bottone.get();
+    condensaInsieme(menu);
     Comando.setFontBase(ingrandito(font(), 14));
+    Label9_1.setAbbrevia(true);
     Label9_1.setFontBase(ingrandito(font(), font().pointSizeF()));
     Label1_0.setCaption(m_sito.host());
     for (const auto &[indice, immagine] : Image1) {
@@ -99,8 +104,12 @@ void SplasModule::apri(const VoceMenu &voce) {
 }
 
 Apertura SplasModule::apertura() {
-    return {ambiente(), this, m_risoluzione, ePrincipale(Label9_1.Caption()),
-            [this](int risoluzione) { m_risoluzione = risoluzione; }};
+    return {ambiente(),
+            this,
+            m_risoluzione,
+            ePrincipale(Label9_1.Caption()),
+            [this](int risoluzione) { m_risoluzione = risoluzione; },
+            [this] { apriSito(); }};
 }
 
 // Pages are made when first opened: the panel is on the screen sooner.
@@ -109,11 +118,14 @@ void SplasModule::apriPagina(const char *nome, const ApriPagina &crea) {
     if (pagina == m_pagine.end())
         pagina = m_pagine.emplace(nome, crea(apertura())).first;
     pagina->second->apri();
+    GroupBox3.findChild<Button *>(QString::fromLatin1(nome))->setSegnato(true);
 }
 
 void SplasModule::NascondiPagine() {
     for (const auto &[nome, pagina] : m_pagine)
         pagina->nascondi();
+    for (const auto &bottone : m_menu)
+        bottone->setSegnato(false);
 }
 
 bool SplasModule::ControllaVersione() {
@@ -154,7 +166,8 @@ void SplasModule::mostraNominativo(const QString &nominativo) {
 void SplasModule::applicaNominativo() {
     const bool principale = ePrincipale(Label9_1.Caption());
     for (std::size_t i = 0; i < m_voci.size(); ++i)
-        m_menu[i]->setEnabled(principale || !m_voci[i].soloPrincipale);
+        m_menu[i]->abilita(principale || !m_voci[i].soloPrincipale,
+                           u"Riservato all'installazione principale (nome SERVER1)."_s);
     for (const auto &[nome, pagina] : m_pagine)
         pagina->applicaPrincipale(principale);
 }

@@ -1,13 +1,17 @@
 #include "pannello/logic/Versione.h"
 
+#include "shell/logic/FileAtomico.h"
 #include "shell/store/Data.h"
 #include "shell/store/Database.h"
 #include "shell/store/EngineError.h"
 #include "shell/store/Riga.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <algorithm>
 #include <array>
+#include <filesystem>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -30,6 +34,27 @@ std::optional<QString> versioneDaAggiornare(QStringView etichetta) {
     if (!versioneConosciuta(breve))
         return std::nullopt;
     return breve.toString();
+}
+
+void conservaArchivio(const QString &cartella, const QString &versione) {
+    const QFileInfo archivio(percorsoArchivio(cartella));
+    const QString copia = u"%1/%2-%3.mdb"_s.arg(archivio.path(), archivio.completeBaseName(), versione);
+    const QString parziale = copia + u".parziale"_s;
+    QFile::remove(parziale);
+    try {
+        Database origine = Database::apriInLettura(archivio.filePath());
+        Database::crea(parziale).copiaDa(origine);
+        std::error_code errore;
+        std::filesystem::rename(QFileInfo(parziale).filesystemFilePath(), QFileInfo(copia).filesystemFilePath(),
+                                errore);
+        if (errore)
+            throw EngineError(Errore::PercorsoFile,
+                              u"La copia «%1» non si può scrivere: %2"_s.arg(QDir::toNativeSeparators(copia),
+                                                                             motivoSistema(errore.value())));
+    } catch (...) {
+        QFile::remove(parziale);
+        throw;
+    }
 }
 
 void AggiornaArchivio(const QString &cartella) {

@@ -15,6 +15,10 @@ std::optional<QString> versioneDaAggiornare(QStringView etichetta);
 // True for the five short forms.
 bool versioneConosciuta(QStringView breve);
 
+// Keeps a copy of the settings database beside it, called after the version that it has: "Zuvora-3.1.9.mdb". An older
+// one of that name gives way only to a whole new one. Throws EngineError.
+void conservaArchivio(const QString &cartella, const QString &versione);
+
 // Adds the two columns that the current version has and older ones lack. `cartella` is the application folder. A
 // failure of the opening throws EngineError; any later failure ends the operation silently: a database that has a
 // column already loses nothing.

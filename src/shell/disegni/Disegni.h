@@ -38,14 +38,9 @@ enum class Disegno : unsigned char {
     Cartella,
     Unita,
     FileImmagine,
-    FileVideo,
-    Su,
-    Giu,
-    Copia,
     Domanda,
-    Informazione,
     Avviso,
-    Critico,
+    Riuscita,
     SpostaFinestra, // grip that moves the whole designer
     Presa,          // dots of a drag strip
     // Illustrations, each with its own shape
@@ -53,7 +48,6 @@ enum class Disegno : unsigned char {
     SalaAttesa,       // waiting room beside a message, 230 x 300
     Schermo1,         // landscape monitors, 144 x 120, same outline: one covers the other
     Schermo2,         //
-    SchermoVerticale, // portrait monitor, 144 x 120
     DueSchermi,       // two blank screens, 336 x 150, their middles at x 76 and 260
     Marcatore,        // pin pointing down, 48 x 48
 };

@@ -133,25 +133,6 @@ constexpr Strato schermo2[] = {
     {"M104 72.5a6 6 0 1 1 12 0a6 6 0 1 1 -12 0z", Evidenza},
 };
 
-constexpr Strato schermoVerticale[] = {
-    {"M38 114a34 3.500 0 1 1 68 0a34 3.500 0 1 1-68 0z", Velo},
-    {"M66 100h12l2 10h-16z", Primario},
-    {"M55 108h34a3 3 0 0 1 3 3v0a3 3 0 0 1 -3 3h-34a3 3 0 0 1 -3 -3v0a3 3 0 0 1 3 -3z", Primario},
-    {"M48 2h48a7 7 0 0 1 7 7v88a7 7 0 0 1 -7 7h-48a7 7 0 0 1 -7 -7v-88a7 7 0 0 1 7 -7z", Primario},
-    {"M49 7h46a3 3 0 0 1 3 3v86a3 3 0 0 1 -3 3h-46a3 3 0 0 1 -3 -3v-86a3 3 0 0 1 3 -3z", PrimarioChiaro},
-    {"M51 22h42v21a3 3 0 0 1 -3 3h-36a3 3 0 0 1 -3 -3z", Bianco},
-    {"M51 22v-7a3 3 0 0 1 3 -3h36a3 3 0 0 1 3 3v7z", Primario},
-    {"M57 17h30", Nessuna, Bianco},
-    {"M63 31l5-3.500v14M75 32q1-4 5-4q5 0 5 4.500q0 3-4 6l-6 4h10.500", Nessuna, Accento, 4},
-    {"M54 51h36a3 3 0 0 1 3 3v24a3 3 0 0 1 -3 3h-36a3 3 0 0 1 -3 -3v-24a3 3 0 0 1 3 -3z", AccentoChiaro},
-    {"M57 60a4 4 0 1 1 8 0a4 4 0 1 1 -8 0z", Evidenza},
-    {"M53 79v-4l10-9l7 6l9-12l12 11v6q0 2-2 2z", Accento},
-    {"M53.5 86h37a2.5 2.5 0 0 1 2.5 2.5v3a2.5 2.5 0 0 1 -2.5 2.5h-37a2.5 2.5 0 0 1 -2.5 -2.5v-3a2.5 2.5 0 0 1 2.5 "
-     "-2.5z",
-     Primario},
-    {"M57 90h14M76 90h11", Nessuna, Bianco},
-};
-
 constexpr Strato dueSchermi[] = {
     {"M32 141a44 4 0 1 1 88 0a44 4 0 1 1-88 0z", Velo},
     {"M66 112h20l3 24h-26z", Primario},
@@ -178,7 +159,6 @@ constexpr std::array figure{
     Figura{Disegno::SalaAttesa, 230, 300, salaAttesa},
     Figura{Disegno::Schermo1, 144, 120, schermo1},
     Figura{Disegno::Schermo2, 144, 120, schermo2},
-    Figura{Disegno::SchermoVerticale, 144, 120, schermoVerticale},
     Figura{Disegno::DueSchermi, 336, 150, dueSchermi},
     Figura{Disegno::Marcatore, 48, 48, marcatore},
 };

@@ -35,40 +35,10 @@ constexpr Strato fileImmagine[] = {
     {"M6.5 26v-2.5l5-5l3 3l4-5l5 5.5v3q0 1-1 1z", Accento},
 };
 
-constexpr Strato fileVideo[] = {
-    {"M7 3h13l6 6v17a3 3 0 0 1-3 3h-16a3 3 0 0 1-3-3v-20a3 3 0 0 1 3-3z", Bianco, Primario},
-    {"M20 3v6h6z", Velo, Primario},
-    {"M10.95 13.6L20.4 19L10.95 24.4z", Accento},
-};
-
-constexpr Strato su[] = {
-    {"M6 20L16 10L26 20", Nessuna, Primario, 4},
-};
-
-constexpr Strato giu[] = {
-    {"M6 12L16 22L26 12", Nessuna, Primario, 4},
-};
-
-constexpr Strato copia[] = {
-    {"M5.5 3h13a2.5 2.5 0 0 1 2.5 2.5v15a2.5 2.5 0 0 1 -2.5 2.5h-13a2.5 2.5 0 0 1 -2.5 -2.5v-15a2.5 2.5 0 0 1 2.5 "
-     "-2.5z",
-     AccentoChiaro, Primario},
-    {"M12.5 9h14a2.5 2.5 0 0 1 2.5 2.5v15a2.5 2.5 0 0 1 -2.5 2.5h-14a2.5 2.5 0 0 1 -2.5 -2.5v-15a2.5 2.5 0 0 1 2.5 "
-     "-2.5z",
-     Bianco, Primario},
-    {"M14.5 15h10M14.5 19h10M14.5 23h6", Nessuna, Accento},
-};
-
 constexpr Strato domanda[] = {
-    {"M2 16a14 14 0 1 1 28 0a14 14 0 1 1 -28 0z", Accento},
+    {"M2 16a14 14 0 1 1 28 0a14 14 0 1 1 -28 0z", Primario},
     {"M11.5 12.5a4.5 4.5 0 1 1 6.5 4q-2 1-2 3", Nessuna, Bianco, 3.2},
     {"M14 23.6a2 2 0 1 1 4 0a2 2 0 1 1 -4 0z", Bianco},
-};
-
-constexpr Strato informazione[] = {
-    {"M2 16a14 14 0 1 1 28 0a14 14 0 1 1 -28 0z", Primario},
-    {"M16 15v8", Nessuna, Bianco, 3.4},
-    {"M13.9 9.2a2.1 2.1 0 1 1 4.2 0a2.1 2.1 0 1 1 -4.2 0z", Bianco},
 };
 
 constexpr Strato avviso[] = {
@@ -77,9 +47,9 @@ constexpr Strato avviso[] = {
     {"M14 23.4a2 2 0 1 1 4 0a2 2 0 1 1 -4 0z", Primario},
 };
 
-constexpr Strato critico[] = {
-    {"M2 16a14 14 0 1 1 28 0a14 14 0 1 1 -28 0z", Pericolo},
-    {"M11 11l10 10M21 11l-10 10", Nessuna, Bianco, 3.6},
+constexpr Strato riuscita[] = {
+    {"M2 16a14 14 0 1 1 28 0a14 14 0 1 1 -28 0z", Accento},
+    {"M9.5 16.5l4.5 4.8l8.5 -10", Nessuna, Bianco, 3.6},
 };
 
 constexpr Strato spostaFinestra[] = {
@@ -100,14 +70,9 @@ constexpr std::array figure{
     Figura{Disegno::Cartella, 32, 32, cartella},
     Figura{Disegno::Unita, 32, 32, unita},
     Figura{Disegno::FileImmagine, 32, 32, fileImmagine},
-    Figura{Disegno::FileVideo, 32, 32, fileVideo},
-    Figura{Disegno::Su, 32, 32, su},
-    Figura{Disegno::Giu, 32, 32, giu},
-    Figura{Disegno::Copia, 32, 32, copia},
     Figura{Disegno::Domanda, 32, 32, domanda},
-    Figura{Disegno::Informazione, 32, 32, informazione},
     Figura{Disegno::Avviso, 32, 32, avviso},
-    Figura{Disegno::Critico, 32, 32, critico},
+    Figura{Disegno::Riuscita, 32, 32, riuscita},
     Figura{Disegno::SpostaFinestra, 32, 32, spostaFinestra},
     Figura{Disegno::Presa, 32, 32, presa},
 };

@@ -65,6 +65,7 @@ Browser::Browser(QWidget *padre, const char *nome, const Posto &posto, const Pia
     m_avviso->setReadOnly(true);
     m_avviso->setFrameStyle(QFrame::NoFrame);
     m_avviso->setTabChangesFocus(true);
+    m_avviso->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_avviso->document()->setDocumentMargin(MargineAvviso);
     m_avviso->setAccessibleName(u"Avviso"_s);
     m_avviso->viewport()->installEventFilter(this);

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QScreen>
 #include <limits>
 #include <utility>
 
@@ -62,12 +63,25 @@ Form::Form(const Ambiente &ambiente, const char *nome, const char *didascalia, c
     : QDialog(padre, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
       Schermata(ambiente, static_cast<QWidget &>(*this)) {
     setObjectName(QString::fromUtf8(nome));
-    setWindowTitle(QString::fromUtf8(didascalia));
+    Form::setCaption(QString::fromUtf8(didascalia));
     setMisuraInterna(interno);
 }
 
 void Form::setMisuraInterna(const Misura &interno) {
     setFixedSize(pixelDa(interno));
+}
+
+// Without a title the platform would put the program's name there.
+void Form::setCaption(const QString &testo) {
+    m_didascalia = testo;
+    setWindowTitle(testo.isEmpty() ? QStringLiteral(" ") : testo);
+}
+
+// Where the opener is not to be seen, as at the start of the program.
+void Form::centra() {
+    QRect qui = frameGeometry();
+    qui.moveCenter(screen()->availableGeometry().center());
+    move(qui.topLeft());
 }
 
 void Form::mostraModale() {
@@ -123,6 +137,8 @@ void Form::showEvent(QShowEvent *e) {
     if (m_mostrata || e->spontaneous())
         return;
     m_mostrata = true;
+    if (parentWidget() != nullptr && !parentWidget()->window()->isVisible())
+        centra();
     nominaCampi(this);
     ordinaFuochi(*this);
     if (QWidget *primo = focusWidget() == nullptr ? primoFuoco(*this) : nullptr)

@@ -14,8 +14,8 @@ class Form : public QDialog, public Schermata {
 public:
     Form(const Ambiente &ambiente, const char *nome, const char *didascalia, const Misura &interno, QWidget *padre);
 
-    QString Caption() const { return windowTitle(); }
-    void setCaption(const QString &testo) { setWindowTitle(testo); }
+    const QString &Caption() const { return m_didascalia; }
+    void setCaption(const QString &testo);
     void setMisuraInterna(const Misura &interno); // twips
 
     // Shows the form over its opener and returns when it is unloaded.
@@ -39,6 +39,9 @@ private:
     void accodaAttivazione();
     void attiva();
 
+    void centra();
+
+    QString m_didascalia;
     int m_sopra = 0; // forms that this one opened and that are still there
     bool m_mostrata = false;
     bool m_inCoda = false;

@@ -1,5 +1,9 @@
 #include "shell/host/MsgForm.h"
 
+#include <QRegularExpression>
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace zuvora {
 namespace {
 
@@ -15,11 +19,33 @@ void faiPosto(Label &label, const QFont &font, bool versoAlto) {
         label.setPosto({posto.left, versoAlto ? posto.top + posto.height - serve : posto.top, posto.width, serve});
 }
 
+Disegno segnoDi(Tono tono) {
+    switch (tono) {
+    case Tono::Riuscita:
+        return Disegno::Riuscita;
+    case Tono::Domanda:
+        return Disegno::Domanda;
+    case Tono::Rifiuto:
+        break;
+    }
+    return Disegno::Avviso;
+}
+
 } // namespace
+
+Tono tonoDi(const QString &riga0) {
+    static const QRegularExpression fatto(
+        u"\\b(effettuat|memorizzat|salvat|impostat|modificat|aggiornat|cancellat|copiat|aggiunt)[aoie]\\b"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression negato(u"\\b(non|nessun[ao]?|impossibile|errore|prima)\\b"_s,
+                                           QRegularExpression::CaseInsensitiveOption);
+    return riga0.contains(fatto) && !riga0.contains(negato) ? Tono::Riuscita : Tono::Rifiuto;
+}
 
 MsgForm::MsgForm(const Ambiente &ambiente_, const QString &riga0, const QString &riga1, bool domanda, QWidget *padre)
     : Form(ambiente_, "MsgForm", "", {8400, 5040}, padre),
       Image1(this, "Image1", {120, 120, 3480, 4800}, Disegno::SalaAttesa),
+      Segno(this, "Segno", {7815, 285, 465, 465}, segnoDi(domanda ? Tono::Domanda : tonoDi(riga0))),
       Label1(this, "Label1", "Messaggio x te  da Zuvora", {3840, 360, 3975, 315}),
       Label2(this, "Label2", {{0, "", {3840, 2040, 4320, 255}}, {1, "", {3840, 2400, 4320, 255}}}),
       PB1(this, "PB1", {{Conferma, "&Conferma", {6000, 4440, 975, 330}}, {Chiudi, "C&hiudi", {6960, 4440, 975, 330}}}) {

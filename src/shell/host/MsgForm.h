@@ -5,6 +5,13 @@
 
 namespace zuvora {
 
+// What a message is: something done, something not done, something asked.
+enum class Tono { Riuscita, Rifiuto, Domanda };
+
+// The tone of a message that only tells, by its first line: the program's texts for what is done all carry one of a few
+// participles, without a "non".
+Tono tonoDi(const QString &riga0);
+
 enum class RispostaMessaggio { Chiudi = 7, Conferma = 8 };
 
 // The form of all short messages and yes-no questions.
@@ -16,6 +23,7 @@ public:
 private:
     RispostaMessaggio m_risposta = RispostaMessaggio::Chiudi;
     PictureBox Image1;
+    PictureBox Segno;
     Label Label1;
     Schiera<Label> Label2;
     Schiera<Button> PB1;

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QUrl>
+#include <functional>
 
 namespace zuvora {
 
@@ -16,6 +17,8 @@ public:
     // True when another instance runs on this machine, whichever user started it. The first call that gives false makes
     // this process the running instance until it ends, in whatever way.
     virtual bool altraIstanza() = 0;
+    // In the running instance: called each time another start has found it running.
+    virtual void setAllaSecondaIstanza(std::function<void()> azione) = 0;
     virtual QString nomeMacchina() const = 0;
     virtual QString
     indirizzoLocale() const = 0; // of the default route, IPv4 in dotted form; "127.0.0.1" without a network

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QSocketNotifier>
 #include <QSysInfo>
 #include <QWidget>
 #include <QWindow>
@@ -66,7 +67,7 @@ public:
         if (handle < 1 || handle > schermi.size())
             return std::nullopt;
         const QScreen *schermo = schermi.at(handle - 1);
-        return Info{schermo->geometry(), schermo->availableGeometry()};
+        return Info{schermo->geometry(), schermo->availableGeometry(), schermo->devicePixelRatio()};
     }
 };
 
@@ -121,11 +122,24 @@ bool QtPiattaforma::altraIstanza() {
     const auto misura = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + lunghezza);
     if (bind(guardia, reinterpret_cast<const sockaddr *>(&nome), misura) != 0) {
         const bool occupato = errno == EADDRINUSE;
+        if (occupato) // being called is all that the other one needs
+            connect(guardia, reinterpret_cast<const sockaddr *>(&nome), misura);
         close(guardia);
         return occupato;
     }
     m_guardia = guardia;
+    if (listen(guardia, 4) == 0)
+        m_chiamate = std::make_unique<QSocketNotifier>(guardia, QSocketNotifier::Read);
     return false;
+}
+
+void QtPiattaforma::setAllaSecondaIstanza(std::function<void()> azione) {
+    if (!m_chiamate)
+        return;
+    QObject::connect(m_chiamate.get(), &QSocketNotifier::activated, m_chiamate.get(), [this, azione] {
+        close(accept(m_guardia, nullptr, nullptr));
+        azione();
+    });
 }
 
 QString QtPiattaforma::nomeMacchina() const {

@@ -4,6 +4,8 @@
 
 #include <memory>
 
+class QSocketNotifier;
+
 namespace zuvora {
 
 // The platform as Qt and POSIX give it. `chiaveIstanza` names what may run once on a machine.
@@ -14,6 +16,7 @@ public:
 
     QString cartellaEseguibile() const override;
     bool altraIstanza() override;
+    void setAllaSecondaIstanza(std::function<void()> azione) override;
     QString nomeMacchina() const override;
     QString indirizzoLocale() const override;
     const SistemaMonitor &monitor() const override;
@@ -25,6 +28,7 @@ public:
 private:
     QByteArray m_chiave;
     int m_guardia = -1; // socket that holds the instance's name
+    std::unique_ptr<QSocketNotifier> m_chiamate;
     std::unique_ptr<SistemaMonitor> m_monitor;
 };
 

@@ -40,6 +40,12 @@ QString daAnsi(QByteArrayView byte) {
 }
 
 std::optional<QByteArray> inAnsi(QStringView testo) {
+    // Nearly every text is plain, which shows without looking its characters up one by one.
+    char16_t insieme = 0;
+    for (const QChar c : testo)
+        insieme |= c.unicode();
+    if (insieme < inizioTabella)
+        return testo.toLatin1();
     if (postoFuori(testo) < testo.size())
         return std::nullopt;
     QByteArray byte;
@@ -74,7 +80,11 @@ RigheLette leggiRighe(const QString &percorso) {
 }
 
 QString scriviRighe(const QString &percorso, const QStringList &righe) {
+    qsizetype misura = 0;
+    for (const QString &riga : righe)
+        misura += riga.size() + 2;
     QByteArray contenuto;
+    contenuto.reserve(misura);
     for (qsizetype i = 0; i < righe.size(); ++i) {
         if (righe[i].contains(u'\n'))
             return u"La riga %1 contiene un a capo, che il file non può contenere."_s.arg(i + 1);
@@ -82,7 +92,7 @@ QString scriviRighe(const QString &percorso, const QStringList &righe) {
         if (!byte)
             return u"La riga %1 contiene il carattere «%2», che il file non può contenere."_s.arg(i + 1).arg(
                 fuoriAnsi(righe[i]));
-        contenuto += *byte + "\r\n";
+        contenuto.append(*byte).append("\r\n", 2);
     }
     return scriviFile(percorso, contenuto);
 }

@@ -24,7 +24,8 @@ class SistemaMonitor {
 public:
     struct Info {
         QRect monitor;
-        QRect lavoro; // without task bars
+        QRect lavoro;     // without task bars
+        double scala = 1; // device pixels to one of these
     };
     virtual ~SistemaMonitor() = default;
     virtual int GetSystemMetrics(Metrica indice) const = 0;
