@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMimeData>
+#include <QScreen>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -77,7 +78,8 @@ DesignerEtichetta::DesignerEtichetta(const Etichetta &etichetta, const Valori &v
     connect(m_proprieta, &PannelloProprieta::immagineChiesta, this, &DesignerEtichetta::scegliImmagine);
     m_foglio->setValori(valori);
     mostraStato();
-    resize(1120, 720);
+    // with room for the frame and its title
+    resize(QSize(1120, 720).boundedTo(screen()->availableSize() - QSize(16, 48)));
     m_foglio->setFocus();
 }
 
