@@ -32,6 +32,7 @@ public:
     QString cartella; // of the components
     QString cartellaEseguibile() const override { return cartella; }
     bool altraIstanza() override { return false; }
+    void setAllaSecondaIstanza(std::function<void()>) override {}
     QString nomeMacchina() const override { return {}; }
     QString indirizzoLocale() const override { return {}; }
     const SistemaMonitor &monitor() const override { return m_monitor; }

@@ -6,5 +6,6 @@ cd "$(dirname "$0")/.."
 . cmake/pacchetti.sh
 installa_mancanti "${PACCHETTI_BASE[@]}" libbenchmark-dev
 cmake --preset release >/dev/null
-cmake --build --preset release --target zuvora-bench
-exec build/bin/zuvora-bench "$@"
+cmake --build --preset release --target zuvora-bench zuvora-bench-etichette
+build/bin/zuvora-bench "$@"
+exec build/bin/zuvora-bench-etichette "$@"

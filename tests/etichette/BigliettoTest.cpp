@@ -90,6 +90,7 @@ TEST(Biglietto, SenzaRiuscireNonEsceConZero) {
         const char16_t *parola;
     } casi[] = {{{u"--pdf"_s, totem.file(u"manca/b.pdf"_s)}, 1, u"Nessun biglietto stampato"},
                 {{u"--pdf"_s, pdf, u"--record"_s, u"9"_s}, 1, u"il numero 9"},
+                {{u"--pdf"_s, pdf, u"--record"_s, u"9"_s, u"--valore"_s, u"Numero=5"_s}, 1, u"il numero 9"},
                 {{u"--stampante"_s, u"stampante-che-non-esiste"_s}, 1, u"stampante"},
                 {{u"--pdf"_s, pdf, u"--record"_s, u"0"_s}, 2, u"--record"},
                 {{}, 2, u"uscita"}};

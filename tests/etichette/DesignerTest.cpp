@@ -15,6 +15,7 @@
 #include <QToolButton>
 #include <deque>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -236,6 +237,28 @@ TEST_F(Finestra, LeImmaginiSonoControllatePrima) {
     domande.file.push_back(cartella.filePath(u"vera.png"_s));
     premi("AggiungiImmagine");
     EXPECT_FALSE(salvati().last().immagine.isEmpty());
+}
+
+TEST_F(Finestra, LeImmaginiOstiliNonFermanoIlDesigner) {
+    apri();
+    const QString pipe = cartella.filePath(u"pipe.png"_s);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QFile vuota(cartella.filePath(u"enorme.png"_s));
+    ASSERT_TRUE(vuota.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(vuota.resize(3LL * 1024 * 1024 * 1024)); // no disk: a hole
+    for (const QString &percorso : {pipe, vuota.fileName()}) {
+        domande.file.push_back(percorso);
+        premi("AggiungiImmagine");
+    }
+    ASSERT_EQ(domande.avvisi.size(), 2);
+    EXPECT_TRUE(domande.avvisi[0].contains(u"Non è un file"_s)) << domande.avvisi[0].toStdString();
+    EXPECT_TRUE(domande.avvisi[1].contains(u"troppo grande"_s)) << domande.avvisi[1].toStdString();
+    QImage vasta(20000, 20000, QImage::Format_Mono);
+    vasta.fill(0);
+    ASSERT_TRUE(vasta.save(cartella.filePath(u"vasta.png"_s)));
+    domande.file.push_back(cartella.filePath(u"vasta.png"_s));
+    premi("AggiungiImmagine");
+    EXPECT_EQ(QImage::fromData(salvati().last().immagine).size(), QSize(1600, 1600));
 }
 
 TEST_F(Finestra, SenzaStampantiLoDice) {

@@ -118,6 +118,12 @@ TEST(FileBiglietto, CartelleEPipeNonSiLeggono) {
     const QString buono = cartella.filePath(u"Ticket.lbl"_s);
     EXPECT_EQ(scriviEtichetta(buono, piena()), QString());
     EXPECT_TRUE(*leggiEtichetta(buono).etichetta == piena());
+    Etichetta smisurata;
+    smisurata.oggetti.fill(nuovoOggetto(TipoOggetto::Immagine, {}), 5);
+    for (Oggetto &o : smisurata.oggetti)
+        o.immagine = QByteArray(immagineMassima, 'x');
+    EXPECT_TRUE(scriviEtichetta(buono, smisurata).contains(u"troppo grande"_s)); // it could not be opened again
+    EXPECT_TRUE(*leggiEtichetta(buono).etichetta == piena());
 }
 
 } // namespace

@@ -39,6 +39,21 @@ TEST_F(Pagine, LaRisoluzioneSceltaSiScriveEArrivaAlPannello) {
     }
 }
 
+TEST_F(Pagine, LaPaginaApertaHaIlFuocoSullaRisoluzioneScelta) {
+    pannello.show();
+    QWidget &pagina = apriPagina("PB1(9)", "BoxImpostazioni(0)");
+    EXPECT_EQ(pannello.focusWidget(), &trova<QWidget>(pagina, "RB1(2)"));
+}
+
+TEST_F(Pagine, LaPosizioneDiceSeIlSecondoMonitorManca) {
+    QWidget &pagina = apriPagina("Position", "BoxImpostazioni(4)");
+    EXPECT_TRUE(testo(pagina, "Avviso").startsWith(u"Il secondo monitor non è collegato"_s));
+    EXPECT_TRUE(didascalieTagliate(pannello).isEmpty()) << didascalieTagliate(pannello).join(u' ').toStdString();
+    prova.piattaforma.monitors.monitor.emplace_back(1920, 0, 1920, 1080);
+    apriPagina("Position", "BoxImpostazioni(4)");
+    EXPECT_EQ(testo(pagina, "Avviso"), QString());
+}
+
 TEST_F(Pagine, RisoluzioneNonSalvataTornaQuellaDiPrima) {
     prova.esegui(u"CREATE TRIGGER pieno BEFORE UPDATE ON Configurazione BEGIN SELECT RAISE(ABORT,'no'); END"_s);
     QWidget &pagina = apriPagina("PB1(9)", "BoxImpostazioni(0)");

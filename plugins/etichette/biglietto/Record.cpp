@@ -2,6 +2,7 @@
 
 #include "shell/store/Data.h"
 #include "shell/store/EngineError.h"
+#include "shell/store/NomiFile.h"
 
 #include <QDir>
 
@@ -72,14 +73,14 @@ Valori variabiliDi(Recordset &righe) {
 
 RecordLetto leggiRecord(const QString &cartellaTotem, int n) {
     Data dato;
-    dato.DatabaseName = QDir(cartellaTotem).filePath(u"TotemZuvora.mdb"_s);
+    dato.DatabaseName = QDir(cartellaTotem).filePath(nomi::archivioTotem.toString());
     dato.RecordSource = u"Select * from [DatiDaStampareIMP]"_s;
     try {
         dato.Refresh();
         Recordset &righe = dato.Recordset();
         if (n <= righe.RecordCount())
             righe.SetAbsolutePosition(n - 1);
-        RecordLetto letto{variabiliDi(righe), {}};
+        RecordLetto letto{variabiliDi(righe), {}, n > righe.RecordCount() && righe.RecordCount() > 0};
         if (righe.RecordCount() == 0)
             letto.motivo = u"La tabella DatiDaStampareIMP non ha record da stampare."_s;
         else if (n > righe.RecordCount())
@@ -87,7 +88,7 @@ RecordLetto leggiRecord(const QString &cartellaTotem, int n) {
                 u"La tabella DatiDaStampareIMP ha %1 record: il numero %2 non c'è."_s.arg(righe.RecordCount()).arg(n);
         return letto;
     } catch (const EngineError &e) {
-        return {Valori(), e.frase()};
+        return {Valori(), e.frase(), false};
     }
 }
 

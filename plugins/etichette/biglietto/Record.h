@@ -6,7 +6,8 @@ namespace zuvora {
 
 struct RecordLetto {
     Valori valori;
-    QString motivo; // Italian; empty when it was read
+    QString motivo;     // Italian; empty when it was read
+    bool altri = false; // the table has records, but not this one
 };
 
 // The variables of a record of the kiosk's table, `n` counting from 1, with dates and numbers as the record holds them.

@@ -4,6 +4,7 @@
 #include "etichette/biglietto/Stampante.h"
 #include "etichette/biglietto/Uscite.h"
 #include "etichette/logic/FileEtichetta.h"
+#include "shell/store/NomiFile.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -40,13 +41,14 @@ EsitoStampa esci(const Argomenti &a, const Etichetta &etichetta, const Valori &v
 }
 
 int stampa(const Argomenti &a) {
-    const EtichettaLetta letta = leggiEtichetta(QDir(a.cartella).filePath(u"Ticket.lbl"_s));
+    const EtichettaLetta letta = leggiEtichetta(QDir(a.cartella).filePath(nomi::biglietto.toString()));
     if (!letta.etichetta) {
         di(stderr, u"Nessun biglietto stampato: Ticket.lbl nella cartella %1. %2"_s.arg(a.cartella, letta.motivo));
         return fallito;
     }
     RecordLetto record = leggiRecord(a.cartella, a.record);
-    if (!record.motivo.isEmpty() && a.valori.isEmpty()) {
+    // Values of the command line may stand for a record that isn't there, never for another one than was asked for.
+    if (!record.motivo.isEmpty() && (a.valori.isEmpty() || record.altri)) {
         di(stderr, u"Nessun biglietto stampato: "_s + record.motivo);
         return fallito;
     }

@@ -5,22 +5,27 @@
 #include "etichette/designer/Foglio.h"
 #include "etichette/designer/PannelloProprieta.h"
 #include "etichette/logic/FileEtichetta.h"
+#include "shell/immagini/LetturaImmagine.h"
 #include "shell/logic/FileAtomico.h"
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QBuffer>
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QMimeData>
+#include <QScreen>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 namespace {
 
-constexpr int bozzaDopo = 2000; // milliseconds
+constexpr QSize latoImmagine(1600, 1600);       // points; a roll of 80 mm has 640 across
+constexpr qint64 immagineIntatta = 1024 * 1024; // bytes
+constexpr int bozzaDopo = 2000;                 // milliseconds
 const QString filtroImmagini = u"Immagini (*.png *.jpg *.jpeg *.bmp *.gif *.webp *.svg)"_s;
 const QString tipoAppunti = u"application/x-zuvora-biglietto"_s;
 
@@ -73,7 +78,8 @@ DesignerEtichetta::DesignerEtichetta(const Etichetta &etichetta, const Valori &v
     connect(m_proprieta, &PannelloProprieta::immagineChiesta, this, &DesignerEtichetta::scegliImmagine);
     m_foglio->setValori(valori);
     mostraStato();
-    resize(1120, 720);
+    // with room for the frame and its title
+    resize(QSize(1120, 720).boundedTo(screen()->availableSize() - QSize(16, 48)));
     m_foglio->setFocus();
 }
 
@@ -136,21 +142,29 @@ void DesignerEtichetta::aggiungiVariabile(const QString &nome, const std::option
     m_foglio->setFocus();
 }
 
-// The picture's file goes into the ticket, so it is checked before.
+// The picture goes into the ticket: its own file when that is small, else what a ticket printer can show of it.
 std::optional<QByteArray> DesignerEtichetta::chiediImmagine() {
     const auto percorso = m_mondo.domande.apriFile(this, u"Scelta immagine"_s, filtroImmagini);
     if (!percorso)
         return std::nullopt;
-    const FileLetto letto = leggiFile(*percorso, immagineMassima);
-    if (!letto.motivo.isEmpty()) {
-        m_mondo.domande.avvisa(this, u"L'immagine non è stata presa. "_s + letto.motivo);
+    const ImmagineLetta letta = leggi(*percorso, latoImmagine);
+    if (letta.immagine.isNull()) {
+        m_mondo.domande.avvisa(this, u"L'immagine non è stata presa. "_s + letta.motivo);
         return std::nullopt;
     }
-    if (puntiImmagine(letto.contenuto, QSize(16, 16), RiduzioneColori::Colori, 0).isNull()) {
-        m_mondo.domande.avvisa(this, u"L'immagine non è stata presa: il file non è un'immagine leggibile."_s);
+    const QSize misura = misuraImmagine(*percorso);
+    const bool piccola = misura.isValid() && misura == misura.boundedTo(latoImmagine);
+    if (FileLetto file = leggiFile(*percorso, immagineIntatta); piccola && file.motivo.isEmpty())
+        return file.contenuto;
+    QByteArray ridotta;
+    QBuffer buffer(&ridotta);
+    buffer.open(QIODevice::WriteOnly);
+    if (!letta.immagine.save(&buffer, "PNG") || ridotta.size() > immagineMassima) {
+        m_mondo.domande.avvisa(this,
+                               u"L'immagine non è stata presa: anche ridotta è troppo grande per un biglietto."_s);
         return std::nullopt;
     }
-    return letto.contenuto;
+    return ridotta;
 }
 
 void DesignerEtichetta::aggiungiImmagine() {

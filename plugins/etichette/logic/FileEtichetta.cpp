@@ -264,7 +264,11 @@ EtichettaLetta leggiEtichetta(const QString &percorso) {
 }
 
 QString scriviEtichetta(const QString &percorso, const Etichetta &etichetta) {
-    return scriviFile(percorso, testoEtichetta(etichetta));
+    const QByteArray testo = testoEtichetta(etichetta);
+    if (testo.size() > fileEtichettaMassimo) // it could not be read again
+        return u"Il biglietto è troppo grande (%1, al massimo %2): togliere qualche immagine."_s.arg(
+            misuraFile(testo.size()), misuraFile(fileEtichettaMassimo));
+    return scriviFile(percorso, testo);
 }
 
 } // namespace zuvora

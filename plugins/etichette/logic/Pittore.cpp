@@ -28,6 +28,11 @@ QRect inPunti(const QRect &area, int dpi) {
     return {angolo, QSize(fine.x() - angolo.x(), fine.y() - angolo.y())};
 }
 
+// A ticket's file can declare any size: neither its pictures nor their places may take all the memory.
+bool troppiPunti(const QSize &misura) {
+    return qint64{misura.width()} * misura.height() > 64'000'000;
+}
+
 bool diTraverso(int rotazione) {
     return rotazione == 90 || rotazione == 270;
 }
@@ -236,6 +241,9 @@ QImage puntiImmagine(const QByteArray &file, const QSize &misura, RiduzioneColor
     buffer.setData(file);
     QImageReader lettore(&buffer);
     lettore.setAutoTransform(true);
+    if (const QSize intera = lettore.size();
+        troppiPunti(misura) || misura.isEmpty() || (intera.isValid() && troppiPunti(intera)))
+        return {};
     const QImage intera = lettore.read();
     if (intera.isNull())
         return {};

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/logic/Messaggio.h"
 #include "designer/logic/ScritturaLayout.h"
+#include "shell/logic/Messaggio.h"
 
 #include <QString>
 

@@ -1,6 +1,9 @@
 #include "pannello/forms/PaginaPosizione.h"
 
 #include "shell/host/Piattaforma.h"
+#include "shell/logic/clsMonitors.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 namespace {
@@ -25,6 +28,10 @@ PaginaPosizione::PaginaPosizione(const Apertura &apertura) : Pagina(apertura, "B
 
 void PaginaPosizione::riempi() {
     segna(leggiSchermo(cartella()));
+    const bool uno = clsMonitors(ambiente().piattaforma.monitor()).Monitors().size() < 2;
+    Avviso.setCaption(uno ? u"Il secondo monitor non è collegato. Nel disegno del layout il tasto Esc riporta la "
+                            "schermata sul primo."_s
+                          : QString());
 }
 
 void PaginaPosizione::scegli(Schermo schermo) {

@@ -25,6 +25,7 @@ private:
         this,
         "PosSchermo",
         {{0, "Primo Schermo", {480, 3720, 1455, 345}}, {1, "Secondo Schermo", {3120, 3720, 1455, 345}}}};
+    Label Avviso{this, "Avviso", "", {240, 4200, 5055, 495}};
 };
 
 } // namespace zuvora

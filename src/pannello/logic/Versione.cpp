@@ -70,7 +70,8 @@ void AggiornaArchivio(const QString &cartella) {
 }
 
 void scriviVersioneCorrente(const QString &cartella) {
-    scriviRiga(cartella, u"Versione"_s, {{u"Numero", versioneCorrente.toString()}, {u"Data", u"del 03 Ottobre 2013"_s}});
+    scriviRiga(cartella, u"Versione"_s,
+               {{u"Numero", versioneCorrente.toString()}, {u"Data", u"del 03 Ottobre 2013"_s}});
 }
 
 } // namespace zuvora

@@ -44,12 +44,12 @@ enum class Disegno : unsigned char {
     SpostaFinestra, // grip that moves the whole designer
     Presa,          // dots of a drag strip
     // Illustrations, each with its own shape
-    Zuvora,           // application icon and logo, 64 x 64
-    SalaAttesa,       // waiting room beside a message, 230 x 300
-    Schermo1,         // landscape monitors, 144 x 120, same outline: one covers the other
-    Schermo2,         //
-    DueSchermi,       // two blank screens, 336 x 150, their middles at x 76 and 260
-    Marcatore,        // pin pointing down, 48 x 48
+    Zuvora,     // application icon and logo, 64 x 64
+    SalaAttesa, // waiting room beside a message, 230 x 300
+    Schermo1,   // landscape monitors, 144 x 120, same outline: one covers the other
+    Schermo2,   //
+    DueSchermi, // two blank screens, 336 x 150, their middles at x 76 and 260
+    Marcatore,  // pin pointing down, 48 x 48
 };
 inline constexpr Disegno ultimoDisegno = Disegno::Marcatore;
 

@@ -155,12 +155,9 @@ constexpr Strato marcatore[] = {
 };
 
 constexpr std::array figure{
-    Figura{Disegno::Zuvora, 64, 64, zuvora},
-    Figura{Disegno::SalaAttesa, 230, 300, salaAttesa},
-    Figura{Disegno::Schermo1, 144, 120, schermo1},
-    Figura{Disegno::Schermo2, 144, 120, schermo2},
-    Figura{Disegno::DueSchermi, 336, 150, dueSchermi},
-    Figura{Disegno::Marcatore, 48, 48, marcatore},
+    Figura{Disegno::Zuvora, 64, 64, zuvora},           Figura{Disegno::SalaAttesa, 230, 300, salaAttesa},
+    Figura{Disegno::Schermo1, 144, 120, schermo1},     Figura{Disegno::Schermo2, 144, 120, schermo2},
+    Figura{Disegno::DueSchermi, 336, 150, dueSchermi}, Figura{Disegno::Marcatore, 48, 48, marcatore},
 };
 
 } // namespace

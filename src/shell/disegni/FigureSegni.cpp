@@ -66,14 +66,10 @@ constexpr Strato presa[] = {
 };
 
 constexpr std::array figure{
-    Figura{Disegno::Pulisci, 32, 32, pulisci},
-    Figura{Disegno::Cartella, 32, 32, cartella},
-    Figura{Disegno::Unita, 32, 32, unita},
-    Figura{Disegno::FileImmagine, 32, 32, fileImmagine},
-    Figura{Disegno::Domanda, 32, 32, domanda},
-    Figura{Disegno::Avviso, 32, 32, avviso},
-    Figura{Disegno::Riuscita, 32, 32, riuscita},
-    Figura{Disegno::SpostaFinestra, 32, 32, spostaFinestra},
+    Figura{Disegno::Pulisci, 32, 32, pulisci},   Figura{Disegno::Cartella, 32, 32, cartella},
+    Figura{Disegno::Unita, 32, 32, unita},       Figura{Disegno::FileImmagine, 32, 32, fileImmagine},
+    Figura{Disegno::Domanda, 32, 32, domanda},   Figura{Disegno::Avviso, 32, 32, avviso},
+    Figura{Disegno::Riuscita, 32, 32, riuscita}, Figura{Disegno::SpostaFinestra, 32, 32, spostaFinestra},
     Figura{Disegno::Presa, 32, 32, presa},
 };
 

@@ -99,7 +99,7 @@ Grid::Grid(QWidget *padre, const char *nome, const Posto &posto, std::vector<Col
         if (!m_doppio)
             Q_EMIT cliccato();
     });
-    connect(this, &QTableView::doubleClicked, this, &Grid::attiva);
+    connect(this, &QTableView::doubleClicked, this, &Grid::attivato);
 }
 
 Grid::~Grid() = default;
@@ -140,11 +140,6 @@ void Grid::ridisegna() {
         m_modello->cambiata(Row());
 }
 
-void Grid::attiva() {
-    Q_EMIT attivato();
-    Q_EMIT doppioClic();
-}
-
 // Where nobody waits for it, Enter goes on to the form and its main action.
 void Grid::keyPressEvent(QKeyEvent *e) {
     switch (e->key()) {
@@ -157,9 +152,8 @@ void Grid::keyPressEvent(QKeyEvent *e) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-        if (Row() >= 0 && (isSignalConnected(QMetaMethod::fromSignal(&Grid::attivato)) ||
-                           isSignalConnected(QMetaMethod::fromSignal(&Grid::doppioClic))))
-            attiva();
+        if (Row() >= 0 && isSignalConnected(QMetaMethod::fromSignal(&Grid::attivato)))
+            Q_EMIT attivato();
         else
             e->ignore();
         break;

@@ -36,7 +36,6 @@ Q_SIGNALS:
     void cliccato();     // a click on a row, which is the current one by then
     void rigaCambiata(); // the user went to another row, by mouse or keyboard
     void attivato();     // double click, Enter or Space on a row
-    void doppioClic();   // as attivato
 
 protected:
     void keyPressEvent(QKeyEvent *e) override;
@@ -46,7 +45,6 @@ protected:
 
 private:
     void riempi();
-    void attiva();
     ModelloDati *m_modello;
     Data *m_dato = nullptr;
     bool m_riempimento = false;
