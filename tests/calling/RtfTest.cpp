@@ -61,6 +61,8 @@ TEST(ProvaRtf, IlParagrafoTieneLeSueMisure) {
     EXPECT_EQ(paragrafi[0].sotto, 0);
     EXPECT_EQ(paragrafi[2].rientro, 0);
     EXPECT_EQ(paragrafi[2].allineamento, Qt::AlignLeft);
+    // What a skipped group says of its own paragraphs is not of the text's.
+    EXPECT_EQ(leggiRtf("{\\rtf1{\\stylesheet{\\s1\\qr stile;}}a}").at(0).allineamento, Qt::AlignLeft);
 }
 
 TEST(ProvaRtf, UnMilioneDiGruppiNonNuoce) {

@@ -297,6 +297,14 @@ TEST_F(ProvaPlaylistForm, FilmsArePreviewedOnRequest) {
     clic(*form, "PushButton2");
     EXPECT_TRUE(guida.finita());
     scrivi(u"lavoro/a.mp4"_s, "");
+    scrivi(u"sala.zvv"_s, "C:" + i.file(u"lavoro/A.MP4"_s).replace(u'/', u'\\').toLatin1() + "\r\n");
+    scegli(trova<FileListBox>(*form, "File2"), 0);
+    guida.quando("AnteprimaVideo", [](QWidget &w) { // found in whatever case and form it is written
+        EXPECT_EQ(trova<QLabel>(w, "nome").text(), u"a.mp4"_s);
+        w.close();
+    });
+    clic(*form, "PushButton2");
+    EXPECT_TRUE(guida.finita());
     trova<FileListBox>(*form, "File1").Refresh();
     scegli(trova<FileListBox>(*form, "File1"), 0);
     guida.quando("AnteprimaVideo", [](QWidget &w) { w.close(); });

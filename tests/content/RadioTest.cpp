@@ -126,6 +126,24 @@ TEST_F(ProvaRadio, ALockedDatabaseKeepsWhatWasTyped) {
     EXPECT_EQ(righe().size(), 3);
 }
 
+TEST_F(ProvaRadio, WhatWasNotStoredIsNotInTheList) {
+    guida.quando("GestioneRadio", [this](QWidget &form) {
+        riempi(form, "text1(0)", u"Onda"_s);
+        riempi(form, "text1(1)", u"http://o/"_s);
+        const prova::AltroProcesso altro(i.archivio(), "BEGIN IMMEDIATE");
+        clic(form, "CBT(1)");
+        EXPECT_FALSE(i.dialoghi.unicoMessaggio().isEmpty());
+        clic(form, "ctButton2(0)");
+    });
+    clic(pagina, "btnRadio(3)");
+    guida.quando("GestioneRadio", [](QWidget &form) {
+        EXPECT_EQ(trova<QLineEdit>(form, "text1(0)").text(), u"Alfa"_s);
+        form.close();
+    });
+    clic(pagina, "btnRadio(1)");
+    EXPECT_TRUE(guida.finita());
+}
+
 TEST_F(ProvaRadio, Aspetto) {
     EXPECT_EQ(didascalieTagliate(finestra), QStringList());
     fotografa(finestra, u"RadioBox"_s);

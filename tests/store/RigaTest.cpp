@@ -1,6 +1,7 @@
 #include "Archivio.h"
 
 #include "shell/store/Riga.h"
+#include "shell/store/Scrittura.h"
 
 namespace zuvora::prova {
 namespace {
@@ -30,6 +31,23 @@ TEST_F(RigaTest, UnaColonnaSbagliataNonScriveLeAltre) {
                   }),
                   0);
     EXPECT_EQ(contenuto(percorso()), prima);
+}
+
+TEST_F(RigaTest, UnRecordNonScrittoNonRestaInSospeso) {
+    Data d;
+    Recordset &radio = apri(d, u"Select * from radio order by [NomeRadio]"_s);
+    for (const Record quale : {Record::Corrente, Record::Nuovo}) {
+        const auto scrivi = [&](QStringView seconda) {
+            scriviRecord(radio, quale, {{u"NomeRadio", u"scritta"_s}, {seconda, u"x"_s}});
+        };
+        EXPECT_EQ(numeroDi([&] { scrivi(u"assente"); }), 3265);
+        EXPECT_EQ(radio[u"NomeRadio"].Value(), Valore(u"alfa"_s));
+        EXPECT_EQ(radio.RecordCount(), 4);
+    }
+    scriviRecord(radio, Record::Nuovo, {{u"NomeRadio", u"quinta"_s}});
+    scriviRecord(radio, Record::Corrente, {{u"NomeRadio", u"prima"_s}});
+    EXPECT_EQ(radio[u"NomeRadio"].Value(), Valore(u"prima"_s));
+    EXPECT_EQ(radio.RecordCount(), 5);
 }
 
 TEST_F(RigaTest, SenzaRigaLoDiceConLaTabella) {

@@ -192,6 +192,8 @@ void Lettura::controllo() {
     posto += fine - da;
     if (posto < byte.size() && byte[posto] == ' ')
         ++posto;
+    if (stato.saltato && nome != "bin") // its paragraphs are none of the text's
+        return;
     const auto parola = std::ranges::find(Parole, nome, &Parola::nome);
     if (parola != std::end(Parole))
         parola->azione(*this, errore == std::errc::result_out_of_range ? 0 : numero);

@@ -2,6 +2,7 @@
 
 #include "shell/store/Data.h"
 #include "shell/store/Riga.h"
+#include "shell/store/Scrittura.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,9 +23,7 @@ QString percorsoSuono(QStringView scelto, QStringView macchina) {
 }
 
 void aggiungiSuono(Recordset &suoni, const QString &percorso) {
-    suoni.AddNew();
-    suoni[u"dindon"].SetValue(percorso);
-    suoni.Update();
+    scriviRecord(suoni, Record::Nuovo, {{u"dindon", percorso}});
 }
 
 QString suonoCorrente(Recordset &suoni) {

@@ -17,8 +17,13 @@ void ImpostaVideo::anteprimaCartella() {
 }
 
 void ImpostaVideo::anteprimaPlaylist() {
-    if (haVoci())
-        AnteprimaVideo(ambiente(), percorsi().nativo(voceScelta()).value_or(voceScelta()), this).mostraModale();
+    if (!haVoci())
+        return;
+    // The entry may name the file in another case, or as other machines see it. A missing one opens an empty form.
+    const QString voce = voceScelta();
+    const Percorsi::Esame esame = percorsi().chiediEAspetta(voce);
+    const QString film = esame.percorso.isEmpty() ? percorsi().nativo(voce).value_or(voce) : esame.percorso;
+    AnteprimaVideo(ambiente(), film, this).mostraModale();
 }
 
 } // namespace zuvora

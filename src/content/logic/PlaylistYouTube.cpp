@@ -2,6 +2,7 @@
 
 #include "shell/store/Data.h"
 #include "shell/store/Riga.h"
+#include "shell/store/Scrittura.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,10 +18,7 @@ bool titoloPresente(const QString &cartella, const QString &titolo) {
 }
 
 void aggiungiYouTube(Recordset &elenco, const QString &titolo, const QString &url) {
-    elenco.AddNew();
-    elenco[u"Titolo"].SetValue(titolo);
-    elenco[u"Url"].SetValue(url);
-    elenco.Update();
+    scriviRecord(elenco, Record::Nuovo, {{u"Titolo", titolo}, {u"Url", url}});
 }
 
 void salvaPredefinitaYouTube(const QString &cartella, const QString &url) {

@@ -2,6 +2,7 @@
 
 #include "shell/logic/Numeri.h"
 #include "shell/store/Data.h"
+#include "shell/store/Scrittura.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,13 +19,8 @@ bool radioPresente(const QString &cartella, const QString &nome, const std::opti
 }
 
 void salvaRadio(Recordset &elenco, const VoceRadio &voce, bool nuova) {
-    if (nuova)
-        elenco.AddNew();
-    else
-        elenco.Edit();
-    elenco[u"NomeRadio"].SetValue(voce.NomeRadio);
-    elenco[u"PercorsoURL"].SetValue(voce.PercorsoURL);
-    elenco.Update();
+    scriviRecord(elenco, nuova ? Record::Nuovo : Record::Corrente,
+                 {{u"NomeRadio", voce.NomeRadio}, {u"PercorsoURL", voce.PercorsoURL}});
 }
 
 } // namespace zuvora

@@ -2,6 +2,8 @@
 
 #include "designer/logic/DisplayLayout.h"
 #include "shell/logic/Percorsi.h"
+#include "shell/store/Recordset.h"
+#include "shell/store/Scrittura.h"
 
 #include <QDir>
 
@@ -40,10 +42,7 @@ int indiceDecorazione(const QString &Label1) {
 }
 
 Valore aggiungiDecorazione(Recordset &decorazioni, const QString &FileScelto, int TipoCategoria) {
-    decorazioni.AddNew();
-    decorazioni[u"File"].SetValue(FileScelto);
-    decorazioni[u"Tipo"].SetValue(qlonglong{TipoCategoria});
-    decorazioni.Update();
+    scriviRecord(decorazioni, Record::Nuovo, {{u"File", FileScelto}, {u"Tipo", qlonglong{TipoCategoria}}});
     decorazioni.MoveLast(); // where a new record goes
     return decorazioni[u"ID"].Value();
 }
