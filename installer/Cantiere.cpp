@@ -59,7 +59,7 @@ void rifiutaOccupata(const QString &cartella) {
         throw Guasto{u"%1 non è una cartella: indicare una cartella nuova."_s.arg(nativa)};
     const QStringList nostre = avanzi(cartella);
     QStringList presenti = voci(cartella);
-    std::ranges::stable_partition(presenti, eArchivio); // they say most
+    std::stable_partition(presenti.begin(), presenti.end(), eArchivio); // they say most
     for (const QString &voce : presenti) {
         if (nostre.contains(voce) || u'/' + voce == fileGuardia || voce == "lost+found"_L1)
             continue;

@@ -24,7 +24,7 @@ QString tabellaDi(const QString &layout) {
     if (layout.compare(u"LayoutBase"_s, Qt::CaseInsensitive) == 0)
         return u"LayoutBase"_s;
     for (int i = 1; i <= 10; ++i)
-        if (const QString nome = u"Layout%1"_s.arg(i); layout.compare(nome, Qt::CaseInsensitive) == 0)
+        if (QString nome = u"Layout%1"_s.arg(i); layout.compare(nome, Qt::CaseInsensitive) == 0)
             return nome;
     return {};
 }

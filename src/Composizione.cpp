@@ -35,8 +35,7 @@ const ApriForm sceltaLayout = mostraSceltaLayout;
 // The types of the workstations stand on the page of the server's data, below them.
 std::unique_ptr<Pagina> creaPaginaClient(const Apertura &a) {
     auto pagina = std::make_unique<PaginaClient>(a);
-    auto postazioni = std::make_unique<GruppoPostazioni>(*pagina);
-    postazioni.release(); // the page's from here on
+    new GruppoPostazioni(*pagina); // the page's child
     return pagina;
 }
 const ApriPagina paginaClient = creaPaginaClient;

@@ -57,7 +57,7 @@ QString crea() {
 }
 
 QString scegli() {
-    const QString cartella = chiediCartella(u"Cartella dell'installazione"_s);
+    QString cartella = chiediCartella(u"Cartella dell'installazione"_s);
     if (cartella.isEmpty() || apri::eInstallazione(cartella))
         return cartella;
     avvisa(u"Nella cartella %1 non c'è un'installazione di Zuvora."_s.arg(QDir::toNativeSeparators(cartella)));

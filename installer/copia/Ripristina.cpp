@@ -38,7 +38,7 @@ bool ePlaylist(const QString &nome) {
 
 // Takes the copy out into the folder, and turns what is in it to the installation's.
 Elenco prepara(const QString &file, const QString &dove, const QString &nuova) {
-    const Elenco elenco = leggiCopia(file, dove);
+    Elenco elenco = leggiCopia(file, dove);
     const Svolta svolta(elenco, nuova);
     for (const VoceCopia &voce : elenco.voci) {
         fermaSeInterrotto();
@@ -105,7 +105,7 @@ QString ripristinaSopra(const OpzioniRipristina &opzioni, const QString &cartell
     if (!appoggio.isValid())
         throw Guasto{u"Impossibile scrivere nella cartella %1: nulla è stato modificato."_s.arg(nativo(cartella))};
     const Elenco elenco = prepara(opzioni.file, appoggio.path(), cartella);
-    const QString prima = u"%1/prima-del-ripristino-%2.zuvora"_s.arg(
+    QString prima = u"%1/prima-del-ripristino-%2.zuvora"_s.arg(
         cartella, QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss"_s));
     const Esito salvata = salvaInstallazione({cartella, prima, 0}, [](const QString &) {});
     if (!salvata.riuscito)

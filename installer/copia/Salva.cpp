@@ -32,7 +32,7 @@ QString nativo(const QString &percorso) {
 QString istantanea(Database &db, const QTemporaryDir &cartella, const QString &nome, const QString &origine) {
     if (!db.integro())
         throw Guasto{u"%1 è danneggiato: nessuna copia è stata fatta."_s.arg(nativo(origine))};
-    const QString file = cartella.filePath(nome);
+    QString file = cartella.filePath(nome);
     Database copia = Database::crea(file);
     copia.esegui(u"PRAGMA journal_mode = MEMORY; PRAGMA synchronous = OFF"_s); // read once and thrown away
     copia.copiaDa(db);

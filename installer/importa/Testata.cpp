@@ -87,7 +87,7 @@ QString rifiutoAccess(const QString &file) {
     if (!f.open(QIODevice::ReadOnly))
         return u"%1 non può essere letto: %2"_s.arg(nome, f.errorString());
     const QByteArray testata = f.read(lunghezzaTestata);
-    const QString rifiuto = rifiutoTestata(testata, nome);
+    QString rifiuto = rifiutoTestata(testata, nome);
     if (!rifiuto.isEmpty())
         return rifiuto;
     const qint64 pagina = uchar(testata[postoFormato]) == jet3 ? paginaMinima : 2 * paginaMinima;

@@ -152,7 +152,7 @@ QUrl Stazione::primaVoce(const QByteArray &lista, const QUrl &base) {
         }
         if (riga.isEmpty() || riga.startsWith(u'#'))
             continue;
-        const QUrl voce = base.resolved(QUrl(riga));
+        QUrl voce = base.resolved(QUrl(riga));
         if (eWeb(voce))
             return voce;
     }

@@ -244,7 +244,7 @@ EtichettaLetta etichettaDa(const QByteArray &testo) {
     const QJsonArray oggetti = l.prendi("oggetti"_L1).toArray();
     if (oggetti.size() > oggettiMassimi)
         return rifiuta(u"Il biglietto ha più di %1 oggetti."_s.arg(oggettiMassimi));
-    for (const QJsonValue &json : oggetti) {
+    for (const auto &json : oggetti) {
         const auto oggetto = oggettoDa(json.toObject());
         if (!oggetto)
             return rifiuta(u"Il biglietto contiene oggetti che questa versione del programma non conosce."_s);

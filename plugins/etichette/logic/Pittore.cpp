@@ -137,7 +137,7 @@ void Pittore::disegnaOggetto(QPainter &p, const Oggetto &o, const QRect &area, i
 
 QString Pittore::componi(const Oggetto &o, const Valori &valori, Modo modo) {
     QStringList mancanti;
-    const QString composto = valori.componi(o.testo, modo == Modo::Stampa ? &mancanti : nullptr);
+    QString composto = valori.componi(o.testo, modo == Modo::Stampa ? &mancanti : nullptr);
     for (const QString &nome : mancanti)
         avvisa(u"La variabile «%1» non esiste più: al suo posto non è stampato nulla."_s.arg(nome));
     return composto;
@@ -226,7 +226,7 @@ QImage Pittore::punti(const Oggetto &o, const QSize &misura) {
                               QByteArray::number(o.soglia);
     if (const QImage *pronta = m_immagini.object(chiave))
         return *pronta;
-    const QImage dots = puntiImmagine(o.immagine, misura, o.riduzione, o.soglia);
+    QImage dots = puntiImmagine(o.immagine, misura, o.riduzione, o.soglia);
     m_immagini.insert(chiave, new QImage(dots), 1 + dots.sizeInBytes() / 1024);
     return dots;
 }

@@ -121,9 +121,9 @@ void Progetto::aggiungi(const Oggetto &oggetto, const QString &testo) {
 
 void Progetto::elimina() {
     Stato nuovo = m_stato;
-    for (auto i = m_scelti.rbegin(); i != m_scelti.rend(); ++i)
-        if (mobile(*i))
-            nuovo.oggetti.removeAt(*i);
+    for (qsizetype k = m_scelti.size() - 1; k >= 0; --k) // from behind, so that the other indices hold
+        if (mobile(m_scelti[k]))
+            nuovo.oggetti.removeAt(m_scelti[k]);
     if (nuovo.oggetti.size() != m_stato.oggetti.size())
         fai(std::move(nuovo), u"Elimina"_s, {});
 }
@@ -219,8 +219,8 @@ void Progetto::distribuisci(Qt::Orientation asse) {
 void Progetto::riordina(bool davanti) {
     Stato nuovo = m_stato;
     QList<OggettoFermo> mossi;
-    for (auto i = m_scelti.rbegin(); i != m_scelti.rend(); ++i)
-        mossi.prepend(nuovo.oggetti.takeAt(*i));
+    for (qsizetype k = m_scelti.size() - 1; k >= 0; --k)
+        mossi.prepend(nuovo.oggetti.takeAt(m_scelti[k]));
     const qsizetype primo = davanti ? nuovo.oggetti.size() : 0;
     QList<int> scelti;
     for (qsizetype i = 0; i < mossi.size(); ++i) {

@@ -23,7 +23,7 @@ QString primoCampo(QStringView &resto) {
     qsizetype fine = resto.indexOf(traVirgolette ? Virgolette : QChar(u','));
     if (fine < 0)
         fine = resto.size();
-    const QString campo = resto.first(fine).toString();
+    QString campo = resto.first(fine).toString();
     const qsizetype virgola = resto.indexOf(u',', fine);
     resto = virgola < 0 ? QStringView() : resto.sliced(virgola + 1);
     return campo;

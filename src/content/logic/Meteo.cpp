@@ -20,7 +20,7 @@ IndirizzoMeteo::IndirizzoMeteo(const QString &host)
 MeteoScelto leggiMeteo(const QString &cartella) {
     const auto riga = leggiRiga(cartella, u"Configurazione"_s);
     MeteoScelto scelto{std::nullopt, SenzaComune.toString()};
-    if (const Valore meteo = riga[u"meteo"]; !eNull(meteo))
+    if (const Valore &meteo = riga[u"meteo"]; !eNull(meteo))
         scelto = {testoDi(meteo, {}), testoDi(riga[u"MeteoCode"], SenzaComune.toString())};
     return scelto;
 }
