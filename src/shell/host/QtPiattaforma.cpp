@@ -123,7 +123,7 @@ bool QtPiattaforma::altraIstanza() {
     if (bind(guardia, reinterpret_cast<const sockaddr *>(&nome), misura) != 0) {
         const bool occupato = errno == EADDRINUSE;
         if (occupato) // being called is all that the other one needs
-            connect(guardia, reinterpret_cast<const sockaddr *>(&nome), misura);
+            static_cast<void>(connect(guardia, reinterpret_cast<const sockaddr *>(&nome), misura));
         close(guardia);
         return occupato;
     }

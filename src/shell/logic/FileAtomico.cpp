@@ -84,7 +84,7 @@ bool sincronizzaCartella(const QString &cartella) {
 }
 
 QString scriviFile(const QString &percorso, const QByteArray &contenuto) {
-    if (const QString impedimento = ostacolo(percorso); !impedimento.isEmpty())
+    if (QString impedimento = ostacolo(percorso); !impedimento.isEmpty())
         return impedimento;
     QSaveFile file(percorso);
     errno = 0;
@@ -94,7 +94,7 @@ QString scriviFile(const QString &percorso, const QByteArray &contenuto) {
     const bool scritto = file.write(contenuto) == contenuto.size() && file.flush() &&
                          file.error() == QFileDevice::NoError && sincronizza(file.handle());
     if (!scritto) {
-        const QString motivo = motivoDi(file);
+        QString motivo = motivoDi(file);
         file.cancelWriting();
         return motivo;
     }

@@ -133,7 +133,7 @@ QStringList Percorsi::candidati(const QString &scritto) const {
     if (fine > 2) {
         const QStringView macchina = QStringView(barre).sliced(2, fine - 2);
         const QString resto = pulito(barre.sliced(fine));
-        const QStringList trovati = eQuestaMacchina(macchina) ? diQuestaMacchina(resto) : montati(macchina, resto);
+        QStringList trovati = eQuestaMacchina(macchina) ? diQuestaMacchina(resto) : montati(macchina, resto);
         if (rovesce || !trovati.isEmpty())
             return trovati;
     } else if (barre.startsWith(u"//") && rovesce) {
@@ -159,7 +159,7 @@ QString Percorsi::conUnita(const QString &percorso) const {
 }
 
 QString Percorsi::diRete(const QString &percorso) const {
-    const QString intero = conUnita(percorso);
+    QString intero = conUnita(percorso);
     if (intero.isEmpty() || intero.startsWith(u"\\\\"))
         return intero;
     const QString resto = haUnita(intero) ? intero.mid(lunghezzaUnita) : intero;
