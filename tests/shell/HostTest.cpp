@@ -9,11 +9,15 @@
 #include "shell/store/Data.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QFile>
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QListView>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <sys/stat.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -33,6 +37,29 @@ TEST(Filtri, DescrizioniEModelli) {
     EXPECT_EQ(filtriQt(u"File Suono (*.wav) )|*.wav"_s), QStringList{u"File Suono (*.wav)"_s});
     EXPECT_EQ(filtriQt(u"(*.bmp;*.jpg;*.gif)|*.bmp;*.jpg;*.gif"_s), QStringList{u"File (*.bmp *.jpg *.gif)"_s});
     EXPECT_TRUE(filtriQt(QString()).isEmpty());
+}
+
+TEST(Filtri, IlDialogoMostraLaDescrizioneEFiltraSenzaMaiuscole) {
+    const InstallazioneProva prova; // the application
+    const QTemporaryDir cartella;
+    for (const char *nome : {"campana.WAV", "note.txt"}) {
+        QFile f(cartella.filePath(QString::fromLatin1(nome)));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    }
+    QString mostrato;
+    QStringList elenco;
+    QTimer::singleShot(0, [&] {
+        auto *dialogo = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        ASSERT_NE(dialogo, nullptr);
+        mostrato = dialogo->findChild<QComboBox *>(u"fileTypeCombo"_s)->currentText();
+        const auto *vista = dialogo->findChild<QListView *>(u"listView"_s);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return vista->model()->rowCount(vista->rootIndex()) == 1; }));
+        elenco << vista->model()->index(0, 0, vista->rootIndex()).data().toString();
+        dialogo->reject();
+    });
+    QtDialoghi().apriFile(nullptr, {{}, u"File Suono (*.wav) )|*.wav"_s, cartella.path()});
+    EXPECT_EQ(mostrato, u"File Suono (*.wav) )"_s);
+    EXPECT_EQ(elenco, QStringList{u"campana.WAV"_s});
 }
 
 class FormProva : public Form {

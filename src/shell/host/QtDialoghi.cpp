@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFontDatabase>
@@ -79,6 +80,15 @@ void nascondiEffetti(QFontDialog &dialogo) {
             gruppo->hide();
 }
 
+// The dialog filters by what Qt can read of the filter; what it shows is the filter's own description.
+void mostraDescrizioni(QFileDialog &dialogo, const QString &filtro) {
+    auto *tipi = dialogo.findChild<QComboBox *>(u"fileTypeCombo"_s);
+    const QStringList pezzi = filtro.split(u'|');
+    for (int i = 0; tipi != nullptr && i < tipi->count() && 2 * i + 1 < pezzi.size(); ++i)
+        if (!pezzi.at(2 * i).trimmed().isEmpty())
+            tipi->setItemText(i, pezzi.at(2 * i));
+}
+
 } // namespace
 
 QStringList filtriQt(const QString &filtro) {
@@ -107,6 +117,7 @@ std::optional<QString> QtDialoghi::apriFile(QWidget *padre, const RichiestaFile 
     prepara(dialogo, icone);
     dialogo.setFileMode(QFileDialog::ExistingFile);
     dialogo.setNameFilters(filtriQt(richiesta.filtro));
+    mostraDescrizioni(dialogo, richiesta.filtro);
     return risposta(dialogo);
 }
 
