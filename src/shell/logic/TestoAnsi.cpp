@@ -29,6 +29,27 @@ qsizetype postoFuori(QStringView testo) {
     return std::ranges::find_if(testo, fuori) - testo.begin();
 }
 
+// Appends the text's bytes; false, and nothing appended, when a character has none.
+bool aggiungi(QByteArray &byte, QStringView testo) {
+    const qsizetype inizio = byte.size();
+    byte.resize(inizio + testo.size());
+    char *dove = byte.data() + inizio;
+    // Nearly every text is plain, which shows without looking its characters up one by one.
+    char16_t insieme = 0;
+    for (const QChar c : testo) {
+        insieme |= c.unicode();
+        *dove++ = static_cast<char>(c.unicode());
+    }
+    if (insieme < inizioTabella)
+        return true;
+    if (postoFuori(testo) < testo.size()) {
+        byte.truncate(inizio);
+        return false;
+    }
+    std::ranges::transform(testo, byte.data() + inizio, [](QChar c) { return static_cast<char>(byteDi(c.unicode())); });
+    return true;
+}
+
 } // namespace
 
 QString daAnsi(QByteArrayView byte) {
@@ -40,19 +61,8 @@ QString daAnsi(QByteArrayView byte) {
 }
 
 std::optional<QByteArray> inAnsi(QStringView testo) {
-    // Nearly every text is plain, which shows without looking its characters up one by one.
-    char16_t insieme = 0;
-    for (const QChar c : testo)
-        insieme |= c.unicode();
-    if (insieme < inizioTabella)
-        return testo.toLatin1();
-    if (postoFuori(testo) < testo.size())
-        return std::nullopt;
     QByteArray byte;
-    byte.reserve(testo.size());
-    for (const QChar c : testo)
-        byte += static_cast<char>(byteDi(c.unicode()));
-    return byte;
+    return aggiungi(byte, testo) ? std::optional(byte) : std::nullopt;
 }
 
 QString fuoriAnsi(QStringView testo) {
@@ -88,11 +98,10 @@ QString scriviRighe(const QString &percorso, const QStringList &righe) {
     for (qsizetype i = 0; i < righe.size(); ++i) {
         if (righe[i].contains(u'\n'))
             return u"La riga %1 contiene un a capo, che il file non può contenere."_s.arg(i + 1);
-        const auto byte = inAnsi(righe[i]);
-        if (!byte)
+        if (!aggiungi(contenuto, righe[i]))
             return u"La riga %1 contiene il carattere «%2», che il file non può contenere."_s.arg(i + 1).arg(
                 fuoriAnsi(righe[i]));
-        contenuto.append(*byte).append("\r\n", 2);
+        contenuto.append("\r\n", 2);
     }
     return scriviFile(percorso, contenuto);
 }
