@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTime>
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 extern "C" {

@@ -80,6 +80,13 @@ TEST_F(Importa, IPercorsiDelVecchioProgrammaDiventanoNuovi) {
     EXPECT_TRUE(racconto.contains(u"colonna Importo"_s));
 }
 
+// Whole, but for one page of rows that holds nothing.
+QByteArray senzaPagina(QByteArray file, qsizetype pagina) {
+    constexpr qsizetype lunga = 4096;
+    EXPECT_EQ(file[pagina * lunga], 1) << "no page of rows";
+    return file.replace(pagina * lunga, lunga, QByteArray(lunga, '\0'));
+}
+
 TEST_F(Importa, CioCheNonVaERifiutatoENonLasciaNulla) {
     QFile intero(vecchio);
     ASSERT_TRUE(intero.open(QIODevice::ReadOnly));
@@ -98,7 +105,8 @@ TEST_F(Importa, CioCheNonVaERifiutatoENonLasciaNulla) {
                 {con(0x14, 2), u"più recente"},
                 {con(0x42, char(byte[0x42] ^ 0x55)), u"password"},
                 {con(0x3e, char(byte[0x3e] ^ 0x55)), u"codificato"},
-                {byte.left(8 * 4096), u"danneggiato"}};
+                {byte.left(8 * 4096), u"danneggiato"},
+                {senzaPagina(byte, 150), u"danneggiato"}};
     for (const auto &caso : casi) {
         scrivi(u"vecchio.mdb"_s, caso.contenuto);
         const Esito esito = importa(percorso(u"vecchio.mdb"_s), {});

@@ -10,7 +10,7 @@ struct EsitoStampa {
     QStringList avvisi; // what of it didn't come out as designed
 };
 
-// The ticket as a PDF page of its own size, each copy a page.
+// The ticket as a PDF of one page of its own size.
 EsitoStampa scriviPdf(const QString &file, const Etichetta &etichetta, const Valori &valori);
 // As a picture; `dpi` 0 is the resolution of the ticket's printer.
 EsitoStampa scriviPng(const QString &file, const Etichetta &etichetta, const Valori &valori, int dpi);
