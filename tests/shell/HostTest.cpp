@@ -1,6 +1,7 @@
 #include "kit/FintoSistema.h"
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
+#include "shell/disegni/Tavolozza.h"
 #include "shell/host/ColorPicker.h"
 #include "shell/host/Form.h"
 #include "shell/host/Grid.h"
@@ -15,6 +16,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QHelpEvent>
 #include <QListView>
 #include <QProgressBar>
 #include <QSignalSpy>
@@ -23,6 +25,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 #include <cmath>
 #include <sys/stat.h>
 
@@ -199,6 +202,36 @@ TEST_F(ConForm, DidascaliaLungaSiStringeENonSiTaglia) {
     form.Lungo.setCaption(u"Una didascalia che in nessun modo può stare in così poco spazio"_s);
     form.Lungo.show();
     EXPECT_EQ(didascalieTagliate(form), QStringList{u"Btn(1)"_s});
+}
+
+TEST_F(ConForm, IlDisegnoStaPrimaDellaDidascaliaSeEntra) {
+    form.Lungo.allineaASinistra();
+    form.Lungo.setDisegno(Disegno::Campana);
+    const auto dipinto = [&] {
+        const QImage vista = form.Lungo.grab({0, 0, 20, 20}).toImage();
+        for (int x = 0; x < vista.width(); ++x)
+            if (vista.pixelColor(x, vista.height() / 2) == tavolozza::evidenza)
+                return true;
+        return false;
+    };
+    form.Lungo.setCaption(u"Breve"_s);
+    EXPECT_TRUE(QTest::qWaitFor(dipinto));
+    form.Lungo.setCaption(u"Una didascalia piuttosto lunga"_s);
+    EXPECT_FALSE(dipinto());
+}
+
+TEST_F(ConForm, UnaVoceTagliataSiLeggeNelSuggerimento) {
+    ListBox lista(&form, "lista", {120, 2000, 1500, 1500});
+    const QString lunga = u"/media/archivio/<b>immagini della sala d'attesa</b>.jpg"_s;
+    lista.setVoci({u"breve"_s, lunga});
+    form.show();
+    for (const auto &[riga, atteso] : {std::pair(1, u"<qt>"_s + lunga.toHtmlEscaped() + u"</qt>"_s), {0, QString()}}) {
+        const QPoint punto = lista.visualItemRect(lista.item(riga)).center();
+        QHelpEvent evento(QEvent::ToolTip, punto, lista.viewport()->mapToGlobal(punto));
+        QApplication::sendEvent(lista.viewport(), &evento);
+        EXPECT_TRUE(QTest::qWaitFor([&, testo = atteso] { return QToolTip::text() == testo; })) << riga;
+    }
+    EXPECT_EQ(lista.visualItemRect(lista.item(1)).width(), lista.viewport()->width());
 }
 
 TEST_F(ConForm, UnErroreNonGestitoDiventaUnMessaggio) {
