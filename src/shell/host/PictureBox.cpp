@@ -13,12 +13,6 @@ PictureBox::PictureBox(QWidget *padre, const char *nome, const Posto &posto) : C
 PictureBox::PictureBox(QWidget *padre, const char *nome, const Posto &posto, Disegno disegno)
     : Controllo(padre, nome, posto), m_disegno(disegno) {}
 
-void PictureBox::setDisegno(Disegno disegno) {
-    m_disegno = disegno;
-    m_immagine = {};
-    update();
-}
-
 void PictureBox::setImmagine(const QPixmap &immagine) {
     m_disegno.reset();
     m_immagine = immagine;
