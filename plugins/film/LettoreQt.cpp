@@ -45,11 +45,11 @@ void LettoreQt::avvia(std::chrono::milliseconds limite) {
     QThread *filo = nuovoFilo();
     m_motore->moveToThread(filo);
     // What an engine sent before it was let go still arrives.
-    connect(m_motore, &Motore::notizia, this, [this, quale = m_quale](const Notizia &n) {
+    connect(m_motore, &Motore::aggiornato, this, [this, quale = m_quale](const Notizia &n) {
         if (quale == m_quale)
             ricevi(n);
     });
-    connect(m_motore, &Motore::fotogramma, this, [this, quale = m_quale] {
+    connect(m_motore, &Motore::consegnato, this, [this, quale = m_quale] {
         if (quale == m_quale && m_schermo != nullptr)
             m_schermo->mostra(m_passaggio->prendi());
     });

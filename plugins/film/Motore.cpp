@@ -49,7 +49,7 @@ bool Motore::prepara() {
     m_lettore->setVideoSink(m_film.get());
     connect(m_film.get(), &QVideoSink::videoFrameChanged, this, [this](const QVideoFrame &f) {
         if (m_passaggio->metti(f))
-            Q_EMIT fotogramma();
+            Q_EMIT consegnato();
     });
     connect(m_lettore.get(), &QMediaPlayer::errorOccurred, this,
             [this](QMediaPlayer::Error, const QString &dettaglio) { sbaglia(dettaglio); });
@@ -70,8 +70,8 @@ void Motore::apriFile(const QString &percorso) {
 void Motore::apriFlusso(const QUrl &indirizzo) {
     m_flusso = true;
     auto *stazione = new Stazione(this);
-    connect(stazione, &Stazione::trovata, this, &Motore::apri);
-    connect(stazione, &Stazione::mancata, this, &Motore::guasta);
+    connect(stazione, &Stazione::trovato, this, &Motore::apri);
+    connect(stazione, &Stazione::mancato, this, &Motore::guasta);
     stazione->cerca(indirizzo);
 }
 
@@ -122,7 +122,7 @@ void Motore::aggiorna() {
         return; // stopped: the end follows
     }
     sorvegliaFine();
-    Q_EMIT notizia(m_notizia);
+    Q_EMIT aggiornato(m_notizia);
 }
 
 void Motore::sorvegliaFine() {
@@ -141,7 +141,7 @@ void Motore::finisci() {
     m_ultimo.stop();
     m_notizia.stato = StatoLettore::Finito;
     m_notizia.posizione = m_notizia.durata;
-    Q_EMIT notizia(m_notizia);
+    Q_EMIT aggiornato(m_notizia);
 }
 
 // Stopped, it tells nothing more; played again, it begins from the start.
@@ -151,7 +151,7 @@ void Motore::finisciSeFermo() {
     m_lettore->stop(); // tells of its way back to the start first
     m_notizia.stato = StatoLettore::Finito;
     m_notizia.posizione = m_notizia.durata;
-    Q_EMIT notizia(m_notizia);
+    Q_EMIT aggiornato(m_notizia);
 }
 
 void Motore::guasta(GuastoLettore guasto, const QString &motivo) {
@@ -160,7 +160,7 @@ void Motore::guasta(GuastoLettore guasto, const QString &motivo) {
     m_notizia.motivo = motivo;
     if (m_lettore != nullptr)
         m_lettore->pause();
-    Q_EMIT notizia(m_notizia);
+    Q_EMIT aggiornato(m_notizia);
 }
 
 void Motore::sbaglia(const QString &dettaglio) {

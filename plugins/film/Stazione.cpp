@@ -65,7 +65,7 @@ void Stazione::cerca(const QUrl &indirizzo) {
 
 void Stazione::chiedi(const QUrl &indirizzo) {
     if (!eWeb(indirizzo)) {
-        Q_EMIT mancata(GuastoLettore::NonRaggiunto,
+        Q_EMIT mancato(GuastoLettore::NonRaggiunto,
                        u"L'indirizzo non è quello di una stazione: deve cominciare con http:// o https://."_s);
         return;
     }
@@ -86,7 +86,7 @@ void Stazione::esamina(QNetworkReply &risposta) {
     const QUrl indirizzo = risposta.url();
     if (ePagina(tipo)) {
         lascia(risposta);
-        Q_EMIT mancata(GuastoLettore::PaginaWeb, u"L'indirizzo è quello di una pagina web, non di una stazione."_s);
+        Q_EMIT mancato(GuastoLettore::PaginaWeb, u"L'indirizzo è quello di una pagina web, non di una stazione."_s);
     } else if (eLista(risposta, tipo)) {
         connect(&risposta, &QNetworkReply::readyRead, this, [this, r = &risposta] {
             if (r->bytesAvailable() > MassimoLista)
@@ -94,7 +94,7 @@ void Stazione::esamina(QNetworkReply &risposta) {
         });
     } else {
         lascia(risposta);
-        Q_EMIT trovata(indirizzo);
+        Q_EMIT trovato(indirizzo);
     }
 }
 
@@ -103,12 +103,12 @@ void Stazione::leggiLista(QNetworkReply &risposta) {
     const QByteArray lista = risposta.read(MassimoLista);
     lascia(risposta);
     if (lista.contains(SegnoDiretta)) {
-        Q_EMIT trovata(indirizzo);
+        Q_EMIT trovato(indirizzo);
         return;
     }
     const QUrl voce = primaVoce(lista, indirizzo);
     if (voce.isEmpty() || ++m_liste > MassimoListe)
-        Q_EMIT mancata(GuastoLettore::Illeggibile,
+        Q_EMIT mancato(GuastoLettore::Illeggibile,
                        u"La lista di stazioni all'indirizzo dato non ne contiene alcuna."_s);
     else
         chiedi(voce);
@@ -127,9 +127,9 @@ void Stazione::concludi(QNetworkReply &risposta) {
                              risposta.error() == QNetworkReply::RemoteHostClosedError;
     lascia(risposta);
     if (altraLingua)
-        Q_EMIT trovata(indirizzo);
+        Q_EMIT trovato(indirizzo);
     else
-        Q_EMIT mancata(GuastoLettore::NonRaggiunto, motivo);
+        Q_EMIT mancato(GuastoLettore::NonRaggiunto, motivo);
 }
 
 void Stazione::lascia(QNetworkReply &risposta) {

@@ -24,7 +24,7 @@ qint64 Coda::readData(char *dove, qint64 massimo) {
     std::memcpy(dove, m_campioni.constData(), std::size_t(quanti));
     m_campioni.remove(0, quanti);
     if (m_campioni.size() < PocoResto)
-        Q_EMIT scarsa();
+        Q_EMIT consumato();
     return quanti;
 }
 
@@ -45,7 +45,7 @@ void MotoreVoce::parla(const QString &testo, std::optional<Timbro> timbro) {
     m_pezzi = pezziDaDire(testo);
     m_timbro = timbro;
     if (m_pezzi.isEmpty()) {
-        Q_EMIT cambiata(StatoVoce::Finito, {});
+        Q_EMIT cambiato(StatoVoce::Finito, {});
         return;
     }
     prossimoPezzo();
@@ -56,7 +56,7 @@ void MotoreVoce::parla(const QString &testo, std::optional<Timbro> timbro) {
     m_uscita = std::make_unique<QAudioSink>(uscita, formato);
     connect(m_uscita.get(), &QAudioSink::stateChanged, this, &MotoreVoce::segui);
     // Queued: the queue is being read when it tells that it runs low.
-    connect(&m_coda, &Coda::scarsa, this, &MotoreVoce::prossimoPezzo, Qt::QueuedConnection);
+    connect(&m_coda, &Coda::consumato, this, &MotoreVoce::prossimoPezzo, Qt::QueuedConnection);
     m_uscita->start(&m_coda);
 }
 
@@ -67,16 +67,16 @@ void MotoreVoce::prossimoPezzo() {
 
 void MotoreVoce::segui(QAudio::State stato) {
     if (stato == QAudio::ActiveState)
-        Q_EMIT cambiata(StatoVoce::Parla, {});
+        Q_EMIT cambiato(StatoVoce::Parla, {});
     else if (m_uscita->error() != QAudio::NoError && m_uscita->error() != QAudio::UnderrunError)
         guasta(u"il servizio audio ha rifiutato il suono."_s);
     else if (stato == QAudio::IdleState && m_pezzi.isEmpty() && m_coda.bytesAvailable() == 0)
-        Q_EMIT cambiata(StatoVoce::Finito, {});
+        Q_EMIT cambiato(StatoVoce::Finito, {});
 }
 
 void MotoreVoce::guasta(const QString &motivo) {
     m_pezzi.clear();
-    Q_EMIT cambiata(StatoVoce::Guasto, motivo);
+    Q_EMIT cambiato(StatoVoce::Guasto, motivo);
 }
 
 } // namespace zuvora

@@ -33,7 +33,7 @@ void VoceEspeak::parla(const QString &testo, std::optional<Timbro> timbro) {
     QThread *filo = nuovoFilo();
     m_motore->moveToThread(filo);
     // What an engine sent before it was let go still arrives.
-    connect(m_motore, &MotoreVoce::cambiata, this, [this, quale = m_quale](StatoVoce stato, const QString &motivo) {
+    connect(m_motore, &MotoreVoce::cambiato, this, [this, quale = m_quale](StatoVoce stato, const QString &motivo) {
         if (quale == m_quale)
             passa(stato, motivo);
     });

@@ -4,6 +4,7 @@
 #include "shell/host/ComponenteVoce.h"
 #include "shell/host/Piattaforma.h"
 #include "shell/logic/FileAtomico.h"
+#include "shell/store/NomiFile.h"
 
 #include <QApplication>
 #include <QTextCursor>
@@ -19,7 +20,6 @@ constexpr int AltezzaChiusa = 4305;
 constexpr int AltezzaAperta = 7575;
 constexpr qint64 MassimoFrase = 1024 * 1024; // bytes
 constexpr qint64 MassimoGuida = 4 * 1024 * 1024;
-constexpr QStringView NomeFileGuida = u"th19.rtf";
 constexpr QStringView Apri = u"Apri Info";
 constexpr QStringView Chiudi = u"Chiudi Info";
 
@@ -45,8 +45,8 @@ QString testoStato(const Voce &voce) {
 
 } // namespace
 
-Boccuccia::Boccuccia(const Ambiente &ambiente_, QWidget *padre)
-    : Form(ambiente_, "Boccuccia", "Modulo Vocale (Text-to-Speech)", {Larghezza, AltezzaChiusa}, padre) {
+Boccuccia::Boccuccia(const Ambiente &contesto, QWidget *padre)
+    : Form(contesto, "Boccuccia", "Modulo Vocale (Text-to-Speech)", {Larghezza, AltezzaChiusa}, padre) {
     disponi();
     quando(m_sorgente, &GruppoRadio::cambiato, [this](int) { mostraVoci(); });
     alClic(PB1, [this](int i) { inserisci(i); });
@@ -73,7 +73,7 @@ void Boccuccia::disponi() {
 }
 
 void Boccuccia::leggi() {
-    const QString percorso = m_percorsi.unisci(cartella(), NomeFileFrase);
+    const QString percorso = m_percorsi.unisci(cartella(), nomi::frase);
     const FileLetto file = leggiFile(percorso, MassimoFrase);
     if (!file.motivo.isEmpty() && m_percorsi.esamina(percorso).specie != Specie::Manca)
         m_avviso = file.motivo;
@@ -86,7 +86,7 @@ void Boccuccia::leggi() {
 }
 
 void Boccuccia::leggiGuida() {
-    const FileLetto file = leggiFile(m_percorsi.unisci(cartella(), NomeFileGuida), MassimoGuida);
+    const FileLetto file = leggiFile(m_percorsi.unisci(cartella(), nomi::aiutoVoce), MassimoGuida);
     if (file.motivo.isEmpty())
         RT2.mostra(leggiRtf(file.contenuto));
     else
@@ -110,7 +110,7 @@ void Boccuccia::salva() {
                          acceso(!VociPS(0).isChecked())};
     QString motivo = motivoNonSalvabile(frase.frase);
     if (const auto record = componiFrase(frase); motivo.isEmpty() && record)
-        motivo = scriviFile(m_percorsi.unisci(cartella(), NomeFileFrase), *record);
+        motivo = scriviFile(m_percorsi.unisci(cartella(), nomi::frase), *record);
     if (motivo.isEmpty())
         ctButton2(1).spunta();
     else

@@ -12,9 +12,9 @@ constexpr int ColonnaNome = 2;
 
 } // namespace
 
-UtentiServizi::UtentiServizi(const Ambiente &ambiente_, QWidget *padre)
-    : Form(ambiente_, "UtentiServizi",
-           "Gestione Servizi   (Si ricorda che i servizi disponibili sono un massimo di 20)", {7335, 6495}, padre) {
+UtentiServizi::UtentiServizi(const Ambiente &contesto, QWidget *padre)
+    : Form(contesto, "UtentiServizi", "Gestione Servizi   (Si ricorda che i servizi disponibili sono un massimo di 20)",
+           {7335, 6495}, padre) {
     NrServizi.setSolaLettura(u"Il numero segue l'elenco"_s);
     NrServizi.setFocusPolicy(Qt::ClickFocus); // Tab goes from the list to what can be done with it
     ctButton2(1).setRuolo(Ruolo::Principale);

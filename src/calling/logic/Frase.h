@@ -1,7 +1,5 @@
 #pragma once
 
-#include "shell/store/NomiFile.h"
-
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
@@ -19,8 +17,6 @@ struct FraseTTS {
     std::optional<int> femminile;
     std::optional<int> sistema;
 };
-
-inline constexpr QStringView NomeFileFrase = nomi::frase;
 
 // Reads whatever there is: a short record, other line ends, no quotes.
 FraseTTS interpretaFrase(QByteArrayView byte);

@@ -109,7 +109,7 @@ void AscoltoRadio::aggiorna() {
         break;
     case StatoLettore::Guasto:
         if (m_lettore->guasto() == GuastoLettore::PaginaWeb)
-            Q_EMIT paginaWeb();
+            Q_EMIT rimandato();
         else
             mostra(u"Interrotto"_s, m_lettore->motivo());
         break;

@@ -14,8 +14,8 @@ constexpr int massimoTitolo = 50; // characters
 
 } // namespace
 
-youtube::youtube(const Ambiente &ambiente_, const QUrl &sito, QWidget *padre)
-    : Form(ambiente_, "youtube", "Impostazione playlists di YouTube", {9300, 5640}, padre), m_sito(sito) {
+youtube::youtube(const Ambiente &contesto, const QUrl &sito, QWidget *padre)
+    : Form(contesto, "youtube", "Impostazione playlists di YouTube", {9300, 5640}, padre), m_sito(sito) {
     Titolo.setMaxLength(massimoTitolo);
     Titolo.setMaiuscole(true);
     Titolo.setSoloDigitato();

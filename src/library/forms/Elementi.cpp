@@ -12,8 +12,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 
-Elementi::Elementi(const Ambiente &ambiente_, QWidget *padre)
-    : Form(ambiente_, "Elementi", "Decorazioni", {7575, 6195}, padre) {
+Elementi::Elementi(const Ambiente &contesto, QWidget *padre)
+    : Form(contesto, "Elementi", "Decorazioni", {7575, 6195}, padre) {
     IlFileX.hide();
     grid.lega(Data1);
     grid.setAccessibleName(u"Immagini Decorazioni"_s);

@@ -27,8 +27,8 @@ QFont ingrandito(const QFont &base, double punti) {
 
 } // namespace
 
-SplasModule::SplasModule(const Ambiente &ambiente_, std::vector<VoceMenu> voci, const QUrl &sito)
-    : Form(ambiente_, "SplasModule", "Zuvora  -  Modulo di Impostazione", {8685, 7605}, nullptr),
+SplasModule::SplasModule(const Ambiente &contesto, std::vector<VoceMenu> voci, const QUrl &sito)
+    : Form(contesto, "SplasModule", "Zuvora  -  Modulo di Impostazione", {8685, 7605}, nullptr),
       m_voci(std::move(voci)), m_sito(sito), Image1("Image1", 0, 0, [this](int, const char *nome) {
           return std::make_unique<PictureBox>(this, nome, Posto{2880, 6300, 1080, 870}, Disegno::Zuvora);
       }) {

@@ -96,7 +96,7 @@ void AnteprimaImmagine::concludi(const ImmagineLetta &letta) {
     m_trasparente = letta.immagine.hasAlphaChannel();
     setTesto({});
     setImmagine(QPixmap::fromImage(letta.immagine));
-    Q_EMIT cambiata();
+    Q_EMIT cambiato();
 }
 
 void AnteprimaImmagine::paintEvent(QPaintEvent *e) {
@@ -109,7 +109,7 @@ void AnteprimaImmagine::fallisci(const QString &motivo) {
     m_stato = Stato::NonLeggibile;
     m_guasto = motivo + u'\n' + accorciato(QFileInfo(m_percorso).fileName());
     setTesto(m_guasto);
-    Q_EMIT cambiata();
+    Q_EMIT cambiato();
 }
 
 } // namespace zuvora

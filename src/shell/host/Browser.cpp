@@ -142,7 +142,7 @@ void Browser::ricevi(EsitoWeb esito, const QUrl &indirizzo) {
     }
     m_pila->setCurrentWidget(m_vista->widget());
     if (esito == EsitoWeb::Mostrata)
-        Q_EMIT terminata(true);
+        Q_EMIT terminato(true);
 }
 
 void Browser::congeda() {
@@ -160,7 +160,7 @@ void Browser::mostraAvviso(const QString &testo) {
 void Browser::rinuncia(const QString &testo) {
     congeda();
     mostraAvviso(testo);
-    Q_EMIT terminata(false);
+    Q_EMIT terminato(false);
 }
 
 } // namespace zuvora

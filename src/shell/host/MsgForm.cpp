@@ -42,8 +42,8 @@ Tono tonoDi(const QString &riga0) {
     return riga0.contains(fatto) && !riga0.contains(negato) ? Tono::Riuscita : Tono::Rifiuto;
 }
 
-MsgForm::MsgForm(const Ambiente &ambiente_, const QString &riga0, const QString &riga1, bool domanda, QWidget *padre)
-    : Form(ambiente_, "MsgForm", "", {8400, 5040}, padre),
+MsgForm::MsgForm(const Ambiente &contesto, const QString &riga0, const QString &riga1, bool domanda, QWidget *padre)
+    : Form(contesto, "MsgForm", "", {8400, 5040}, padre),
       Image1(this, "Image1", {120, 120, 3480, 4800}, Disegno::SalaAttesa),
       Segno(this, "Segno", {7815, 285, 465, 465}, segnoDi(domanda ? Tono::Domanda : tonoDi(riga0))),
       Label1(this, "Label1", "Messaggio x te  da Zuvora", {3840, 360, 3975, 315}),
