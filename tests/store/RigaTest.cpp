@@ -71,6 +71,8 @@ TEST_F(RigaTest, UnaVistaSenzaFineSiFermaAlLimite) {
         d.limite = limite;
         EXPECT_EQ(apri(d, sorgente).RecordCount(), limite) << sorgente.toStdString();
     }
+    Fratello(percorso()).esegui(u"CREATE VIEW Muta AS SELECT * FROM Infinita WHERE Testo < 0"_s);
+    EXPECT_EQ(numeroDi([&] { apri(d, u"Muta"_s); }), 3000);
     EXPECT_EQ(leggiRiga(cartella(), u"Infinita"_s).testo(u"Testo"), u"1"_s);
 }
 
