@@ -11,9 +11,9 @@ using namespace std::chrono_literals;
 namespace zuvora {
 namespace {
 
-constexpr auto LimiteFile = 8s;
-constexpr auto LimiteFlusso = 12s;
-constexpr auto LimiteSilenzio = 10s; // of a station that was playing
+constexpr auto limiteFile = 8s;
+constexpr auto limiteFlusso = 12s;
+constexpr auto limiteSilenzio = 10s; // of a station that was playing
 
 } // namespace
 
@@ -75,14 +75,14 @@ void LettoreQt::congeda() {
 
 void LettoreQt::apriFile(const QString &percorso) {
     m_flusso = false;
-    avvia(LimiteFile);
+    avvia(limiteFile);
     aMotore([motore = m_motore, percorso] { motore->apriFile(percorso); });
     annuncia();
 }
 
 void LettoreQt::apriFlusso(const QUrl &indirizzo) {
     m_flusso = true;
-    avvia(LimiteFlusso);
+    avvia(limiteFlusso);
     aMotore([motore = m_motore, indirizzo] { motore->apriFlusso(indirizzo); });
     annuncia();
 }
@@ -115,7 +115,7 @@ void LettoreQt::setVolume(int percento) {
 void LettoreQt::ricevi(const Notizia &notizia) {
     m_notizia = notizia;
     if (m_flusso && notizia.stato == StatoLettore::InCorso)
-        m_limite.start(LimiteSilenzio);
+        m_limite.start(limiteSilenzio);
     else
         m_limite.stop();
     annuncia();

@@ -16,12 +16,12 @@ namespace zuvora {
 namespace {
 
 // What has been decoded to its end sounds on for this time: the output holds it still.
-constexpr auto Coda = 150ms;
+constexpr auto coda = 150ms;
 
 // Some films creep just before their end for seconds, until the decoder says that it is the end.
-constexpr qint64 PressoLaFine = 1000; // milliseconds
-constexpr auto FermoPressoLaFine = 1s;
-constexpr qint64 PassoMinimo = 50; // milliseconds
+constexpr qint64 pressoLaFine = 1000; // milliseconds
+constexpr auto fermoPressoLaFine = 1s;
+constexpr qint64 passoMinimo = 50; // milliseconds
 
 // The ear hears loudness by ratios.
 float perOrecchio(int percento) {
@@ -112,7 +112,7 @@ void Motore::aggiorna() {
             guasta(GuastoLettore::Interrotto, u"La stazione ha smesso di trasmettere."_s);
             return;
         }
-        QTimer::singleShot(m_notizia.haUscita ? Coda : 0ms, this, &Motore::finisci);
+        QTimer::singleShot(m_notizia.haUscita ? coda : 0ms, this, &Motore::finisci);
         return;
     } else if (m_lettore->playbackState() == QMediaPlayer::PlayingState) {
         m_notizia.stato = StatoLettore::InCorso;
@@ -126,12 +126,12 @@ void Motore::aggiorna() {
 }
 
 void Motore::sorvegliaFine() {
-    const bool vicina = m_notizia.durata > 0 && m_notizia.durata - m_notizia.posizione < PressoLaFine;
+    const bool vicina = m_notizia.durata > 0 && m_notizia.durata - m_notizia.posizione < pressoLaFine;
     if (m_notizia.stato != StatoLettore::InCorso || !vicina)
         m_ultimo.stop();
-    else if (!m_ultimo.isActive() || std::abs(m_notizia.posizione - m_segno) > PassoMinimo) {
+    else if (!m_ultimo.isActive() || std::abs(m_notizia.posizione - m_segno) > passoMinimo) {
         m_segno = m_notizia.posizione;
-        m_ultimo.start(FermoPressoLaFine);
+        m_ultimo.start(fermoPressoLaFine);
     }
 }
 

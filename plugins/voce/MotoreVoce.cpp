@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr qint64 PocoResto = 128 * 1024; // bytes, some three seconds
+constexpr qint64 pocoResto = 128 * 1024; // bytes, some three seconds
 
 } // namespace
 
@@ -23,7 +23,7 @@ qint64 Coda::readData(char *dove, qint64 massimo) {
     const qint64 quanti = std::min<qint64>(massimo, m_campioni.size());
     std::memcpy(dove, m_campioni.constData(), std::size_t(quanti));
     m_campioni.remove(0, quanti);
-    if (m_campioni.size() < PocoResto)
+    if (m_campioni.size() < pocoResto)
         Q_EMIT consumato();
     return quanti;
 }
@@ -61,7 +61,7 @@ void MotoreVoce::parla(const QString &testo, std::optional<Timbro> timbro) {
 }
 
 void MotoreVoce::prossimoPezzo() {
-    if (!m_pezzi.isEmpty() && m_coda.bytesAvailable() < PocoResto)
+    if (!m_pezzi.isEmpty() && m_coda.bytesAvailable() < pocoResto)
         m_coda.metti(sintetizza(m_pezzi.takeFirst(), m_timbro));
 }
 

@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 namespace zuvora {
 namespace {
 
-constexpr auto LimiteAvvio = 5s;
+constexpr auto limiteAvvio = 5s;
 
 } // namespace
 
@@ -40,7 +40,7 @@ void VoceEspeak::parla(const QString &testo, std::optional<Timbro> timbro) {
     filo->start();
     QMetaObject::invokeMethod(
         m_motore, [motore = m_motore, testo, timbro] { motore->parla(testo, timbro); }, Qt::QueuedConnection);
-    m_limite.start(LimiteAvvio);
+    m_limite.start(limiteAvvio);
     passa(StatoVoce::Prepara, {});
 }
 

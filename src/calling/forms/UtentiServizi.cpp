@@ -8,7 +8,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr int ColonnaNome = 2;
+constexpr int colonnaNome = 2;
 
 } // namespace
 
@@ -20,7 +20,7 @@ UtentiServizi::UtentiServizi(const Ambiente &contesto, QWidget *padre)
     ctButton2(1).setRuolo(Ruolo::Principale);
     ctButton2(2).setRuolo(Ruolo::Distruttivo);
     grid.lega(Data8);
-    apri(Data8, cartella(), SorgenteServizi.toString());
+    apri(Data8, cartella(), sorgenteServizi.toString());
     ContaAttivi();
     quando(grid, &Grid::attivato, [this] { scambia(); });
     alClic(ctButton2(1), [this] { modifica(); });
@@ -47,7 +47,7 @@ void UtentiServizi::modifica() {
     if (vuoto())
         return;
     Recordset &servizi = Data8.Recordset();
-    const QString nome = grid.testo(grid.Row(), ColonnaNome);
+    const QString nome = grid.testo(grid.Row(), colonnaNome);
     const bool attivo = eVero(servizi[u"ServizioAttivo"].Value());
     const auto salva = [this, &servizi](const QString &nuovo, bool acceso) { scriviServizio(servizi, nuovo, acceso); };
     GestioneUtenti(

@@ -30,7 +30,7 @@ struct Variabile {
     QStringView segno; // as it stands in the sentence
     QStringView prova; // what the trial says in its place
 };
-inline constexpr std::array<Variabile, 3> Variabili = {{
+inline constexpr std::array<Variabile, 3> variabili = {{
     {u"@varnum@", u"152"},
     {u"@varpos@", u"Postazione 5"},
     {u"@varute@", u"Servizio"},

@@ -19,7 +19,7 @@ Form3::Form3(const Ambiente &contesto, const QString &host, QWidget *padre)
     bottoneDi(Text4, CBT_3); // what was searched is tried
     Text4.setFocus();
     // Without the towns a code can still be typed.
-    proteggi([this] { apri(Data2, cartella(), ElencoComuni.toString()); });
+    proteggi([this] { apri(Data2, cartella(), elencoComuni.toString()); });
     proteggi([this] { riempi(); });
 }
 

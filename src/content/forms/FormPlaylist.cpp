@@ -17,11 +17,11 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr const char *Suggerimento = "Imposta il file ZVI attivo come Predefinito";
-constexpr int MargineDestro = 90; // twips, for a place that reaches beyond the form
+constexpr const char *suggerimento = "Imposta il file ZVI attivo come Predefinito";
+constexpr int margineDestro = 90; // twips, for a place that reaches beyond the form
 
 Posto entro(const Posto &posto, const Misura &interno) {
-    return {posto.left, posto.top, std::min(posto.width, interno.width - MargineDestro - posto.left), posto.height};
+    return {posto.left, posto.top, std::min(posto.width, interno.width - margineDestro - posto.left), posto.height};
 }
 
 } // namespace
@@ -48,7 +48,7 @@ FormPlaylist::FormPlaylist(const Ambiente &contesto, const AspettoPlaylist &a, Q
       Command5(this, "Command5", "C&hiudi", {8760, 7080, 975, 330}) {
     Label1_1.setAbbrevia(true);
     Command6.setRuolo(Ruolo::Principale);
-    Command89.setToolTip(QString::fromUtf8(Suggerimento));
+    Command89.setToolTip(QString::fromUtf8(suggerimento));
     EliminaFile.setRuolo(Ruolo::Distruttivo);
     File1.setAccessibleName(u"File della cartella"_s);
     File2.setPattern(m_tipo.modello.toString());

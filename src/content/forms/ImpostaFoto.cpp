@@ -13,7 +13,7 @@ constexpr int massimeCifre = 2;
 } // namespace
 
 ImpostaFoto::ImpostaFoto(const Ambiente &contesto, QWidget *padre, const Percorsi &percorsi)
-    : FormPlaylist(contesto, AspettoFoto, padre, percorsi) {
+    : FormPlaylist(contesto, aspettoFoto, padre, percorsi) {
     text1.setFiltro(soloCifre);
     bottoneDi(text1, Command89); // the one that stores the time
     text1.setMaxLength(massimeCifre);

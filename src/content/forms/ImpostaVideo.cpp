@@ -5,7 +5,7 @@
 namespace zuvora {
 
 ImpostaVideo::ImpostaVideo(const Ambiente &contesto, QWidget *padre, const Percorsi &percorsi)
-    : FormPlaylist(contesto, AspettoVideo, padre, percorsi) {
+    : FormPlaylist(contesto, aspettoVideo, padre, percorsi) {
     alClic(PushButton1, [this] { anteprimaCartella(); });
     alClic(PushButton2, [this] { anteprimaPlaylist(); });
     ElencaPlaylist();

@@ -33,7 +33,7 @@ Elementi::Elementi(const Ambiente &contesto, QWidget *padre)
 }
 
 void Elementi::scegliCategoria(int indice) {
-    const CategoriaDecorazioni &categoria = CategorieDecorazioni.at(std::size_t(indice));
+    const CategoriaDecorazioni &categoria = categorieDecorazioni.at(std::size_t(indice));
     m_categoria = indice;
     TipoCategoria = categoria.Tipo;
     CartellaDestinazione = cartellaDecorazioni(cartella(), indice);

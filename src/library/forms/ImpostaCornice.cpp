@@ -31,7 +31,7 @@ ImpostaCornice::ImpostaCornice(const Ambiente &contesto, int i, QWidget *padre)
 
 void ImpostaCornice::scegliCategoria(int indice) {
     m_categoria = indice;
-    apri(Data1, cartella(), sorgenteDecorazioni(CategorieDecorazioni.at(std::size_t(indice)).Tipo));
+    apri(Data1, cartella(), sorgenteDecorazioni(categorieDecorazioni.at(std::size_t(indice)).Tipo));
     mostraRiga();
 }
 

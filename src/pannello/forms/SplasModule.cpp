@@ -14,9 +14,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr int LarghezzaVoce = 2295; // twips
-constexpr int AltezzaVoce = 300;
-constexpr int LeftVoce = 120;
+constexpr int larghezzaVoce = 2295; // twips
+constexpr int altezzaVoce = 300;
+constexpr int leftVoce = 120;
 
 QFont ingrandito(const QFont &base, double punti) {
     QFont font = base;
@@ -54,7 +54,7 @@ void SplasModule::disponi() {
     });
     for (const VoceMenu &voce : m_voci) {
         auto &bottone = m_menu.emplace_back(std::make_unique<Button>(
-            &GroupBox3, voce.nome, voce.didascalia, Posto{LeftVoce, voce.top, LarghezzaVoce, AltezzaVoce}));
+            &GroupBox3, voce.nome, voce.didascalia, Posto{leftVoce, voce.top, larghezzaVoce, altezzaVoce}));
         bottone->allineaASinistra();
         alClic(*bottone, [this, &voce] { premi(voce); });
     }

@@ -15,11 +15,11 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr int MassimoIndirizzo = 300; // characters shown of an address
-constexpr int MargineAvviso = 12;     // pixels
+constexpr int massimoIndirizzo = 300; // characters shown of an address
+constexpr int margineAvviso = 12;     // pixels
 
 QString perLaLettura(const QString &indirizzo) {
-    return indirizzo.size() <= MassimoIndirizzo ? indirizzo : indirizzo.left(MassimoIndirizzo) + u'…';
+    return indirizzo.size() <= massimoIndirizzo ? indirizzo : indirizzo.left(massimoIndirizzo) + u'…';
 }
 
 QString testoIndirizzo(const QString &indirizzo) {
@@ -66,7 +66,7 @@ Browser::Browser(QWidget *padre, const char *nome, const Posto &posto, const Pia
     m_avviso->setFrameStyle(QFrame::NoFrame);
     m_avviso->setTabChangesFocus(true);
     m_avviso->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_avviso->document()->setDocumentMargin(MargineAvviso);
+    m_avviso->document()->setDocumentMargin(margineAvviso);
     m_avviso->setAccessibleName(u"Avviso"_s);
     m_avviso->viewport()->installEventFilter(this);
     m_pila->setSizeConstraint(QLayout::SetNoConstraint);

@@ -54,11 +54,11 @@ void PictureBox::paintEvent(QPaintEvent *) {
 }
 
 void PictureBox::dipingiTesto(QPainter &pittore) const {
-    constexpr int Margine = 8; // pixels
+    constexpr int margine = 8; // pixels
     QTextOption opzioni(Qt::AlignCenter);
     opzioni.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere); // names of files have no blanks
     pittore.setPen(palette().color(QPalette::PlaceholderText));
-    pittore.drawText(QRectF(rect()).adjusted(Margine, Margine, -Margine, -Margine), m_testo, opzioni);
+    pittore.drawText(QRectF(rect()).adjusted(margine, margine, -margine, -margine), m_testo, opzioni);
 }
 
 void PictureBox::mouseReleaseEvent(QMouseEvent *e) {
