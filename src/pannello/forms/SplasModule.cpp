@@ -95,10 +95,7 @@ void SplasModule::apri(const VoceMenu &voce) {
         apriPagina(voce.nome, *crea);
         return;
     }
-    if (const auto *mostra = std::get_if<ApriForm>(&voce.apri))
-        (*mostra)(apertura());
-    else
-        avvisa(u"Questa funzione non è ancora disponibile"_s, u"in questa versione del modulo."_s);
+    std::get<ApriForm>(voce.apri)(apertura());
     if (voce.titolo)
         setComando({});
 }
