@@ -4,7 +4,7 @@
 
 namespace zuvora {
 
-ImpostaVideo::ImpostaVideo(const Ambiente &ambiente_, QWidget *padre) : FormPlaylist(ambiente_, AspettoVideo, padre) {
+ImpostaVideo::ImpostaVideo(const Ambiente &contesto, QWidget *padre) : FormPlaylist(contesto, aspettoVideo, padre) {
     alClic(PushButton1, [this] { anteprimaCartella(); });
     alClic(PushButton2, [this] { anteprimaPlaylist(); });
     ElencaPlaylist();

@@ -41,8 +41,8 @@ void scrivi(Label &etichetta, const QString &testo, const StileTotem &stile) {
 
 } // namespace
 
-LayoutTotem::LayoutTotem(const Ambiente &ambiente_, const RichiestaAnteprima &richiesta, QWidget *padre)
-    : Form(ambiente_, "LayoutTotem", "Impostazione Layout Totem", richiesta.finestra, padre), m_richiesta(richiesta),
+LayoutTotem::LayoutTotem(const Ambiente &contesto, const RichiestaAnteprima &richiesta, QWidget *padre)
+    : Form(contesto, "LayoutTotem", "Impostazione Layout Totem", richiesta.finestra, padre), m_richiesta(richiesta),
       m_aspetto(leggiAspetto(cartella())), Bottone("Bottone", 1, serviziMassimi, [this](int i, const char *nome) {
           return std::make_unique<BottoneTotem>(this, nome, u"Pulsante %1"_s.arg(i), fuoriVista);
       }) {

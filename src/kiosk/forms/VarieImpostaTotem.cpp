@@ -17,8 +17,8 @@ constexpr int progettoEtichetta = 1;
 
 } // namespace
 
-VarieImpostaTotem::VarieImpostaTotem(const Ambiente &ambiente_, QWidget *padre, ApriEtichette etichette)
-    : Form(ambiente_, "VarieImpostaTotem", "Varie impostazioni del Totem....", {6015, 2265}, padre),
+VarieImpostaTotem::VarieImpostaTotem(const Ambiente &contesto, QWidget *padre, ApriEtichette etichette)
+    : Form(contesto, "VarieImpostaTotem", "Varie impostazioni del Totem....", {6015, 2265}, padre),
       m_apriEtichette(std::move(etichette)) {
     if (!m_apriEtichette)
         m_apriEtichette = [this] {

@@ -23,7 +23,7 @@ struct VoceMenu {
     Disegno disegno; // where it finds room before the caption
     std::optional<QStringView> titolo;
     bool soloPrincipale; // no other installation may press it
-    std::variant<std::monostate, ApriForm, ApriPagina> apri;
+    std::variant<ApriForm, ApriPagina> apri;
 };
 
 } // namespace zuvora

@@ -8,7 +8,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 
 EsitoComponenteVoce creaVoce(const QString &cartella) {
-    const auto componente = caricaComponente<FabbricaVoce>(cartella, QString::fromLatin1(FileComponenteVoce),
+    const auto componente = caricaComponente<FabbricaVoce>(cartella, QString::fromLatin1(fileComponenteVoce),
                                                            u"La voce del programma non si può sentire"_s);
     if (componente.fabbrica == nullptr)
         return {nullptr, componente.motivo};
