@@ -84,7 +84,8 @@ TEST_F(ProvaVarie, AKioskThatNeverAnswersCountsAsMissing) {
     const auto sistema = std::make_shared<FintoSistema>();
     sistema->muta = u"/lontano"_s;
     percorso(u"/lontano/Totem"_s);
-    VarieImpostaTotem form(i.ambiente, nullptr, Percorsi(sistema));
+    i.ambiente.percorsi = Percorsi(sistema);
+    VarieImpostaTotem form(i.ambiente, nullptr);
     QElapsedTimer orologio;
     orologio.start();
     form.mostraModale();
@@ -132,7 +133,7 @@ TEST_F(ProvaVarie, AKioskThatGoesAwayIsNoticedOnTheReturn) {
 
 TEST_F(ProvaVarie, TheTicketDesignerGetsItsCallsInOrder) {
     QStringList chiamate;
-    VarieImpostaTotem form(i.ambiente, nullptr, Percorsi(), [&]() -> EsitoComponenteEtichette {
+    VarieImpostaTotem form(i.ambiente, nullptr, [&]() -> EsitoComponenteEtichette {
         return {std::make_unique<FinteEtichette>(chiamate), {}};
     });
     form.show();
@@ -245,7 +246,8 @@ TEST_F(ProvaImpostazione, AFullDiskIsTold) {
 TEST_F(ProvaImpostazione, AKioskThatFallsSilentIsToldInTime) {
     const auto sistema = std::make_shared<FintoSistema>();
     sistema->albero[totem()] = Specie::File;
-    form = std::make_unique<Impostazione>(i.ambiente, i.file(u"Totem"_s), nullptr, Percorsi(sistema));
+    i.ambiente.percorsi = Percorsi(sistema);
+    form = std::make_unique<Impostazione>(i.ambiente, i.file(u"Totem"_s), nullptr);
     form->show();
     sistema->muta = totem();
     scrivi("Modifnr(1)", "9");

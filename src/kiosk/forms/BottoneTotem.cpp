@@ -1,5 +1,7 @@
 #include "kiosk/forms/BottoneTotem.h"
 
+#include "shell/host/Grassetto.h"
+
 #include <QFontMetrics>
 #include <QPaintEvent>
 #include <QPainter>
@@ -94,7 +96,7 @@ void BottoneTotem::dipingiFaccia(QPainter &pittore) const {
     const QFont mostrato = fontMostrato();
     pittore.setFont(mostrato);
     pittore.setPen(m_colore);
-    pittore.drawText(spazio(), entra(mostrato, aParole) ? aParole : ovunque, m_caption.trimmed());
+    scriviTesto(pittore, spazio(), entra(mostrato, aParole) ? aParole : ovunque, m_caption.trimmed());
 }
 
 } // namespace zuvora

@@ -39,9 +39,9 @@ ColonnaServizi testi(const Schiera<Edit> &caselle) {
 
 } // namespace
 
-Impostazione::Impostazione(const Ambiente &contesto, const QString &cartellaTotem, QWidget *padre, Percorsi percorsi)
+Impostazione::Impostazione(const Ambiente &contesto, const QString &cartellaTotem, QWidget *padre)
     : Form(contesto, "Impostazione", "Impostazione", {6975, 8175}, padre), m_cartellaTotem(cartellaTotem),
-      m_percorsi(std::move(percorsi)), Label2(colonna<Label>(this, "Label2", {120, scartoNomi, 2655, 255})),
+      Label2(colonna<Label>(this, "Label2", {120, scartoNomi, 2655, 255})),
       Modifnr(colonna<Edit>(this, "Modifnr", {2880, 0, 975, 285})),
       Na1(colonna<Button>(this, "Na1", {3930, 0, 855, 285}, "Esegui")),
       NumIniz(colonna<Edit>(this, "NumIniz", {5040, 0, 855, 285})) {
@@ -64,7 +64,7 @@ Impostazione::Impostazione(const Ambiente &contesto, const QString &cartellaTote
 // meanwhile.
 template <class F> void Impostazione::conTotem(F lavoro) {
     const AttesaTotem attesa(m_occupata);
-    const std::function<bool()> domanda = [lavoro, percorsi = m_percorsi, cartellaTotem = m_cartellaTotem] {
+    const std::function<bool()> domanda = [lavoro, percorsi = ambiente().percorsi, cartellaTotem = m_cartellaTotem] {
         lavoro(fileTotem(percorsi, cartellaTotem, nomi::archivioTotem));
         return true;
     };

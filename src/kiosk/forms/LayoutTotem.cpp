@@ -41,11 +41,9 @@ void scrivi(Label &etichetta, const QString &testo, const StileTotem &stile) {
 
 } // namespace
 
-LayoutTotem::LayoutTotem(const Ambiente &contesto, const RichiestaAnteprima &richiesta, QWidget *padre,
-                         Percorsi percorsi)
+LayoutTotem::LayoutTotem(const Ambiente &contesto, const RichiestaAnteprima &richiesta, QWidget *padre)
     : Form(contesto, "LayoutTotem", "Impostazione Layout Totem", richiesta.finestra, padre), m_richiesta(richiesta),
-      m_aspetto(leggiAspetto(cartella())), m_percorsi(std::move(percorsi)),
-      Bottone("Bottone", 1, serviziMassimi, [this](int i, const char *nome) {
+      m_aspetto(leggiAspetto(cartella())), Bottone("Bottone", 1, serviziMassimi, [this](int i, const char *nome) {
           return std::make_unique<BottoneTotem>(this, nome, u"Pulsante %1"_s.arg(i), fuoriVista);
       }) {
     for (const auto &[indice, bottone] : Bottone)
@@ -90,7 +88,7 @@ void LayoutTotem::DisponiPulsanti(int schermo) {
 
 // False when the picture ends the arrangement.
 bool LayoutTotem::mostraSfondo() {
-    const SfondoTotem sfondo = leggiSfondo(m_percorsi, m_aspetto.sfondo, pixelDa(m_richiesta.finestra));
+    const SfondoTotem sfondo = leggiSfondo(ambiente().percorsi, m_aspetto.sfondo, pixelDa(m_richiesta.finestra));
     avverti(fraseSfondo(sfondo.esito, m_aspetto.sfondo));
     m_sfondo = QPixmap::fromImage(sfondo.immagine);
     m_sfondo.setDevicePixelRatio(1);

@@ -1,25 +1,19 @@
 #include "shell/host/Button.h"
 
-#include "shell/disegni/Tavolozza.h"
-
-#include <QAccessible>
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <QTimer>
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace zuvora {
 namespace {
 
 constexpr int margine = 3; // pixels on each side of the caption
-constexpr auto durataSpunta = 2s;
-constexpr int diametroSpunta = 11; // pixels
+constexpr int latoDisegno = 14;
 
 } // namespace
 
@@ -27,11 +21,6 @@ Button::Button(QWidget *padre, const char *nome, const char *didascalia, const P
     : Controllo(padre, nome, posto), m_base(font()) {
     // The form decides what Enter does; no button takes it as the dialog's default one.
     setAutoDefault(false);
-    m_spunta.setSingleShot(true);
-    connect(&m_spunta, &QTimer::timeout, this, [this] {
-        descrivi(m_descrizione);
-        update();
-    });
     setCaption(QString::fromUtf8(didascalia));
 }
 
@@ -42,6 +31,12 @@ void Button::setCaption(const QString &testo) {
 
 void Button::allineaASinistra() {
     m_sinistra = true;
+    update();
+}
+
+void Button::setDisegno(Disegno disegno) {
+    m_disegno = disegno;
+    m_dipinto = {};
     update();
 }
 
@@ -76,22 +71,7 @@ void Button::abilita(bool acceso, const QString &motivo) {
         m_suggerimento = toolTip();
     setEnabled(acceso);
     setToolTip(acceso ? m_suggerimento : motivo);
-    if (!conSpunta())
-        setAccessibleDescription(acceso ? QString() : motivo);
-}
-
-void Button::spunta() {
-    if (!conSpunta())
-        m_descrizione = accessibleDescription();
-    m_spunta.start(durataSpunta);
-    descrivi(u"Salvato"_s);
-    update();
-}
-
-void Button::descrivi(const QString &testo) {
-    setAccessibleDescription(testo);
-    QAccessibleEvent evento(this, QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&evento);
+    setAccessibleDescription(acceso ? QString() : motivo);
 }
 
 QSize Button::spazioDidascalia() const {
@@ -126,26 +106,33 @@ void Button::paintEvent(QPaintEvent *) {
         int opzioni = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine;
         if (!style()->styleHint(QStyle::SH_UnderlineShortcut, &opzione, this))
             opzioni |= Qt::TextHideMnemonic;
-        pittore.drawItemText(rect().adjusted(margine, 0, -margine, 0), opzioni, palette(), isEnabled(), testo,
+        const int rientro = margine + dipingiDisegno(pittore);
+        pittore.drawItemText(rect().adjusted(rientro, 0, -margine, 0), opzioni, palette(), isEnabled(), testo,
                              QPalette::ButtonText);
     }
-    if (conSpunta())
-        dipingiSpunta(pittore);
 }
 
-// In the corner, where few captions reach.
-void Button::dipingiSpunta(QPainter &pittore) const {
-    const QRectF disco(width() - diametroSpunta - 2, 2, diametroSpunta, diametroSpunta);
-    pittore.setRenderHint(QPainter::Antialiasing);
-    pittore.setPen(QPen(tavolozza::bianco, 1));
-    pittore.setBrush(tavolozza::riuscita);
-    pittore.drawEllipse(disco);
-    QPainterPath segno(disco.topLeft() + QPointF(2.7, 5.8));
-    segno.lineTo(disco.topLeft() + QPointF(4.8, 7.8));
-    segno.lineTo(disco.topLeft() + QPointF(8.4, 3.4));
-    pittore.setBrush(Qt::NoBrush);
-    pittore.setPen(QPen(tavolozza::bianco, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    pittore.drawPath(segno);
+// Gives the room that the drawing takes. It is drawn once, after the form has come up: captions come first.
+int Button::dipingiDisegno(QPainter &pittore) {
+    constexpr int distanza = 2;
+    const int spazio = spazioDidascalia().width() - latoDisegno - distanza;
+    if (!m_disegno || misuraDidascalia(text(), font()).width() > spazio)
+        return 0;
+    if (m_dipinto.isNull() || m_dipinto.devicePixelRatio() != devicePixelRatioF())
+        QTimer::singleShot(0, this, [this] {
+            const auto modo = isEnabled() ? QIcon::Normal : QIcon::Disabled;
+            m_dipinto = icona(*m_disegno).pixmap(QSize(latoDisegno, latoDisegno), devicePixelRatioF(), modo);
+            update();
+        });
+    else
+        pittore.drawPixmap(margine, (height() - latoDisegno) / 2, m_dipinto);
+    return latoDisegno + distanza;
+}
+
+void Button::changeEvent(QEvent *e) {
+    Controllo::changeEvent(e);
+    if (e->type() == QEvent::EnabledChange)
+        m_dipinto = {};
 }
 
 void condensaInsieme(const QList<Button *> &gruppo) {

@@ -14,6 +14,7 @@
 #include <QFontDialog>
 #include <QGroupBox>
 #include <QMessageBox>
+#include <QPushButton>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -111,9 +112,36 @@ void QtDialoghi::messaggio(QWidget *padre, Icona icona, const QString &titolo, c
     box.exec();
 }
 
+int QtDialoghi::scegli(QWidget *padre, const Scelta &scelta) {
+    QMessageBox box(QMessageBox::Question, scelta.titolo, scelta.testo, QMessageBox::NoButton, padre);
+    box.setTextFormat(Qt::PlainText);
+    QList<QPushButton *> bottoni;
+    for (const QString &didascalia : scelta.bottoni)
+        bottoni << box.addButton(didascalia, QMessageBox::ActionRole);
+    box.setDefaultButton(bottoni.at(scelta.predefinito));
+    box.setEscapeButton(bottoni.at(scelta.sicuro));
+    box.exec();
+    for (qsizetype i = 0; i < bottoni.size(); ++i)
+        if (box.clickedButton() == bottoni.at(i))
+            return static_cast<int>(i);
+    return scelta.sicuro;
+}
+
+// Where the dialog opens: it asks the folder on the window's thread, so one that doesn't answer is left out.
+QString QtDialoghi::primaCartella(const QString &chiesta) const {
+    for (const QString &cartella : {chiesta, QDir::currentPath(), QDir::homePath()}) {
+        if (cartella.isEmpty())
+            continue;
+        const auto esame = m_percorsi.chiediEAspetta(cartella);
+        if (esame.specie == Specie::Cartella)
+            return esame.percorso;
+    }
+    return QDir::rootPath();
+}
+
 std::optional<QString> QtDialoghi::apriFile(QWidget *padre, const RichiestaFile &richiesta) {
     const IconeFile icone;
-    QFileDialog dialogo(padre, richiesta.titolo, richiesta.cartella);
+    QFileDialog dialogo(padre, richiesta.titolo, primaCartella(richiesta.cartella));
     prepara(dialogo, icone);
     dialogo.setFileMode(QFileDialog::ExistingFile);
     dialogo.setNameFilters(filtriQt(richiesta.filtro));
@@ -121,9 +149,20 @@ std::optional<QString> QtDialoghi::apriFile(QWidget *padre, const RichiestaFile 
     return risposta(dialogo);
 }
 
+std::optional<QString> QtDialoghi::salvaFile(QWidget *padre, const RichiestaFile &richiesta) {
+    const IconeFile icone;
+    QFileDialog dialogo(padre, richiesta.titolo, primaCartella(richiesta.cartella));
+    prepara(dialogo, icone);
+    dialogo.setAcceptMode(QFileDialog::AcceptSave);
+    dialogo.setNameFilters(filtriQt(richiesta.filtro));
+    mostraDescrizioni(dialogo, richiesta.filtro);
+    dialogo.selectFile(richiesta.proposto);
+    return risposta(dialogo);
+}
+
 std::optional<QString> QtDialoghi::scegliCartella(QWidget *padre, const QString &titolo, const QString &prima) {
     const IconeFile icone;
-    QFileDialog dialogo(padre, titolo, prima);
+    QFileDialog dialogo(padre, titolo, primaCartella(prima));
     prepara(dialogo, icone);
     dialogo.setFileMode(QFileDialog::Directory);
     dialogo.setOption(QFileDialog::ShowDirsOnly);
