@@ -47,7 +47,7 @@ Rapporto verificaInstallazione(const QString &cartella) {
         controllaScrittura(rapporto, *totem);
     }
     for (const QLatin1StringView file : fileNecessari())
-        if (const QString difetto = difettoDi(base + u'/' + file, Atteso::Immagine); !difetto.isEmpty())
+        if (const QString difetto = difettoDi(base + u'/' + file, Atteso::NonVuoto); !difetto.isEmpty())
             rapporto.difetti += u"Nell'installazione %1"_s.arg(difetto);
     controllaProgramma(rapporto, base);
     return rapporto;
