@@ -49,7 +49,7 @@ Rapporto verificaInstallazione(const QString &cartella) {
         controllaScrittura(rapporto, *totem);
     }
     for (const QStringView file : fileNecessari())
-        if (const QString difetto = difettoDi(percorsoIn(base, file), Atteso::Immagine); !difetto.isEmpty())
+        if (const QString difetto = difettoDi(percorsoIn(base, file), Atteso::NonVuoto); !difetto.isEmpty())
             rapporto.difetti += u"Nell'installazione %1"_s.arg(difetto);
     controllaProgramma(rapporto, base);
     return rapporto;

@@ -360,23 +360,26 @@ TEST(DialogoFile, UnFileCheNonRispondeNonLoFerma) {
     EXPECT_TRUE(visto);
 }
 
-TEST(DialogoFont, SenzaBarratoNeSottolineato) {
+TEST(DialogoFont, CominciaDalFontDatoSenzaBarratoNeSottolineato) {
     preparaApplicazione();
     QtDialoghi dialoghi;
-    QTimer::singleShot(0, [&] {
-        auto *dialogo = qobject_cast<QFontDialog *>(QApplication::activeModalWidget());
-        ASSERT_NE(dialogo, nullptr);
-        const auto caselle = dialogo->findChildren<QCheckBox *>();
-        EXPECT_FALSE(caselle.isEmpty());
-        for (const QCheckBox *casella : caselle)
-            EXPECT_FALSE(casella->isVisible());
-        fotografa(*dialogo, u"Dialogo font"_s);
-        dialogo->accept();
-    });
-    const auto scelto = dialoghi.scegliFont(nullptr, FontScelto{u"Tahoma"_s, 14, true, false});
-    ASSERT_TRUE(scelto.has_value());
-    EXPECT_EQ(scelto->misura, 14);
-    EXPECT_TRUE(scelto->grassetto);
+    for (const QString &nome : {u"Tahoma"_s, u"Arial"_s}) { // the machine has another one for the second
+        QTimer::singleShot(0, [&] {
+            auto *dialogo = qobject_cast<QFontDialog *>(QApplication::activeModalWidget());
+            ASSERT_NE(dialogo, nullptr);
+            const auto caselle = dialogo->findChildren<QCheckBox *>();
+            EXPECT_FALSE(caselle.isEmpty());
+            for (const QCheckBox *casella : caselle)
+                EXPECT_FALSE(casella->isVisible());
+            fotografa(*dialogo, u"Dialogo font"_s);
+            dialogo->accept();
+        });
+        const auto scelto = dialoghi.scegliFont(nullptr, FontScelto{nome, 14, true, false});
+        ASSERT_TRUE(scelto.has_value());
+        EXPECT_EQ(scelto->nome, nome);
+        EXPECT_EQ(scelto->misura, 14);
+        EXPECT_TRUE(scelto->grassetto);
+    }
 }
 
 TEST(Istanza, UnaSolaPerMacchinaELiberaDopoLaFine) {

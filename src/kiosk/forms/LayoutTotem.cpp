@@ -89,7 +89,7 @@ void LayoutTotem::DisponiPulsanti(int schermo) {
 // False when the picture ends the arrangement.
 bool LayoutTotem::mostraSfondo() {
     const SfondoTotem sfondo = leggiSfondo(ambiente().percorsi, m_aspetto.sfondo, pixelDa(m_richiesta.finestra));
-    avverti(fraseSfondo(sfondo.esito, m_aspetto.sfondo));
+    avverti(fraseSfondo(sfondo, m_aspetto.sfondo));
     m_sfondo = QPixmap::fromImage(sfondo.immagine);
     m_sfondo.setDevicePixelRatio(1);
     return !fermaDisposizione(sfondo.esito);
@@ -113,7 +113,8 @@ void LayoutTotem::vestiPulsanti() {
             bottone.setColoreTesto(coloreDa(stile.colore));
     }
     if (!m_aspetto.rifiutati.isEmpty())
-        avverti(u"Non sono numeri, e valgono quelli consueti: "_s + m_aspetto.rifiutati.join(u", "_s) + u'.');
+        avverti(u"Valori che non si possono usare, e valgono quelli consueti: "_s + m_aspetto.rifiutati.join(u", "_s) +
+                u'.');
 }
 
 void LayoutTotem::avverti(const QString &frase) {

@@ -54,11 +54,21 @@ void VarieImpostaTotem::concludiProva(bool raggiungibile) {
     }
 }
 
-void VarieImpostaTotem::conTotem(std::function<void()> azione) {
+void VarieImpostaTotem::conTotem(const std::function<void()> &azione) {
+    const auto sorvegliata = [this, azione] {
+        try {
+            azione();
+        } catch (const EngineError &e) {
+            if (!percorsoMancante(e.numero()))
+                throw;
+            m_dopoLaProva = [e] { throw e; }; // told when the kiosk turns out to be there
+            attivata();
+        }
+    };
     if (m_inProva)
-        m_dopoLaProva = std::move(azione);
+        m_dopoLaProva = sorvegliata;
     else
-        azione();
+        sorvegliata();
 }
 
 void VarieImpostaTotem::ImpostaStampa() {
@@ -86,6 +96,7 @@ void VarieImpostaTotem::ImpostaStampa() {
     LL9->LlDefineVariableStart();
     DefinisciVariabiliTicket(ticket.variabili);
     LL9->LlDefineLayout(this, u"Impostazione Modulo"_s, progettoEtichetta, ticket.file);
+    attivata(); // the designer is no form of the program's, but the return from it is one
 }
 
 void VarieImpostaTotem::DefinisciVariabiliTicket(const QList<VariabileTicket> &variabili) {

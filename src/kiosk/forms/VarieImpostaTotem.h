@@ -24,8 +24,8 @@ protected:
 
 private:
     void concludiProva(bool raggiungibile);
-    // Now, or once the test under way has passed.
-    void conTotem(std::function<void()> azione);
+    // Now, or once the test under way has passed. A kiosk that went away since the test is tested again.
+    void conTotem(const std::function<void()> &azione);
     void ImpostaStampa();
     void DefinisciVariabiliTicket(const QList<VariabileTicket> &variabili);
     void apriNumerazione();
