@@ -22,7 +22,8 @@ protected:
     // An installation with a picture, a playlist and a row of the user, saved.
     void SetUp() override {
         sala = impianto(true);
-        scrivi(u"impianto/ZuvoraDecorazioni/Elementi/mia.png"_s, "immagine");
+        immagineMia = leggi(sala + u"/ZuvoraDecorazioni/Banner/banner_cassa.png"_s);
+        scrivi(u"impianto/ZuvoraDecorazioni/Elementi/mia.png"_s, immagineMia);
         scrivi(u"impianto/mia.zvi"_s, (sala + u"/Immagini/foto.jpg\r\n/altrove/foto.jpg\r\n"_s).toLatin1());
         sql(sala + u"/Zuvora.mdb"_s, u"UPDATE Layout7 SET PercorsoImmagine = '%1/ZuvoraDecorazioni/Elementi/mia.png' "
                                      "WHERE rowid = 40; UPDATE Configurazione SET Nominativo = 'L''ATRIO'"_s.arg(sala));
@@ -39,6 +40,7 @@ protected:
     }
 
     QString sala;
+    QByteArray immagineMia;
     QString copia = percorso(u"sala.zuvora"_s);
     QStringList detti;
 };
@@ -97,7 +99,7 @@ TEST_F(Copia, SopraSalvaPrimaQuellaCheCE) {
     const Esito esito = ripristina(sala, true);
     ASSERT_TRUE(esito.riuscito) << qPrintable(esito.messaggio);
     EXPECT_EQ(vale(sala, nominativo), u"L'ATRIO"_s);
-    EXPECT_EQ(leggi(sala + u"/ZuvoraDecorazioni/Elementi/mia.png"_s), "immagine");
+    EXPECT_EQ(leggi(sala + u"/ZuvoraDecorazioni/Elementi/mia.png"_s), immagineMia);
     EXPECT_EQ(verificaInstallazione(sala).difetti, QStringList());
 
     const QStringList prima = QDir(sala).entryList({u"prima-del-ripristino-*.zuvora"_s});
@@ -125,7 +127,7 @@ TEST_F(Copia, UnaCopiaGuastaEPrimaRifiutataENullaCambia) {
     ASSERT_TRUE(salva().riuscito);
     const QByteArray sana = leggi(copia);
     QList<QByteArray> guaste{sana.left(sana.size() / 2), sana.left(sana.size() - 1), {}, "non una copia"};
-    for (const qsizetype dove : {sana.size() / 3, sana.size() / 2, sana.size() - 40}) {
+    for (const qsizetype dove : {sana.size() / 3, sana.size() / 2, sana.size() - sana.size() / 8}) {
         QByteArray cambiata = sana;
         cambiata[dove] = static_cast<char>(cambiata[dove] ^ 1);
         guaste += cambiata;
