@@ -5,6 +5,7 @@
 #include <QHelpEvent>
 #include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
+#include <QTableView>
 #include <QToolTip>
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,9 +22,10 @@ class VoceAbbreviata : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    // No wider than the view makes it: lists would scroll sideways.
+    // No wider than the list makes it, which would scroll sideways. A column may be made as wide as its texts.
     QSize sizeHint(const QStyleOptionViewItem &opzione, const QModelIndex &indice) const override {
-        return {1, QStyledItemDelegate::sizeHint(opzione, indice).height()};
+        const QSize intera = QStyledItemDelegate::sizeHint(opzione, indice);
+        return qobject_cast<const QTableView *>(opzione.widget) != nullptr ? intera : QSize(1, intera.height());
     }
     bool helpEvent(QHelpEvent *e, QAbstractItemView *vista, const QStyleOptionViewItem &opzione,
                    const QModelIndex &indice) override {

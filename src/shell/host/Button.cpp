@@ -1,6 +1,7 @@
 #include "shell/host/Button.h"
 
 #include <QPainter>
+#include <QPointer>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <QTimer>
@@ -14,8 +15,40 @@ namespace {
 
 constexpr int margine = 3; // pixels on each side of the caption
 constexpr int latoDisegno = 14;
+constexpr int distanza = 2; // between a drawing and its caption
+
+constexpr int tutta = 100; // per cent: the regular width of a caption
 
 } // namespace
+
+// Measured when the first of the group is fitted, and once.
+class Button::Gruppo {
+public:
+    explicit Gruppo(const QList<Button *> &bottoni) : m_bottoni(bottoni.begin(), bottoni.end()) {}
+
+    // Per cent of the regular width that all captions take.
+    int larghezza() {
+        if (!m_larghezza)
+            m_larghezza = minima();
+        return *m_larghezza;
+    }
+
+private:
+    int minima() const {
+        int larghezza = tutta;
+        for (const Button *b : m_bottoni) {
+            if (b == nullptr)
+                continue;
+            const int sua = fontAdatto(b->text(), b->m_base, b->spazioDidascalia(), false).stretch();
+            if (sua > 0)
+                larghezza = std::min(larghezza, sua);
+        }
+        return larghezza;
+    }
+
+    const QList<QPointer<Button>> m_bottoni;
+    std::optional<int> m_larghezza;
+};
 
 Button::Button(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto)
     : Controllo(padre, nome, posto), m_base(font()) {
@@ -37,7 +70,7 @@ void Button::allineaASinistra() {
 void Button::setDisegno(Disegno disegno) {
     m_disegno = disegno;
     m_dipinto = {};
-    update();
+    adatta();
 }
 
 void Button::setFontTesto(const QFont &f) {
@@ -80,11 +113,19 @@ QSize Button::spazioDidascalia() const {
 }
 
 void Button::adatta() {
-    QFont adatto = fontAdatto(text(), m_base, spazioDidascalia(), false);
-    if (m_stretto < 100)
-        adatto.setStretch(m_stretto);
-    setFont(adatto);
-    const bool troppo = misuraDidascalia(text(), adatto).width() > spazioDidascalia().width();
+    if (!m_disposto)
+        return;
+    QFont adatto = m_base;
+    if (const int comune = m_gruppo ? m_gruppo->larghezza() : tutta; comune < tutta)
+        adatto.setStretch(comune);
+    else
+        adatto = fontAdatto(text(), m_base, spazioDidascalia(), false);
+    if (adatto != font())
+        setFont(adatto);
+    const int spazio = spazioDidascalia().width();
+    const int occupa = adatto != m_base || m_disegno ? misuraDidascalia(text(), adatto).width() : 0;
+    m_conDisegno = m_disegno && occupa + latoDisegno + distanza <= spazio;
+    const bool troppo = occupa > spazio;
     if (troppo || m_abbreviato)
         setToolTip(troppo ? QString(text()).remove(u'&').trimmed() : QString());
     m_abbreviato = troppo;
@@ -92,6 +133,7 @@ void Button::adatta() {
 
 void Button::resizeEvent(QResizeEvent *e) {
     Controllo::resizeEvent(e);
+    m_disposto = true;
     adatta();
 }
 
@@ -106,18 +148,16 @@ void Button::paintEvent(QPaintEvent *) {
         int opzioni = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine;
         if (!style()->styleHint(QStyle::SH_UnderlineShortcut, &opzione, this))
             opzioni |= Qt::TextHideMnemonic;
-        const int rientro = margine + dipingiDisegno(pittore);
+        if (m_conDisegno)
+            dipingiDisegno(pittore);
+        const int rientro = margine + (m_conDisegno ? latoDisegno + distanza : 0);
         pittore.drawItemText(rect().adjusted(rientro, 0, -margine, 0), opzioni, palette(), isEnabled(), testo,
                              QPalette::ButtonText);
     }
 }
 
-// Gives the room that the drawing takes. It is drawn once, after the form has come up: captions come first.
-int Button::dipingiDisegno(QPainter &pittore) {
-    constexpr int distanza = 2;
-    const int spazio = spazioDidascalia().width() - latoDisegno - distanza;
-    if (!m_disegno || misuraDidascalia(text(), font()).width() > spazio)
-        return 0;
+// It is drawn once, after the form has come up: captions come first.
+void Button::dipingiDisegno(QPainter &pittore) {
     if (m_dipinto.isNull() || m_dipinto.devicePixelRatio() != devicePixelRatioF())
         QTimer::singleShot(0, this, [this] {
             const auto modo = isEnabled() ? QIcon::Normal : QIcon::Disabled;
@@ -126,7 +166,6 @@ int Button::dipingiDisegno(QPainter &pittore) {
         });
     else
         pittore.drawPixmap(margine, (height() - latoDisegno) / 2, m_dipinto);
-    return latoDisegno + distanza;
 }
 
 void Button::changeEvent(QEvent *e) {
@@ -136,15 +175,9 @@ void Button::changeEvent(QEvent *e) {
 }
 
 void condensaInsieme(const QList<Button *> &gruppo) {
-    int stretto = 100;
+    const auto comune = std::make_shared<Button::Gruppo>(gruppo);
     for (Button *b : gruppo) {
-        b->m_stretto = 100;
-        const int suo = fontAdatto(b->text(), b->m_base, b->spazioDidascalia(), false).stretch();
-        if (suo > 0)
-            stretto = std::min(stretto, suo);
-    }
-    for (Button *b : gruppo) {
-        b->m_stretto = stretto;
+        b->m_gruppo = comune;
         b->adatta();
     }
 }

@@ -5,7 +5,7 @@
 
 #include <QPixmap>
 #include <QPushButton>
-#include <initializer_list>
+#include <memory>
 #include <optional>
 
 namespace zuvora {
@@ -41,21 +41,24 @@ protected:
     void changeEvent(QEvent *e) override;
 
 private:
+    class Gruppo;
     friend void condensaInsieme(const QList<Button *> &gruppo);
     void adatta();
-    int dipingiDisegno(QPainter &pittore);
+    void dipingiDisegno(QPainter &pittore);
 
     QFont m_base;
     QString m_suggerimento; // tool tip while the button is on
     QColor m_testo;
     QColor m_sfondo;
     Ruolo m_ruolo = Ruolo::Normale;
-    int m_stretto = 100; // per cent of the regular width that the captions of its group take
+    std::shared_ptr<Gruppo> m_gruppo; // whose captions are condensed alike
     std::optional<Disegno> m_disegno;
     QPixmap m_dipinto; // as it stood last, for the same screen and state
+    bool m_conDisegno = false;
     bool m_sinistra = false;
     bool m_segnato = false;
     bool m_abbreviato = false;
+    bool m_disposto = false; // the caption is fitted from the first showing on: measuring is what takes time
 };
 
 // Captions that stand together are condensed alike: all as the one that needs it most.
