@@ -4,6 +4,7 @@
 #include "installer/File.h"
 #include "installer/Guasto.h"
 #include "installer/Interruzione.h"
+#include "installer/Percorsi.h"
 
 #include <QDir>
 #include <QFile>
@@ -21,10 +22,6 @@ constexpr auto fileElenco = "/.elenco"_L1;
 
 QStringList voci(const QString &cartella) {
     return QDir(cartella).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System, QDir::Name);
-}
-
-bool eArchivio(const QString &voce) {
-    return voce.endsWith(".mdb"_L1, Qt::CaseInsensitive);
 }
 
 bool esiste(const QString &percorso) {

@@ -6,6 +6,7 @@
 #include "installer/Esempio.h"
 #include "installer/File.h"
 #include "installer/Guasto.h"
+#include "installer/Percorsi.h"
 #include "installer/Programma.h"
 
 #include "shell/logic/IndirizzoWeb.h"
@@ -18,10 +19,6 @@ namespace zuvora::installa {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-QString nativo(const QString &percorso) {
-    return QDir::toNativeSeparators(percorso);
-}
-
 void copiaProgramma(const QString &origine, const QString &destinazione) {
     const QDir da(origine);
     if (!QFileInfo(da.filePath(u"zuvora"_s)).isFile())

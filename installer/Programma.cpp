@@ -3,6 +3,7 @@
 #include "installer/Contenuto.h"
 #include "installer/File.h"
 #include "installer/Guasto.h"
+#include "installer/Percorsi.h"
 
 #include "pannello/logic/Versione.h"
 #include "shell/store/Database.h"
@@ -17,10 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr auto prefissoVersione = "Versione "_L1;
-
-QString nativo(const QString &percorso) {
-    return QDir::toNativeSeparators(percorso);
-}
 
 // Data of a later program must not be opened with this one.
 void rifiutaDatiPiuNuovi(const QString &cartella) {

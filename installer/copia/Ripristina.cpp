@@ -5,6 +5,7 @@
 #include "installer/File.h"
 #include "installer/Guasto.h"
 #include "installer/Interruzione.h"
+#include "installer/Percorsi.h"
 #include "installer/copia/Archivio.h"
 #include "installer/copia/Salva.h"
 #include "installer/copia/Svolta.h"
@@ -24,14 +25,6 @@ namespace zuvora::installa {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-QString nativo(const QString &percorso) {
-    return QDir::toNativeSeparators(percorso);
-}
-
-bool eArchivio(const QString &nome) {
-    return nome.endsWith(".mdb"_L1, Qt::CaseInsensitive);
-}
-
 bool ePlaylist(const QString &nome) {
     return nome.endsWith(".zvi"_L1, Qt::CaseInsensitive) || nome.endsWith(".zvv"_L1, Qt::CaseInsensitive);
 }

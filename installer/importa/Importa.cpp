@@ -4,6 +4,7 @@
 #include "installer/Cantiere.h"
 #include "installer/File.h"
 #include "installer/Guasto.h"
+#include "installer/Percorsi.h"
 #include "installer/importa/CartellaVecchia.h"
 #include "installer/importa/FonteAccess.h"
 #include "installer/importa/PercorsiVecchi.h"
@@ -20,10 +21,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 using Progresso = std::function<void(const QString &)>;
-
-QString nativo(const QString &percorso) {
-    return QDir::toNativeSeparators(percorso);
-}
 
 void travasa(const QString &vecchio, const QString &lettore, Travaso &travaso, const QString &cartella,
              const Progresso &progresso) {

@@ -65,7 +65,7 @@ constexpr Strato presa[] = {
      TestoTenue},
 };
 
-constexpr std::array figure{
+constexpr std::array segni{
     Figura{Disegno::Pulisci, 32, 32, pulisci},   Figura{Disegno::Cartella, 32, 32, cartella},
     Figura{Disegno::Unita, 32, 32, unita},       Figura{Disegno::FileImmagine, 32, 32, fileImmagine},
     Figura{Disegno::Domanda, 32, 32, domanda},   Figura{Disegno::Avviso, 32, 32, avviso},
@@ -76,7 +76,7 @@ constexpr std::array figure{
 } // namespace
 
 std::span<const Figura> figureSegni() {
-    return figure;
+    return segni;
 }
 
 } // namespace zuvora
