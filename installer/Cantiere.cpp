@@ -4,7 +4,6 @@
 #include "installer/File.h"
 #include "installer/Guasto.h"
 #include "installer/Interruzione.h"
-#include "installer/Percorsi.h"
 
 #include <QDir>
 #include <QFile>

@@ -6,7 +6,6 @@
 #include "installer/Esempio.h"
 #include "installer/File.h"
 #include "installer/Guasto.h"
-#include "installer/Percorsi.h"
 #include "installer/Programma.h"
 
 #include "shell/logic/IndirizzoWeb.h"

@@ -1,16 +1,9 @@
 #pragma once
 
-#include <QDir>
 #include <QString>
 
+// Paths as rows hold them.
 namespace zuvora::installa {
-
-inline QString nativo(const QString &percorso) { // as the user knows it
-    return QDir::toNativeSeparators(percorso);
-}
-inline bool eArchivio(const QString &nome) {
-    return nome.endsWith(QLatin1StringView(".mdb"), Qt::CaseInsensitive);
-}
 
 // A value of the start rows with its placeholder filled in, for an installation in `cartella` (absolute):
 // "{CARTELLA}/x" becomes the native path of x in it, "{RETE}/x" the form \\MACHINE\folder\x by which the other machines

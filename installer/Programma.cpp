@@ -3,7 +3,6 @@
 #include "installer/Contenuto.h"
 #include "installer/File.h"
 #include "installer/Guasto.h"
-#include "installer/Percorsi.h"
 
 #include "pannello/logic/Versione.h"
 #include "shell/store/Database.h"

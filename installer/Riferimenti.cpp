@@ -2,7 +2,7 @@
 
 #include "installer/ControlloFile.h"
 #include "installer/Csv.h"
-#include "installer/Percorsi.h"
+#include "installer/File.h"
 
 #include "shell/logic/Percorsi.h"
 #include "shell/store/NomiFile.h"

@@ -5,7 +5,6 @@
 #include "installer/File.h"
 #include "installer/Guasto.h"
 #include "installer/Interruzione.h"
-#include "installer/Percorsi.h"
 #include "installer/copia/Archivio.h"
 #include "installer/copia/Salva.h"
 #include "installer/copia/Svolta.h"

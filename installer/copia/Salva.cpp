@@ -3,7 +3,6 @@
 #include "installer/Contenuto.h"
 #include "installer/File.h"
 #include "installer/Guasto.h"
-#include "installer/Percorsi.h"
 #include "installer/copia/Archivio.h"
 #include "installer/copia/Raccolta.h"
 

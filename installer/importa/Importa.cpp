@@ -4,7 +4,6 @@
 #include "installer/Cantiere.h"
 #include "installer/File.h"
 #include "installer/Guasto.h"
-#include "installer/Percorsi.h"
 #include "installer/importa/CartellaVecchia.h"
 #include "installer/importa/FonteAccess.h"
 #include "installer/importa/PercorsiVecchi.h"
