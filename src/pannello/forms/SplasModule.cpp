@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <future>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -34,8 +35,9 @@ SplasModule::SplasModule(const Ambiente &contesto, std::vector<VoceMenu> voci, c
       }) {
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowCloseButtonHint);
+    std::future<StatoAvvio> lettura = std::async(std::launch::async, leggiStatoAvvio, cartella());
     disponi();
-    const StatoAvvio stato = leggiStatoAvvio(cartella());
+    const StatoAvvio stato = lettura.get();
     Label5.setCaption(stato.numero);
     Label6.setCaption(stato.data);
     m_risoluzione = stato.risoluzione;
@@ -56,6 +58,7 @@ void SplasModule::disponi() {
         auto &bottone = m_menu.emplace_back(std::make_unique<Button>(
             &GroupBox3, voce.nome, voce.didascalia, Posto{leftVoce, voce.top, larghezzaVoce, altezzaVoce}));
         bottone->allineaASinistra();
+        bottone->setDisegno(voce.disegno);
         alClic(*bottone, [this, &voce] { premi(voce); });
     }
     QList<Button *> menu{&IlMenu};
@@ -153,6 +156,7 @@ void SplasModule::salvaAvvioAutomatico() {
         cbAutoaccensioneFE.setChecked(!accesa); // the box goes on telling what is stored
         throw;
     }
+    cbAutoaccensioneFE.spunta();
 }
 
 void SplasModule::mostraNominativo(const QString &nominativo) {
