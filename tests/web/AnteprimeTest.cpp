@@ -50,7 +50,7 @@ TEST_F(Anteprime, P1ShowsItsPageUntilOk) {
     P1 form(ambiente, server.indirizzo(u"/"_s), QUrl(), nullptr);
     guida.quando("P1", [&](QWidget &w) {
         auto &wb1 = trova<Browser>(w, "wb1");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return titoloDi(wb1) == u"filmato"_s; }, Attesa_ms));
+        EXPECT_TRUE(aspetta([&] { return titoloDi(wb1) == u"filmato"_s; }, Attesa_ms));
         EXPECT_EQ(vistaDi(wb1)->size(), QSize(661, 424));
         EXPECT_TRUE(w.rect().contains(trova<QPushButton>(w, "ok").geometry()));
         fotografa(w);
@@ -71,7 +71,7 @@ TEST_F(Anteprime, TGStepsChangePageAndFrameTogether) {
         };
         EXPECT_EQ(misure(), (std::array{3000, 2000, 3240, 2480}));
         EXPECT_EQ(GB1.mapTo(&w, QPoint()), QPoint(8, 40));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return titoloDi(WB22) == u"tg"_s; }, Attesa_ms));
+        EXPECT_TRUE(aspetta([&] { return titoloDi(WB22) == u"tg"_s; }, Attesa_ms));
         EXPECT_EQ(testoDi(w, "A1") + u'x' + testoDi(w, "A2"), u"3000x2000"_s);
         for (const char *bottone : {"Allarga", "Allarga", "Alza", "Stringi", "Abbassa", "Abbassa"})
             clicca(w, bottone);
@@ -103,7 +103,7 @@ TEST_F(Anteprime, TGAcceptsWhatIsTypedButNoNonsense) {
     QStringList messaggi;
     apriTG({3000, 2000}, u"http://127.0.0.1/"_s, [&](QWidget &w) {
         auto &WB22 = trova<Browser>(w, "WB22");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return WB22.avviso().contains(u"non è disponibile"_s); }, Attesa_ms));
+        EXPECT_TRUE(aspetta([&] { return WB22.avviso().contains(u"non è disponibile"_s); }, Attesa_ms));
         scrivi(w, "A1", u" 6400,5 "_s);
         clicca(w, "Accetta");
         EXPECT_EQ(WB22.posto().width, 3000);

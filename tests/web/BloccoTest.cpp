@@ -52,7 +52,7 @@ TEST(BloccoWeb, AFrameShowsNoLocalFile) {
         "<script>setTimeout(() => document.title += ' fine', 200)</script>"};
     FinestraWeb finestra;
     EXPECT_TRUE(finestra.apri(server.indirizzo(u"/"_s)));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return titoloDi(finestra.browser).endsWith(u"fine"_s); }, Attesa_ms));
+    EXPECT_TRUE(aspetta([&] { return titoloDi(finestra.browser).endsWith(u"fine"_s); }, Attesa_ms));
     EXPECT_FALSE(titoloDi(finestra.browser).contains(u"file:"_s)) << titoloDi(finestra.browser).toStdString();
 }
 
@@ -68,8 +68,7 @@ TEST(BloccoWeb, ALinkToADeadServerIsToldAndALinkToAnotherWindowDoesNothing) {
     EXPECT_TRUE(finestra.attendiTitolo(u"resta"_s));
     EXPECT_FALSE(server.chieste.contains(u"/altra"_s));
     EXPECT_TRUE(finestra.apri(server.indirizzo(u"/morta"_s)));
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return finestra.browser.avviso().contains(QString::fromLatin1(morta)); }, Attesa_ms));
+    EXPECT_TRUE(aspetta([&] { return finestra.browser.avviso().contains(QString::fromLatin1(morta)); }, Attesa_ms));
 }
 
 TEST(BloccoWeb, NothingOutlivesAPage) {
