@@ -260,8 +260,9 @@ void percorsoMuto(benchmark::State &stato) {
     double fermo = 0;
     double ferma = 0;
     for (auto _ : stato) {
-        const Percorsi percorsi(std::make_shared<DiscoMuto>());
-        ImpostaFoto form(sala.ambiente(), nullptr, percorsi);
+        Ambiente ambiente = sala.ambiente();
+        ambiente.percorsi = Percorsi(std::make_shared<DiscoMuto>());
+        ImpostaFoto form(ambiente, nullptr);
         form.show();
         auto &List2 = *form.findChild<ListBox *>(u"List2"_s);
         if (List2.count() != 100)

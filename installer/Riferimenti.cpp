@@ -2,6 +2,7 @@
 
 #include "installer/ControlloFile.h"
 #include "installer/Csv.h"
+#include "installer/File.h"
 
 #include "shell/logic/Percorsi.h"
 #include "shell/store/NomiFile.h"
@@ -32,10 +33,6 @@ constexpr std::array riferimenti{
     Riferimento{"Servizi"_L1, "Percorsofoto"_L1, Atteso::Immagine},
     Riferimento{"DinDon"_L1, "DinDon"_L1},
 };
-
-QString nativo(const QString &percorso) {
-    return QDir::toNativeSeparators(percorso);
-}
 
 void controllaRiferimento(ControlloArchivio &zuvora, Database &db, const Riferimento &r) {
     if (!zuvora.ha(r.tabella, r.colonna))
@@ -76,8 +73,8 @@ void controllaCatalogo(ControlloArchivio &zuvora, Database &db, const QString &c
     QSet<QString> presenti;
     for (const QStringList &riga : db.leggiTesti(u"SELECT ID, File, Tipo FROM Decorazioni ORDER BY ID"_s)) {
         presenti += riga.at(0);
-        const QLatin1StringView categoria = cartellaDecorazioni(riga.at(2).toInt());
-        const QString file = u"%1/ZuvoraDecorazioni/%2/%3"_s.arg(cartella, categoria, riga.at(1));
+        const QStringView categoria = cartellaDecorazioni(riga.at(2).toInt());
+        const QString file = u"%1/%2/%3"_s.arg(cartella, categoria, riga.at(1));
         if (categoria.isEmpty())
             zuvora.segnala(u"tabella Decorazioni, ID %1: il Tipo non è una categoria"_s.arg(riga.at(0)));
         else if (const QString difetto = difettoDi(nativo(file), Atteso::Immagine); !difetto.isEmpty())

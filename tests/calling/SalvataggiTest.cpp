@@ -32,7 +32,7 @@ Finestra servizi(InstallazioneProva &i) {
 TEST(SalvataggiChiamata, UnOstacoloSiDiceENonSiPerdeNulla) {
     Data Data8;
     const auto servizio = [&](InstallazioneProva &i) -> Finestra {
-        Recordset &righe = apri(Data8, i.cartella(), SorgenteServizi.toString());
+        Recordset &righe = apri(Data8, i.cartella(), sorgenteServizi.toString());
         const auto salva = [&righe](const QString &nome, bool attivo) { scriviServizio(righe, nome, attivo); };
         return apriForm<GestioneUtenti>(i.ambiente, u"Prelievi"_s, true, salva, nullptr);
     };

@@ -24,7 +24,7 @@ TEST_F(ProvaPagine, TheTickerKeepsItsLines) {
     for (const QString &atteso : {u"uno\r\ndue\r\ntre"_s, QString()}) {
         clic(aperta, "salva6");
         EXPECT_EQ(riga(u"StringaScorrevole"_s).toString(), atteso);
-        EXPECT_TRUE(trova<Button>(aperta, "salva6").conSpunta());
+        EXPECT_TRUE(conSpunta(trova<Button>(aperta, "salva6")));
         testo.setText({});
     }
     i.esegui(u"UPDATE Configurazione SET StringaScorrevole=NULL"_s);

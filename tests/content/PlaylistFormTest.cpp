@@ -19,9 +19,7 @@ struct ProvaPlaylistForm : Stanza {
             QImage(40, 30, QImage::Format_RGB32).save(nome);
     }
     static QByteArray righe(const QStringList &voci) { return (voci.join(u"\r\n"_s) + u"\r\n"_s).toLatin1(); }
-    template <class F = ImpostaFoto> std::unique_ptr<F> apri(const Percorsi &percorsi = Percorsi()) {
-        return apriForm<F>(i.ambiente, nullptr, percorsi);
-    }
+    template <class F = ImpostaFoto> std::unique_ptr<F> apri() { return apriForm<F>(i.ambiente, nullptr); }
     QString box() { // the one that comes when all files are asked for
         std::vector<FintiDialoghi::Box> venuti;
         EXPECT_TRUE(aspetta([&] { return !(venuti = i.dialoghi.prendiBox()).empty(); }));
@@ -51,7 +49,7 @@ TEST_F(ProvaPlaylistForm, BuildsSavesAndFindsItAgain) {
     clic(*form, "command1");
     clic(*form, "Command10");
     clic(*form, "Command6");
-    EXPECT_TRUE(trova<Button>(*form, "Command6").conSpunta());
+    EXPECT_TRUE(conSpunta(trova<Button>(*form, "Command6")));
     EXPECT_EQ(leggi(sala), righe({a, b, a, b, c}));
     EXPECT_EQ(lista(*apri()).ListCount(), 5);
     clic(*form, "Command9");
@@ -132,7 +130,8 @@ TEST_F(ProvaPlaylistForm, ASilentDiskDoesNotStallTheWindow) {
     sistema->muta = u"/mnt/nas"_s;
     QElapsedTimer apertura;
     apertura.start();
-    const auto form = apri(Percorsi(sistema));
+    i.ambiente.percorsi = Percorsi(sistema);
+    const auto form = apri();
     EXPECT_EQ(lista(*form).ListCount(), 2);
     scegli(lista(*form), 0); // its preview is asked for, and never comes
     EXPECT_LT(apertura.elapsed(), 1500);

@@ -68,7 +68,7 @@ TEST(Salvataggi, WhatHindersOneIsToldAndNothingIsLost) {
     const auto stazione = [&](const std::optional<VoceRadio> &voce) {
         return [&Data4, voce](InstallazioneProva &i) -> Finestra {
             i.esegui(u"INSERT INTO radio (NomeRadio, PercorsoURL) VALUES ('A', 'http://a/')"_s);
-            apri(Data4, i.cartella(), ElencoRadio.toString());
+            apri(Data4, i.cartella(), elencoRadio.toString());
             auto form = apriForm<GestioneRadio>(i.ambiente, Data4, voce, nullptr);
             digita(*form, "text1(0)", u"Onda"_s);
             digita(*form, "text1(1)", u"http://o/"_s);
@@ -117,7 +117,7 @@ TEST(Aspetto, NothingIsCutOffAndEachFieldHasAName) {
     i.piattaforma.cartella = QStringLiteral(CARTELLA_COMPONENTI);
     i.esegui(u"UPDATE Configurazione SET meteo='https://meteo.example/', MeteoCode='058091'"_s);
     Data Data4;
-    apri(Data4, i.cartella(), ElencoRadio.toString());
+    apri(Data4, i.cartella(), elencoRadio.toString());
     const std::pair<const char *, Finestra> forme[] = {
         {"ImpostaFoto", foto(i)},
         {"ImpostaVideo", playlist<ImpostaVideo>(i)},

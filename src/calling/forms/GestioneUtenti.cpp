@@ -4,8 +4,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 
-GestioneUtenti::GestioneUtenti(const Ambiente &ambiente_, const QString &nome, bool attivo, Salva salva, QWidget *padre)
-    : Form(ambiente_, "GestioneUtenti", "Gestione Servizi", {7575, 3210}, padre), m_salva(std::move(salva)) {
+GestioneUtenti::GestioneUtenti(const Ambiente &contesto, const QString &nome, bool attivo, Salva salva, QWidget *padre)
+    : Form(contesto, "GestioneUtenti", "Gestione Servizi", {7575, 3210}, padre), m_salva(std::move(salva)) {
     CBT_1.setRuolo(Ruolo::Principale);
     text1_0.setSvuotaAppunti(ambiente().piattaforma, Edit::Svuota::AlFuoco);
     text1_0.setSelezionaAlFuoco();

@@ -15,7 +15,7 @@ QPoint cursoreDi(const QMouseEvent &e) {
 } // namespace
 
 GeometriaForm Form1::geometria() const {
-    return {mapToGlobal(QPoint()), frameGeometry(), TwipsPerPixel};
+    return {mapToGlobal(QPoint()), frameGeometry(), twipsPerPixel};
 }
 
 void Form1::mousePressEvent(QMouseEvent *e) {
@@ -163,7 +163,7 @@ void Form1::MostraManiglie(bool mostra) {
 
 void Form1::disponiManiglie() {
     const bool visibili = m_trascinamento.maniglieVisibili();
-    const auto posti = m_trascinamento.posti(TwipsPerPixel);
+    const auto posti = m_trascinamento.posti(twipsPerPixel);
     const CRect &r = m_trascinamento.RettangoloTrascinamento();
     const QSize presa(ampiezzaPresa(pixelVicino(r.Width())), ampiezzaPresa(pixelVicino(r.Height())));
     for (std::size_t i = 0; i < picHandle.size(); ++i) {
@@ -177,8 +177,16 @@ void Form1::disponiManiglie() {
 void Form1::mouseStriscia(Fase fase, const QMouseEvent &evento) {
     if (fase == Fase::Premuto && evento.button() == Qt::LeftButton)
         m_trascinamento.prendiStrumenti(SSPanel1.posto(), cursoreDi(evento));
-    else if (fase != Fase::Premuto)
+    else
+        mouseStrumenti(fase, evento);
+}
+
+// The middle button moves a canvas larger than its screen from the toolbox too.
+void Form1::mouseStrumenti(Fase fase, const QMouseEvent &evento) {
+    if (fase != Fase::Premuto)
         mouseElemento(postoTela, fase, evento);
+    else if (evento.button() == Qt::MiddleButton && fermo())
+        m_trascinamento.prendiFinestra(pos(), cursoreDi(evento));
 }
 
 // The platform moves the form as by a title bar; where it can't, the form follows the mouse by itself.

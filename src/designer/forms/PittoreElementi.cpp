@@ -4,15 +4,12 @@
 #include "shell/disegni/Disegni.h"
 #include "shell/disegni/Tavolozza.h"
 #include "shell/host/ColorPicker.h"
+#include "shell/host/Grassetto.h"
 #include "shell/host/Twips.h"
 
 #include <QPainter>
-#include <QRawFont>
 #include <QRegularExpression>
-#include <QTextLayout>
-#include <QtEndian>
 #include <algorithm>
-#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,7 +19,14 @@ namespace {
 constexpr double puntiMinimi = 1;
 constexpr double puntiMassimi = 2160;
 
-constexpr qsizetype testoMassimo = 4000; // characters of one element that are painted
+constexpr int testoMassimo = 4000; // characters of one element that are painted
+
+// The beginning of a text, with more of it than its place can show: letters outside cost as much as those inside.
+QString visibile(const QString &testo, const QRect &r, const QFontMetricsF &lettere) {
+    const double perRiga = r.width() / (lettere.height() / 10) + 1;
+    const double righe = r.height() / lettere.height() + 1;
+    return testo.left(static_cast<qsizetype>(std::min<double>(perRiga * righe, testoMassimo)));
+}
 
 Qt::Alignment allineamentoQt(Allineamento a) {
     switch (a) {
@@ -36,40 +40,6 @@ Qt::Alignment allineamentoQt(Allineamento a) {
     return Qt::AlignLeft;
 }
 
-// A face that is asked to be bold and isn't: the font system thickens its small letters only.
-bool grassettoApparente(const QFont &font) {
-    constexpr int posizionePeso = 4; // of the weight in the font's table OS/2
-    const QByteArray tabella = font.bold() ? QRawFont::fromFont(font).fontTable("OS/2") : QByteArray();
-    return tabella.size() >= posizionePeso + 2 &&
-           qFromBigEndian<quint16>(tabella.constData() + posizionePeso) < QFont::Bold;
-}
-
-// Text in letters that are thickened here, for one weight at every size. Lines stand as in any other text.
-void scriviIspessito(QPainter &p, const QRect &r, Qt::Alignment allineamento, bool aCapo, QString testo) {
-    constexpr double tratto = 1.0 / 24; // of the letter's height, as the font system does
-    const double spessore = p.font().pointSizeF() * puntiPerPollice / 72 * tratto;
-    testo.replace(u'\n', aCapo ? QChar(QChar::LineSeparator) : u' ');
-    QTextLayout righe(testo, p.font(), p.device());
-    QTextOption opzioni(allineamento);
-    opzioni.setWrapMode(aCapo ? QTextOption::WordWrap : QTextOption::NoWrap);
-    righe.setTextOption(opzioni);
-    QTextCharFormat formato;
-    formato.setForeground(p.pen().color());
-    formato.setTextOutline(QPen(p.pen().color(), spessore, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    righe.setFormats({{0, static_cast<int>(testo.size()), formato}});
-    const double interlinea = QFontMetricsF(p.font(), p.device()).leading();
-    double alto = -interlinea;
-    righe.beginLayout();
-    for (QTextLine riga = righe.createLine(); riga.isValid(); riga = righe.createLine()) {
-        riga.setLineWidth(r.width());
-        alto = std::ceil(alto + interlinea);
-        riga.setPosition({0, alto});
-        alto += riga.height();
-    }
-    righe.endLayout();
-    righe.draw(&p, r.topLeft() + QPointF(spessore / 2, -spessore / 2)); // it grows from its lower left
-}
-
 void etichetta(QPainter &p, const LayoutElement &e, const QRect &r, bool trasparente) {
     if (r.isEmpty())
         return;
@@ -81,15 +51,12 @@ void etichetta(QPainter &p, const LayoutElement &e, const QRect &r, bool traspar
     p.setClipRect(r, Qt::IntersectClip);
     p.setFont(fontTela(e.font));
     p.setPen(coloreDa(e.coloreTesto));
-    const QString testo = e.didascalia.left(testoMassimo);
+    const QString testo = visibile(e.didascalia, r, QFontMetricsF(p.font(), p.device()));
     const bool aCapo = e.tipo != TipoElemento::Text2; // the ticker runs in one line, the labels wrap in their place
     const Qt::Alignment allineamento = allineamentoQt(e.allineamento);
-    if (grassettoApparente(p.font()))
-        scriviIspessito(p, r, allineamento, aCapo, testo);
-    else
-        p.drawText(
-            r, int(allineamento | Qt::AlignTop) | (aCapo ? Qt::TextWordWrap : Qt::TextSingleLine) | Qt::TextExpandTabs,
-            testo);
+    scriviTesto(p, r,
+                int(allineamento | Qt::AlignTop) | (aCapo ? Qt::TextWordWrap : Qt::TextSingleLine) | Qt::TextExpandTabs,
+                testo);
     p.restore();
 }
 
@@ -139,6 +106,8 @@ QString nomeFile(const QString &percorso) {
     return percorso.mid(percorso.lastIndexOf(QRegularExpression(u"[/\\\\]"_s)) + 1).left(nomeMassimo);
 }
 
+} // namespace
+
 std::optional<Segnaposto> segnapostoDi(TipoElemento tipo) {
     switch (tipo) {
     case TipoElemento::IM1:
@@ -158,8 +127,6 @@ std::optional<Segnaposto> segnapostoDi(TipoElemento tipo) {
     }
 }
 
-} // namespace
-
 QRect rettangoloTela(const Area &a) {
     const int x = pixelVicino(a.left);
     const int y = pixelVicino(a.top);
@@ -168,6 +135,16 @@ QRect rettangoloTela(const Area &a) {
 
 QSize pixelDispositivo(QSize misura, qreal scala) {
     return {qRound(misura.width() * scala), qRound(misura.height() * scala)};
+}
+
+// Points of a font become pixels by the device's resolution.
+QImage foglioTela(QSize misura, qreal scala, QImage::Format formato) {
+    constexpr double puntiPerMetro = puntiPerPollice / 0.0254;
+    QImage vuoto((QSizeF(misura) * scala).toSize(), formato);
+    vuoto.setDevicePixelRatio(scala);
+    vuoto.setDotsPerMeterX(qRound(puntiPerMetro));
+    vuoto.setDotsPerMeterY(qRound(puntiPerMetro));
+    return vuoto;
 }
 
 // The pen stands astride its line: half a pixel inside, it covers the edge at every scale.
@@ -209,8 +186,8 @@ void PittoreElementi::elemento(QPainter &p, int posto) const {
     case TipoElemento::Text9:
         return etichetta(p, e, r, e.trasparente);
     default:
-        if (const auto segnaposto = segnapostoDi(e.tipo))
-            dipingiSegnaposto(p, *segnaposto, r);
+        if (const auto quale = segnapostoDi(e.tipo))
+            segnaposto(p, *quale, r);
     }
 }
 
@@ -235,16 +212,24 @@ void PittoreElementi::decorazione(QPainter &p, const LayoutElement &e, const QRe
         sagoma(p, r, Disegno::FileImmagine, nomeFile(percorso));
 }
 
+// At a fractional scale a place needn't begin on a whole pixel of the device: no copy fits there.
+void PittoreElementi::segnaposto(QPainter &p, Segnaposto quale, const QRect &r) const {
+    const qreal scala = p.device()->devicePixelRatioF();
+    if (siCopia(r.size(), scala) && scala == std::floor(scala))
+        p.drawImage(r.topLeft(), m_immagini.segnaposto(quale, r.size(), scala));
+    else
+        dipingiSegnaposto(p, quale, r);
+}
+
 bool PittoreElementi::stendi(QPainter &p, const QString &percorso, const QRect &r) const {
     const qreal scala = p.device()->devicePixelRatioF();
-    const QSize pixel = pixelDispositivo(r.size(), scala);
-    if (qint64(pixel.width()) * pixel.height() > copiaMassima) {
+    if (!siCopia(r.size(), scala)) {
         const QImage immagine = m_immagini.intera(percorso);
         p.setRenderHint(QPainter::SmoothPixmapTransform);
         p.drawImage(r, immagine);
         return !immagine.isNull();
     }
-    const QImage immagine = m_immagini.stirata(percorso, pixel);
+    const QImage immagine = m_immagini.stirata(percorso, pixelDispositivo(r.size(), scala));
     p.drawImage(r, immagine);
     return !immagine.isNull();
 }

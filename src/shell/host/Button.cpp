@@ -1,37 +1,59 @@
 #include "shell/host/Button.h"
 
-#include "shell/disegni/Tavolozza.h"
-
-#include <QAccessible>
 #include <QPainter>
-#include <QPainterPath>
+#include <QPointer>
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <QTimer>
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace zuvora {
 namespace {
 
 constexpr int margine = 3; // pixels on each side of the caption
-constexpr auto durataSpunta = 2s;
-constexpr int diametroSpunta = 11; // pixels
+constexpr int latoDisegno = 14;
+constexpr int distanza = 2; // between a drawing and its caption
+
+constexpr int tutta = 100; // per cent: the regular width of a caption
 
 } // namespace
+
+// Measured when the first of the group is fitted, and once.
+class Button::Gruppo {
+public:
+    explicit Gruppo(const QList<Button *> &bottoni) : m_bottoni(bottoni.begin(), bottoni.end()) {}
+
+    // Per cent of the regular width that all captions take.
+    int larghezza() {
+        if (!m_larghezza)
+            m_larghezza = minima();
+        return *m_larghezza;
+    }
+
+private:
+    int minima() const {
+        int larghezza = tutta;
+        for (const Button *b : m_bottoni) {
+            if (b == nullptr)
+                continue;
+            const int sua = fontAdatto(b->text(), b->m_base, b->spazioDidascalia(), false).stretch();
+            if (sua > 0)
+                larghezza = std::min(larghezza, sua);
+        }
+        return larghezza;
+    }
+
+    const QList<QPointer<Button>> m_bottoni;
+    std::optional<int> m_larghezza;
+};
 
 Button::Button(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto)
     : Controllo(padre, nome, posto), m_base(font()) {
     // The form decides what Enter does; no button takes it as the dialog's default one.
     setAutoDefault(false);
-    m_spunta.setSingleShot(true);
-    connect(&m_spunta, &QTimer::timeout, this, [this] {
-        descrivi(m_descrizione);
-        update();
-    });
     setCaption(QString::fromUtf8(didascalia));
 }
 
@@ -43,6 +65,12 @@ void Button::setCaption(const QString &testo) {
 void Button::allineaASinistra() {
     m_sinistra = true;
     update();
+}
+
+void Button::setDisegno(Disegno disegno) {
+    m_disegno = disegno;
+    m_dipinto = {};
+    adatta();
 }
 
 void Button::setFontTesto(const QFont &f) {
@@ -76,22 +104,7 @@ void Button::abilita(bool acceso, const QString &motivo) {
         m_suggerimento = toolTip();
     setEnabled(acceso);
     setToolTip(acceso ? m_suggerimento : motivo);
-    if (!conSpunta())
-        setAccessibleDescription(acceso ? QString() : motivo);
-}
-
-void Button::spunta() {
-    if (!conSpunta())
-        m_descrizione = accessibleDescription();
-    m_spunta.start(durataSpunta);
-    descrivi(u"Salvato"_s);
-    update();
-}
-
-void Button::descrivi(const QString &testo) {
-    setAccessibleDescription(testo);
-    QAccessibleEvent evento(this, QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&evento);
+    setAccessibleDescription(acceso ? QString() : motivo);
 }
 
 QSize Button::spazioDidascalia() const {
@@ -100,11 +113,19 @@ QSize Button::spazioDidascalia() const {
 }
 
 void Button::adatta() {
-    QFont adatto = fontAdatto(text(), m_base, spazioDidascalia(), false);
-    if (m_stretto < 100)
-        adatto.setStretch(m_stretto);
-    setFont(adatto);
-    const bool troppo = misuraDidascalia(text(), adatto).width() > spazioDidascalia().width();
+    if (!m_disposto)
+        return;
+    QFont adatto = m_base;
+    if (const int comune = m_gruppo ? m_gruppo->larghezza() : tutta; comune < tutta)
+        adatto.setStretch(comune);
+    else
+        adatto = fontAdatto(text(), m_base, spazioDidascalia(), false);
+    if (adatto != font())
+        setFont(adatto);
+    const int spazio = spazioDidascalia().width();
+    const int occupa = adatto != m_base || m_disegno ? misuraDidascalia(text(), adatto).width() : 0;
+    m_conDisegno = m_disegno && occupa + latoDisegno + distanza <= spazio;
+    const bool troppo = occupa > spazio;
     if (troppo || m_abbreviato)
         setToolTip(troppo ? QString(text()).remove(u'&').trimmed() : QString());
     m_abbreviato = troppo;
@@ -112,6 +133,7 @@ void Button::adatta() {
 
 void Button::resizeEvent(QResizeEvent *e) {
     Controllo::resizeEvent(e);
+    m_disposto = true;
     adatta();
 }
 
@@ -126,38 +148,36 @@ void Button::paintEvent(QPaintEvent *) {
         int opzioni = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine;
         if (!style()->styleHint(QStyle::SH_UnderlineShortcut, &opzione, this))
             opzioni |= Qt::TextHideMnemonic;
-        pittore.drawItemText(rect().adjusted(margine, 0, -margine, 0), opzioni, palette(), isEnabled(), testo,
+        if (m_conDisegno)
+            dipingiDisegno(pittore);
+        const int rientro = margine + (m_conDisegno ? latoDisegno + distanza : 0);
+        pittore.drawItemText(rect().adjusted(rientro, 0, -margine, 0), opzioni, palette(), isEnabled(), testo,
                              QPalette::ButtonText);
     }
-    if (conSpunta())
-        dipingiSpunta(pittore);
 }
 
-// In the corner, where few captions reach.
-void Button::dipingiSpunta(QPainter &pittore) const {
-    const QRectF disco(width() - diametroSpunta - 2, 2, diametroSpunta, diametroSpunta);
-    pittore.setRenderHint(QPainter::Antialiasing);
-    pittore.setPen(QPen(tavolozza::bianco, 1));
-    pittore.setBrush(tavolozza::riuscita);
-    pittore.drawEllipse(disco);
-    QPainterPath segno(disco.topLeft() + QPointF(2.7, 5.8));
-    segno.lineTo(disco.topLeft() + QPointF(4.8, 7.8));
-    segno.lineTo(disco.topLeft() + QPointF(8.4, 3.4));
-    pittore.setBrush(Qt::NoBrush);
-    pittore.setPen(QPen(tavolozza::bianco, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    pittore.drawPath(segno);
+// It is drawn once, after the form has come up: captions come first.
+void Button::dipingiDisegno(QPainter &pittore) {
+    if (m_dipinto.isNull() || m_dipinto.devicePixelRatio() != devicePixelRatioF())
+        QTimer::singleShot(0, this, [this] {
+            const auto modo = isEnabled() ? QIcon::Normal : QIcon::Disabled;
+            m_dipinto = icona(*m_disegno).pixmap(QSize(latoDisegno, latoDisegno), devicePixelRatioF(), modo);
+            update();
+        });
+    else
+        pittore.drawPixmap(margine, (height() - latoDisegno) / 2, m_dipinto);
+}
+
+void Button::changeEvent(QEvent *e) {
+    Controllo::changeEvent(e);
+    if (e->type() == QEvent::EnabledChange)
+        m_dipinto = {};
 }
 
 void condensaInsieme(const QList<Button *> &gruppo) {
-    int stretto = 100;
+    const auto comune = std::make_shared<Button::Gruppo>(gruppo);
     for (Button *b : gruppo) {
-        b->m_stretto = 100;
-        const int suo = fontAdatto(b->text(), b->m_base, b->spazioDidascalia(), false).stretch();
-        if (suo > 0)
-            stretto = std::min(stretto, suo);
-    }
-    for (Button *b : gruppo) {
-        b->m_stretto = stretto;
+        b->m_gruppo = comune;
         b->adatta();
     }
 }

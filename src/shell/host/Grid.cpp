@@ -1,5 +1,6 @@
 #include "shell/host/Grid.h"
 
+#include "shell/host/Abbreviate.h"
 #include "shell/store/Data.h"
 #include "shell/store/EngineError.h"
 
@@ -38,16 +39,13 @@ public:
         }
         endResetModel();
     }
-    void cambiata(int riga) { Q_EMIT dataChanged(index(riga, 0), index(riga, columnCount() - 1)); }
 
     int rowCount(const QModelIndex &padre = {}) const override { return padre.isValid() ? 0 : m_righe; }
     int columnCount(const QModelIndex &padre = {}) const override {
         return padre.isValid() ? 0 : static_cast<int>(m_colonne.size());
     }
     QVariant data(const QModelIndex &indice, int ruolo) const override {
-        if (ruolo != Qt::DisplayRole && ruolo != Qt::ToolTipRole)
-            return {};
-        return testo(indice.row(), indice.column());
+        return ruolo == Qt::DisplayRole ? testo(indice.row(), indice.column()) : QVariant();
     }
     QVariant headerData(int sezione, Qt::Orientation verso, int ruolo) const override {
         if (verso != Qt::Horizontal || ruolo != Qt::DisplayRole)
@@ -83,6 +81,7 @@ Grid::Grid(QWidget *padre, const char *nome, const Posto &posto, std::vector<Col
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
     setWordWrap(false);
+    abbreviaVoci(*this);
     setAlternatingRowColors(true);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 7);
@@ -133,11 +132,6 @@ void Grid::seleziona(int riga) {
 
 QString Grid::testo(int riga, int colonna) const {
     return m_modello->testo(riga, colonna);
-}
-
-void Grid::ridisegna() {
-    if (Row() >= 0)
-        m_modello->cambiata(Row());
 }
 
 // Where nobody waits for it, Enter goes on to the form and its main action.

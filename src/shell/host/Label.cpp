@@ -1,5 +1,6 @@
 #include "shell/host/Label.h"
 
+#include "shell/host/Grassetto.h"
 #include "shell/host/StileCasa.h"
 
 #include <QKeyEvent>
@@ -64,8 +65,11 @@ void Label::adatta() {
         setPosto({posto().left, posto().top, twipsDa(serve.width()), twipsDa(serve.height())});
         return;
     }
+    if (!m_disposto)
+        return;
     const QFont adatto = fontAdatto(m_caption, m_base, spazioDidascalia(), wordWrap());
-    setFont(adatto);
+    if (adatto != font())
+        setFont(adatto);
     if (!m_abbrevia)
         return;
     const QString corto = abbreviata(m_caption, adatto, spazioDidascalia().width());
@@ -73,8 +77,22 @@ void Label::adatta() {
     setToolTip(corto == m_caption ? QString() : m_caption);
 }
 
+// Letters larger than the font system thickens, as the kiosk's title has them.
+void Label::paintEvent(QPaintEvent *e) {
+    constexpr int maggiore = 64; // device pixels
+    if (!font().bold() || fontInfo().pixelSize() * devicePixelRatioF() <= maggiore) {
+        Controllo::paintEvent(e);
+        return;
+    }
+    QPainter pittore(this);
+    pittore.setPen(palette().color(foregroundRole()));
+    scriviTesto(pittore, contentsRect(), int(alignment()) | (wordWrap() ? Qt::TextWordWrap : Qt::TextSingleLine),
+                text());
+}
+
 void Label::resizeEvent(QResizeEvent *e) {
     Controllo::resizeEvent(e);
+    m_disposto = true;
     if (!m_autosize)
         adatta();
 }

@@ -27,6 +27,7 @@ public:
     bool vaACapo() const override { return wordWrap(); }
 
 protected:
+    void paintEvent(QPaintEvent *e) override;
     void resizeEvent(QResizeEvent *e) override;
 
 private:
@@ -35,6 +36,7 @@ private:
     QFont m_base;
     bool m_autosize = false;
     bool m_abbrevia = false;
+    bool m_disposto = false; // the caption is fitted from the first showing on, as a button's is
 };
 
 // A label that is clicked like a link.

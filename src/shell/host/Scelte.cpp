@@ -1,6 +1,7 @@
 #include "shell/host/Scelte.h"
 
 #include "shell/disegni/Tavolozza.h"
+#include "shell/host/Abbreviate.h"
 
 #include <QPainter>
 #include <QStyleOptionButton>
@@ -20,8 +21,10 @@ QSize spazioAccantoAlSegno(const QAbstractButton *b, QStyle::SubElement testo) {
     return {b->width() - r.left(), b->height()};
 }
 
-template <class B> void adattaAccantoAlSegno(B *b) {
-    b->setFont(fontAdatto(b->text(), b->font(), b->spazioDidascalia(), false));
+template <class B> void adattaAccantoAlSegno(B *b, const QFont &base) {
+    const QFont adatto = fontAdatto(b->text(), base, b->spazioDidascalia(), false);
+    if (adatto != b->font())
+        b->setFont(adatto);
 }
 
 void fermaIlTab(QWidget &w, bool ferma) {
@@ -32,8 +35,11 @@ void fermaIlTab(QWidget &w, bool ferma) {
 } // namespace
 
 RadioButton::RadioButton(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto)
-    : Controllo(padre, nome, posto, QString::fromUtf8(didascalia)) {
-    adattaAccantoAlSegno(this);
+    : Controllo(padre, nome, posto, QString::fromUtf8(didascalia)), m_base(font()) {}
+
+void RadioButton::resizeEvent(QResizeEvent *e) {
+    Controllo::resizeEvent(e);
+    adattaAccantoAlSegno(this, m_base);
 }
 
 QSize RadioButton::spazioDidascalia() const {
@@ -73,8 +79,11 @@ void GruppoRadio::fermataDelTab() {
 }
 
 CheckBox::CheckBox(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto)
-    : Controllo(padre, nome, posto, QString::fromUtf8(didascalia)) {
-    adattaAccantoAlSegno(this);
+    : Controllo(padre, nome, posto, QString::fromUtf8(didascalia)), m_base(font()) {}
+
+void CheckBox::resizeEvent(QResizeEvent *e) {
+    Controllo::resizeEvent(e);
+    adattaAccantoAlSegno(this, m_base);
 }
 
 QSize CheckBox::spazioDidascalia() const {
@@ -83,6 +92,7 @@ QSize CheckBox::spazioDidascalia() const {
 
 ComboBox::ComboBox(QWidget *padre, const char *nome, const Posto &posto) : Controllo(padre, nome, posto) {
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    abbreviaScelta(*this);
     connect(this, &QComboBox::activated, this, &ComboBox::cambiato);
 }
 
@@ -106,7 +116,7 @@ void GroupBox::paintEvent(QPaintEvent *) {
     const QFontMetrics metrica(font());
     const int sopra = conTitolo ? metrica.height() / 2 : 0;
     pittore.setRenderHint(QPainter::Antialiasing);
-    pittore.setPen(tavolozza::bordo);
+    pittore.setPen(tavolozza::bordoControllo);
     pittore.setBrush(Qt::NoBrush);
     pittore.drawRoundedRect(QRectF(rect()).adjusted(0.5, sopra + 0.5, -0.5, -0.5), 3, 3);
     if (!conTitolo)

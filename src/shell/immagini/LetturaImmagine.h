@@ -30,8 +30,8 @@ ImmagineLetta leggi(const QString &percorso, const QSize &massimo, Riduzione rid
                     Avanzamento *avanzamento = nullptr);
 QImage leggiImmagine(const QString &percorso, const QSize &massimo, Riduzione riduzione = Riduzione::Proporzioni);
 
-// The picture's top left corner at the picture's own size, at most `misura` (pixels) of it. Null when it can't be read.
-QImage leggiRitaglio(const QString &percorso, const QSize &misura);
+// The picture's top left corner at the picture's own size, at most `misura` (pixels) of it.
+ImmagineLetta leggiRitaglio(const QString &percorso, const QSize &misura);
 
 // Size in pixels as the file's header tells it. Empty when the file is missing, is no picture, or doesn't say.
 QSize misuraImmagine(const QString &percorso);
@@ -39,8 +39,5 @@ QSize misuraImmagine(const QString &percorso);
 // Why the file can't be used as a picture, an Italian sentence, as far as that is told without decoding it: missing, no
 // picture, cut off, too large. Empty when nothing speaks against it.
 QString difettoImmagine(const QString &percorso);
-inline bool pareImmagine(const QString &percorso) {
-    return difettoImmagine(percorso).isEmpty();
-}
 
 } // namespace zuvora
