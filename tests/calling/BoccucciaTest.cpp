@@ -65,7 +65,7 @@ TEST_F(ProvaBoccuccia, LaVariabileVaAlCursoreOAlPostoDellaSelezione) {
 TEST_F(ProvaBoccuccia, UnaFraseNonSalvabileResta) {
     apri();
     const QByteArray prima = letto();
-    for (const QString &testo : {u"dice \"ciao\""_s, u"sole ☀"_s}) {
+    for (const QString &testo : {u"dice \"ciao\""_s, u"sole ☀"_s, u"emoji 😀"_s}) {
         frase().setPlainText(testo);
         EXPECT_TRUE(salva().startsWith(u"Frase non salvata !\n"_s));
         EXPECT_EQ(frase().toPlainText(), testo);

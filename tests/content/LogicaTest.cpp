@@ -18,10 +18,6 @@
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 
-inline void PrintTo(const QString &s, std::ostream *os) {
-    *os << '"' << s.toStdString() << '"';
-}
-
 namespace zuvora {
 namespace {
 
