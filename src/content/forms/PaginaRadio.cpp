@@ -34,7 +34,10 @@ void PaginaRadio::gestisci(const std::optional<VoceRadio> &daModificare) {
         riempi();
     GestioneRadio form(ambiente(), Data4, daModificare, this);
     form.mostraModale();
-    for (int riga = 0; form.salvata() && riga < GridRadio.Rows(); ++riga)
+    if (!form.salvata())
+        return;
+    Data4.Refresh();
+    for (int riga = 0; riga < GridRadio.Rows(); ++riga)
         if (GridRadio.testo(riga, 0) == *form.salvata()) {
             GridRadio.seleziona(riga);
             break;
