@@ -45,33 +45,6 @@ TEST(BloccoWeb, APageGetsNothingFromTheMachine) {
     EXPECT_FALSE(server.chieste.contains(u"/altra"_s));
 }
 
-TEST(BloccoWeb, AFrameShowsNoLocalFile) {
-    ServerProva server;
-    server.pagine[u"/"_s] = {
-        "<iframe src='file:///etc/hostname' onload='document.title = frames[0].location.href'></iframe>"
-        "<script>setTimeout(() => document.title += ' fine', 200)</script>"};
-    FinestraWeb finestra;
-    EXPECT_TRUE(finestra.apri(server.indirizzo(u"/"_s)));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return titoloDi(finestra.browser).endsWith(u"fine"_s); }, Attesa_ms));
-    EXPECT_FALSE(titoloDi(finestra.browser).contains(u"file:"_s)) << titoloDi(finestra.browser).toStdString();
-}
-
-TEST(BloccoWeb, ALinkToADeadServerIsToldAndALinkToAnotherWindowDoesNothing) {
-    ServerProva server;
-    const QByteArray morta = "http://127.0.0.1:" + QByteArray::number(portaChiusa()) + "/";
-    server.pagine[u"/finestra"_s] = {"<a id=a target=_blank href='/altra'>x</a><script>a.click(); setTimeout(() => "
-                                     "document.title = 'resta', 100)</script>"};
-    server.pagine[u"/morta"_s] = {"<script>onload = () => setTimeout(() => location.href = '" + morta +
-                                  "', 50)</script>"};
-    FinestraWeb finestra;
-    EXPECT_TRUE(finestra.apri(server.indirizzo(u"/finestra"_s)));
-    EXPECT_TRUE(finestra.attendiTitolo(u"resta"_s));
-    EXPECT_FALSE(server.chieste.contains(u"/altra"_s));
-    EXPECT_TRUE(finestra.apri(server.indirizzo(u"/morta"_s)));
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return finestra.browser.avviso().contains(QString::fromLatin1(morta)); }, Attesa_ms));
-}
-
 TEST(BloccoWeb, NothingOutlivesAPage) {
     ServerProva server;
     server.pagine[u"/"_s] = {"<script>document.title = (localStorage.x || 'nuova') + ' ' + window.indexedDB;"
@@ -104,16 +77,6 @@ TEST(BloccoWeb, APageThatSendsAFileCanBeLeftAtAnyMoment) {
         EXPECT_TRUE(finestra.apri(server.indirizzo(u"/"_s)));
         EXPECT_TRUE(finestra.attendiTitolo(QString::fromLatin1(titolo)));
     }
-}
-
-TEST(BloccoWeb, TheMouseOpensNothing) {
-    ServerProva server;
-    server.pagine[u"/"_s] = {"<title>notizie</title>"};
-    FinestraWeb finestra;
-    ASSERT_TRUE(finestra.apri(server.indirizzo(u"/"_s)));
-    QWidget *vista = vistaDi(finestra.browser);
-    EXPECT_EQ(vista->contextMenuPolicy(), Qt::NoContextMenu);
-    EXPECT_FALSE(vista->acceptDrops());
 }
 
 } // namespace
