@@ -73,6 +73,7 @@ void Guida::batti() {
         if (form == nullptr)
             return;
         try {
+            EXPECT_EQ(didascalieTagliate(*form) + campiSenzaNome(*form), QStringList()) << passo.form.toStdString();
             passo.azione(*form);
         } catch (const std::exception &e) {
             ADD_FAILURE() << passo.form.toStdString() << ": " << e.what();
