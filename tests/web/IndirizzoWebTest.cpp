@@ -23,27 +23,12 @@ TEST(IndirizzoWeb, TakesWebAddressesWithAndWithoutScheme) {
 }
 
 TEST(IndirizzoWeb, RefusesAllElse) {
-    for (const char *testo : {"",
-                              " \t",
-                              "file:///etc/passwd",
-                              "/etc/passwd",
-                              "./a.html",
-                              "\\\\server\\file",
-                              "C:\\tg.html",
-                              "C:/tg.html",
-                              "javascript:alert(1)",
-                              "data:text/html,x",
-                              "about:blank",
-                              "ftp://a.example/",
-                              "mailto:a@b.example",
-                              "http://",
-                              "http:///x",
-                              "https:a",
-                              "due parole",
-                              "http://a.example/\nb",
-                              "http://a.example:99999/",
-                              "http://[::1"})
-        EXPECT_FALSE(indirizzoWeb(QString::fromLatin1(testo))) << testo;
+    const QString rifiutati = u"| \t|file:///etc/passwd|/etc/passwd|./a.html|\\\\server\\file|C:\\tg.html|C:/tg.html|"
+                              "javascript:alert(1)|data:text/html,x|about:blank|ftp://a.example/|mailto:a@b.example|"
+                              "http://|http:///x|https:a|due parole|http://a.example/\nb|http://a.example:99999/|"
+                              "http://[::1"_s;
+    for (const QString &testo : rifiutati.split(u'|'))
+        EXPECT_FALSE(indirizzoWeb(testo)) << testo.toStdString();
 }
 
 } // namespace
