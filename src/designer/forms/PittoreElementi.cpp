@@ -22,7 +22,14 @@ namespace {
 constexpr double puntiMinimi = 1;
 constexpr double puntiMassimi = 2160;
 
-constexpr qsizetype testoMassimo = 4000; // characters of one element that are painted
+constexpr int testoMassimo = 4000; // characters of one element that are painted
+
+// The beginning of a text, with more of it than its place can show: letters outside cost as much as those inside.
+QString visibile(const QString &testo, const QRect &r, const QFontMetricsF &lettere) {
+    const double perRiga = r.width() / (lettere.height() / 10) + 1;
+    const double righe = r.height() / lettere.height() + 1;
+    return testo.left(static_cast<qsizetype>(std::min<double>(perRiga * righe, testoMassimo)));
+}
 
 Qt::Alignment allineamentoQt(Allineamento a) {
     switch (a) {
@@ -81,7 +88,7 @@ void etichetta(QPainter &p, const LayoutElement &e, const QRect &r, bool traspar
     p.setClipRect(r, Qt::IntersectClip);
     p.setFont(fontTela(e.font));
     p.setPen(coloreDa(e.coloreTesto));
-    const QString testo = e.didascalia.left(testoMassimo);
+    const QString testo = visibile(e.didascalia, r, QFontMetricsF(p.font(), p.device()));
     const bool aCapo = e.tipo != TipoElemento::Text2; // the ticker runs in one line, the labels wrap in their place
     const Qt::Alignment allineamento = allineamentoQt(e.allineamento);
     if (grassettoApparente(p.font()))

@@ -41,9 +41,9 @@ void scrivi(Label &etichetta, const QString &testo, const StileTotem &stile) {
 
 } // namespace
 
-LayoutTotem::LayoutTotem(const Ambiente &ambiente_, const RichiestaAnteprima &richiesta, QWidget *padre,
+LayoutTotem::LayoutTotem(const Ambiente &contesto, const RichiestaAnteprima &richiesta, QWidget *padre,
                          Percorsi percorsi)
-    : Form(ambiente_, "LayoutTotem", "Impostazione Layout Totem", richiesta.finestra, padre), m_richiesta(richiesta),
+    : Form(contesto, "LayoutTotem", "Impostazione Layout Totem", richiesta.finestra, padre), m_richiesta(richiesta),
       m_aspetto(leggiAspetto(cartella())), m_percorsi(std::move(percorsi)),
       Bottone("Bottone", 1, serviziMassimi, [this](int i, const char *nome) {
           return std::make_unique<BottoneTotem>(this, nome, u"Pulsante %1"_s.arg(i), fuoriVista);
