@@ -38,6 +38,7 @@ TEST_F(Pagine, LaRisoluzioneSceltaSiScriveEArrivaAlPannello) {
 }
 
 TEST_F(Pagine, LaPosizioneDiceSeIlSecondoMonitorManca) {
+    pannello.show();
     QWidget &pagina = apriPagina("Position", "BoxImpostazioni(4)");
     EXPECT_TRUE(testo(pagina, "Avviso").startsWith(u"Il secondo monitor non è collegato"_s));
     EXPECT_EQ(didascalieTagliate(pannello), QStringList());
@@ -66,6 +67,7 @@ TEST_F(Pagine, RisoluzioneNonSalvataTornaQuellaDiPrimaAncheNessuna) {
 }
 
 TEST_F(Pagine, INumeriDegliSchermiApronoIlSito) {
+    pannello.show();
     QWidget &pagina = apriPagina("Position", "BoxImpostazioni(4)");
     for (const char *numero : {"Label1(3)", "Label1(4)"})
         QTest::mouseClick(&trova<QWidget>(pagina, numero), Qt::LeftButton);
@@ -106,6 +108,7 @@ TEST_F(Pagine, MonitorDellaMacchina) {
 }
 
 TEST_F(Pagine, SchermoDelDesigner) {
+    pannello.show();
     QWidget &pagina = apriPagina("Position", "BoxImpostazioni(4)");
     const auto &segno = trova<PictureBox>(pagina, "Image4");
     EXPECT_EQ(segno.Left(), 840);

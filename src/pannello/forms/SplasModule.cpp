@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <future>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -34,8 +35,9 @@ SplasModule::SplasModule(const Ambiente &contesto, std::vector<VoceMenu> voci, c
       }) {
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowCloseButtonHint);
+    std::future<StatoAvvio> lettura = std::async(std::launch::async, leggiStatoAvvio, cartella());
     disponi();
-    const StatoAvvio stato = leggiStatoAvvio(cartella());
+    const StatoAvvio stato = lettura.get();
     Label5.setCaption(stato.numero);
     Label6.setCaption(stato.data);
     m_risoluzione = stato.risoluzione;

@@ -4,12 +4,14 @@
 #include <QFontDatabase>
 #include <QtEndian>
 #include <array>
+#include <fontconfig/fontconfig.h>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 namespace {
 
+const QString famiglia = u"Tahoma"_s;
 constexpr std::array<const char *, 2> fileCarattere = {"/usr/share/wine/fonts/tahoma.ttf",
                                                        "/usr/share/wine/fonts/tahomabd.ttf"};
 constexpr qsizetype intestazione = 12;  // bytes before the directory of tables
@@ -72,6 +74,14 @@ QByteArray carattereCorretto(QByteArray file) {
     return file;
 }
 
+std::future<void> avviaCaratteri() {
+    return std::async(std::launch::async, [] { FcInit(); });
+}
+
+std::future<void> elencaCaratteri() {
+    return std::async(std::launch::async, [] { QFontDatabase::hasFamily(famiglia); });
+}
+
 QFont carattereCasa() {
     static const bool caricato = [] {
         for (const char *percorso : fileCarattere)
@@ -79,7 +89,7 @@ QFont carattereCasa() {
         return true;
     }();
     Q_UNUSED(caricato)
-    QFont font(u"Tahoma"_s);
+    QFont font(famiglia);
     font.setPointSizeF(8.25);
     font.setStyleHint(QFont::SansSerif);
     return font;

@@ -58,6 +58,14 @@ void parlaItaliano(QApplication &applicazione) {
         QApplication::installTranslator(traduzione);
 }
 
+// Drawn here: a window asks twice for every size while it comes up.
+QIcon iconaFinestre() {
+    QIcon icona;
+    for (const int lato : {16, 32, 64})
+        icona.addPixmap(immagine(Disegno::Zuvora, {lato, lato}));
+    return icona;
+}
+
 } // namespace
 
 void preparaAspetto(QApplication &applicazione) {
@@ -65,7 +73,7 @@ void preparaAspetto(QApplication &applicazione) {
     QApplication::setStyle(new StileCasa);
     QApplication::setFont(carattereCasa());
     QApplication::setPalette(paletteCasa());
-    applicazione.setWindowIcon(icona(Disegno::Zuvora));
+    applicazione.setWindowIcon(iconaFinestre());
 }
 
 } // namespace zuvora
