@@ -83,7 +83,7 @@ TEST(Pagine, MostranoLElementoECioCheSiSceglie) {
         testo.setText(QString(60, u'x'));
         testo.setFocus();
         QTest::keyClick(&testo, Qt::Key_Return); // applies, and the form stays
-        EXPECT_TRUE(trova<Button>(form2, "Btn(0)").conSpunta());
+        EXPECT_TRUE(conSpunta(trova<Button>(form2, "Btn(0)")));
         testo.setText(u"non applicato"_s);
         clicca(form2, "Btn(1)");
     });

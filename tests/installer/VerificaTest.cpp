@@ -68,6 +68,7 @@ TEST_F(Danni, DelleTabelleHannoLaLoroRiga) {
         {false, "UPDATE Versione SET Numero = 'Versione 9'", "«Versione 9» non è una versione conosciuta"},
         {false, "UPDATE Configurazione SET qualelayout = 11", "qualelayout vale 11"},
         {false, "UPDATE Configurazione SET MisuraFormWH = 0", "MisuraFormWH vale 0"},
+        {false, "UPDATE ConfigurazioneTotem SET RisoluzioneTotem = 4", "RisoluzioneTotem vale 4"},
         {false, "UPDATE ConfigurazioneTotem SET SfondoTotem = '/nessuno.jpg'",
          "tabella ConfigurazioneTotem, riga 1: manca il file /nessuno.jpg"},
         {false,
@@ -128,6 +129,10 @@ TEST_F(Danni, DeiFileHannoLaLoroRiga) {
         {diventa(cornice, {}), "stondata.gif è vuoto"},
         {senza(cornice), "stondata.gif"},
         {senza(u"FraseTTS.txt"_s), "impianto/FraseTTS.txt"},
+        {[](const QString &i) {
+             sql(impostazioni(i), u"UPDATE ConfigurazioneTotem SET SfondoTotem = '%1/FraseTTS.txt'"_s.arg(i));
+         },
+         "/FraseTTS.txt: Il file non è un'immagine leggibile."},
         {senza(u"Suoni/Campanella.wav"_s), "tabella DinDon, riga 2: manca il file"},
     };
     for (const auto &[guasta, detto] : casi) {

@@ -1,4 +1,5 @@
 #include "kiosk/forms/LayoutTotem.h"
+#include "kit/FintoSistema.h"
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
 
@@ -105,6 +106,17 @@ TEST_F(ProvaLayoutTotem, ABackgroundThatIsGoneEndsTheArrangementOneOutOfReachDoe
         const bool disposto = trova<Label>(form, "TitoloTXT").Caption() == u"Titolo mio"_s;
         EXPECT_EQ(disposto, caso.visti > 0);
     }
+}
+
+TEST_F(ProvaLayoutTotem, ABackgroundThatNeverAnswersCountsAsOutOfReach) {
+    const auto sistema = std::make_shared<FintoSistema>();
+    sistema->muta = u"/lontano"_s;
+    sfondo(u"/lontano/x.jpg"_s);
+    i.ambiente.percorsi = Percorsi(sistema);
+    LayoutTotem form(i.ambiente, richiesta(3), nullptr);
+    EXPECT_EQ(visibili(form), 3);
+    EXPECT_TRUE(avviso(form).contains(u"non è raggiungibile"_s));
+    sistema->risveglia();
 }
 
 TEST_F(ProvaLayoutTotem, ThePictureStandsAtItsOwnSize) {

@@ -71,7 +71,7 @@ TEST_F(ProvaCornice, IlFileMancanteOIllegibileNonSiApplica) {
          {std::pair(u" manca.gif"_s, u"File non trovato."_s), {u" cartella.gif"_s, u"Non è un file."_s}}) {
         i.esegui(u"UPDATE Decorazioni SET File='%1' WHERE ID=1"_s.arg(file));
         ImpostaCornice form(i.ambiente, 1, nullptr);
-        EXPECT_EQ(trova<AnteprimaImmagine>(form, "Image1").testo(), motivo + u'\n' + file);
+        EXPECT_EQ(anteprimaFinita(form).testo(), motivo + u'\n' + file);
         EXPECT_EQ(premi(form, "Btn(0)"), u"Impossibile caricare l'immagine scelta !\n"_s + motivo);
         EXPECT_FALSE(form.applicata());
     }

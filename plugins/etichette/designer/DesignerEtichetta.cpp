@@ -6,6 +6,7 @@
 #include "etichette/designer/PannelloProprieta.h"
 #include "etichette/logic/FileEtichetta.h"
 #include "shell/immagini/LetturaImmagine.h"
+#include "shell/logic/Domanda.h"
 #include "shell/logic/FileAtomico.h"
 
 #include <QApplication>
@@ -13,10 +14,12 @@
 #include <QBuffer>
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QLabel>
 #include <QListWidget>
 #include <QMimeData>
 #include <QScreen>
+#include <chrono>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,8 +29,31 @@ namespace {
 constexpr QSize latoImmagine(1600, 1600);       // points; a roll of 80 mm has 640 across
 constexpr qint64 immagineIntatta = 1024 * 1024; // bytes
 constexpr int bozzaDopo = 2000;                 // milliseconds
-const QString filtroImmagini = u"Immagini (*.png *.jpg *.jpeg *.bmp *.gif *.webp *.svg)"_s;
+const QString filtroImmagini = u"Immagini|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.webp;*.svg"_s;
 const QString tipoAppunti = u"application/x-zuvora-biglietto"_s;
+constexpr std::chrono::seconds attesaImmagine{20};
+
+struct ImmaginePresa {
+    QByteArray contenuto;
+    QString motivo; // why there is none
+};
+
+// The picture goes into the ticket: its own file when that is small, else what a ticket printer can show of it.
+ImmaginePresa prendiImmagine(const QString &percorso) {
+    const ImmagineLetta letta = leggi(percorso, latoImmagine);
+    if (letta.immagine.isNull())
+        return {{}, letta.motivo};
+    const QSize misura = misuraImmagine(percorso);
+    const bool piccola = misura.isValid() && misura == misura.boundedTo(latoImmagine);
+    if (FileLetto file = leggiFile(percorso, immagineIntatta); piccola && file.motivo.isEmpty())
+        return {file.contenuto, {}};
+    QByteArray ridotta;
+    QBuffer buffer(&ridotta);
+    buffer.open(QIODevice::WriteOnly);
+    if (!letta.immagine.save(&buffer, "PNG") || ridotta.size() > immagineMassima)
+        return {{}, u"Anche ridotta è troppo grande per un biglietto."_s};
+    return {ridotta, {}};
+}
 
 } // namespace
 
@@ -142,29 +168,18 @@ void DesignerEtichetta::aggiungiVariabile(const QString &nome, const std::option
     m_foglio->setFocus();
 }
 
-// The picture goes into the ticket: its own file when that is small, else what a ticket printer can show of it.
 std::optional<QByteArray> DesignerEtichetta::chiediImmagine() {
-    const auto percorso = m_mondo.domande.apriFile(this, u"Scelta immagine"_s, filtroImmagini);
+    const auto percorso = m_mondo.dialoghi.apriFile(this, {u"Scelta immagine"_s, filtroImmagini});
     if (!percorso)
         return std::nullopt;
-    const ImmagineLetta letta = leggi(*percorso, latoImmagine);
-    if (letta.immagine.isNull()) {
-        m_mondo.domande.avvisa(this, u"L'immagine non è stata presa. "_s + letta.motivo);
-        return std::nullopt;
-    }
-    const QSize misura = misuraImmagine(*percorso);
-    const bool piccola = misura.isValid() && misura == misura.boundedTo(latoImmagine);
-    if (FileLetto file = leggiFile(*percorso, immagineIntatta); piccola && file.motivo.isEmpty())
-        return file.contenuto;
-    QByteArray ridotta;
-    QBuffer buffer(&ridotta);
-    buffer.open(QIODevice::WriteOnly);
-    if (!letta.immagine.save(&buffer, "PNG") || ridotta.size() > immagineMassima) {
-        m_mondo.domande.avvisa(this,
-                               u"L'immagine non è stata presa: anche ridotta è troppo grande per un biglietto."_s);
-        return std::nullopt;
-    }
-    return ridotta;
+    // A disk that doesn't answer must not hold the window up.
+    const ImmaginePresa presa =
+        chiediEAspetta<ImmaginePresa>([percorso = *percorso] { return prendiImmagine(percorso); }, attesaImmagine)
+            .value_or(ImmaginePresa{{}, u"Il file non risponde."_s});
+    if (presa.motivo.isEmpty())
+        return presa.contenuto;
+    avvisa(u"L'immagine non è stata presa. "_s + presa.motivo);
+    return std::nullopt;
 }
 
 void DesignerEtichetta::aggiungiImmagine() {
@@ -187,9 +202,8 @@ bool DesignerEtichetta::salvaIn(const QString &file) {
     const QString motivo = scriviEtichetta(file, m_progetto.etichetta());
     if (motivo.isEmpty())
         return true;
-    m_mondo.domande.avvisa(this,
-                           u"Il biglietto non è stato salvato in %1.\n%2\n\nQuello che è disegnato resta qui: si può "
-                           "salvare una copia altrove."_s.arg(file, motivo));
+    avvisa(u"Il biglietto non è stato salvato in %1.\n%2\n\nQuello che è disegnato resta qui: si può "
+           "salvare una copia altrove."_s.arg(file, motivo));
     return false;
 }
 
@@ -203,18 +217,19 @@ bool DesignerEtichetta::salva() {
 }
 
 void DesignerEtichetta::salvaCopia() {
-    const auto file = m_mondo.domande.salvaFile(this, u"Salva una copia"_s, m_file, u"Biglietti (*.lbl)"_s);
+    const auto file = m_mondo.dialoghi.salvaFile(
+        this, {u"Salva una copia"_s, u"Biglietti|*.lbl"_s, QFileInfo(m_file).path(), QFileInfo(m_file).fileName()});
     if (file && salvaIn(*file))
         di(u"Copia salvata: "_s + *file);
 }
 
 void DesignerEtichetta::esportaPdf() {
-    const auto file = m_mondo.domande.salvaFile(this, u"Esporta in PDF"_s, u"Ticket.pdf"_s, u"PDF (*.pdf)"_s);
+    const auto file = m_mondo.dialoghi.salvaFile(this, {u"Esporta in PDF"_s, u"PDF|*.pdf"_s, {}, u"Ticket.pdf"_s});
     if (!file)
         return;
     const EsitoStampa esito = scriviPdf(*file, m_progetto.etichetta(), m_valori);
     if (!esito.motivo.isEmpty())
-        m_mondo.domande.avvisa(this, u"Il PDF non è stato scritto. "_s + esito.motivo);
+        avvisa(u"Il PDF non è stato scritto. "_s + esito.motivo);
     else
         di(u"PDF scritto: "_s + *file);
 }
@@ -222,8 +237,8 @@ void DesignerEtichetta::esportaPdf() {
 void DesignerEtichetta::stampaProva() {
     const QStringList stampanti = m_mondo.stampanti();
     if (stampanti.isEmpty()) {
-        m_mondo.domande.avvisa(this, u"Su questa macchina non c'è nessuna stampante.\nIl biglietto si può provare con "
-                                     "«Esporta PDF»."_s);
+        avvisa(u"Su questa macchina non c'è nessuna stampante.\nIl biglietto si può provare con "
+               "«Esporta PDF»."_s);
         return;
     }
     const auto richiesta = chiediStampa(m_progetto.etichetta(), stampanti, this);
@@ -237,7 +252,11 @@ void DesignerEtichetta::stampaProva() {
     if (motivo.isEmpty())
         di(u"Biglietto consegnato alla stampante %1."_s.arg(richiesta->stampante));
     else
-        m_mondo.domande.avvisa(this, motivo);
+        avvisa(motivo);
+}
+
+void DesignerEtichetta::avvisa(const QString &testo) {
+    m_mondo.dialoghi.messaggio(this, Dialoghi::Icona::Informazione, titoloMessaggi(), testo);
 }
 
 void DesignerEtichetta::mostraRecord(int n) {
@@ -299,8 +318,13 @@ void DesignerEtichetta::closeEvent(QCloseEvent *e) {
     if (QWidget *campo = focusWidget(); campo != nullptr && campo != m_foglio)
         campo->clearFocus(); // applies what is being typed
     if (!m_progetto.pila().isClean()) {
-        const auto risposta = m_mondo.domande.salvare(this, u"Il biglietto è stato modificato. Salvarlo ?"_s);
-        if (risposta == Domande::Risposta::Annulla || (risposta == Domande::Risposta::Si && !salva())) {
+        enum : int { Salva, NonSalvare, Annulla };
+        const int risposta = m_mondo.dialoghi.scegli(this, {titoloMessaggi(),
+                                                            u"Il biglietto è stato modificato. Salvarlo ?"_s,
+                                                            {u"&Salva"_s, u"&Non salvare"_s, u"&Annulla"_s},
+                                                            Salva,
+                                                            Annulla});
+        if (risposta == Annulla || (risposta == Salva && !salva())) {
             e->ignore();
             return;
         }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "etichette/designer/Domande.h"
 #include "etichette/logic/Bozza.h"
 #include "etichette/logic/Progetto.h"
 #include "etichette/logic/Valori.h"
+#include "shell/host/Dialoghi.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -27,7 +27,7 @@ class DesignerEtichetta : public QDialog {
 public:
     // What the designer has of the outside: tests give doubles.
     struct Mondo {
-        Domande &domande;
+        Dialoghi &dialoghi;
         std::function<QStringList()> stampanti;
         // The Italian reason, empty when the printer has the ticket.
         std::function<QString(const QString &stampante, const Etichetta &, const Valori &)> stampa;
@@ -66,6 +66,7 @@ private:
     void salvaCopia();
     void esportaPdf();
     void stampaProva();
+    void avvisa(const QString &testo);
     void mostraRecord(int n);
     void mostraStato();
     void di(const QString &testo);

@@ -5,6 +5,7 @@
 #include "etichette/biglietto/Uscite.h"
 #include "etichette/designer/DesignerEtichetta.h"
 #include "etichette/logic/FileEtichetta.h"
+#include "shell/host/Dialoghi.h"
 
 #include <QFileInfo>
 
@@ -42,9 +43,14 @@ int EtichetteQt::LlDefineLayout(QWidget *finestra, const QString &titolo, int /*
     try {
         return disegna(finestra, titolo, file);
     } catch (const std::exception &e) {
-        m_domande.avvisa(finestra, u"Il biglietto non può essere aperto. (%1)"_s.arg(QString::fromUtf8(e.what())));
+        m_dialoghi.messaggio(finestra, Dialoghi::Icona::Critica, titoloMessaggi(),
+                             u"Il biglietto non può essere aperto. (%1)"_s.arg(QString::fromUtf8(e.what())));
         return fallito;
     }
+}
+
+bool EtichetteQt::conferma(QWidget *finestra, const QString &testo) {
+    return m_dialoghi.scegli(finestra, {titoloMessaggi(), testo, {u"&Sì"_s, u"&No"_s}, 1, 1}) == 0;
 }
 
 int EtichetteQt::disegna(QWidget *finestra, const QString &titolo, const QString &file) {
@@ -53,8 +59,7 @@ int EtichetteQt::disegna(QWidget *finestra, const QString &titolo, const QString
         const EtichettaLetta letta = leggiEtichetta(file);
         if (!letta.etichetta) {
             // What can't be read is somebody's work: it is replaced only when the user says so, and then at a save.
-            if (!m_domande.conferma(finestra,
-                                    u"%1 non può essere aperto.\n%2\n\nDisegnare un biglietto nuovo al suo posto ? "
+            if (!conferma(finestra, u"%1 non può essere aperto.\n%2\n\nDisegnare un biglietto nuovo al suo posto ? "
                                     "Il file resta com'è finché il nuovo non viene salvato."_s.arg(file, letta.motivo)))
                 return fallito;
         } else {
@@ -68,13 +73,12 @@ int EtichetteQt::disegna(QWidget *finestra, const QString &titolo, const QString
     if (vuoti)
         for (Variabile &v : esempio)
             v.testo = v.nome;
-    DesignerEtichetta::Mondo mondo{m_domande, stampanti, stampaProva,
+    DesignerEtichetta::Mondo mondo{m_dialoghi, stampanti, stampaProva,
                                    [cartella = QFileInfo(file).path()](int n) { return recordDi(cartella, n); }};
     DesignerEtichetta designer(etichetta, Valori(esempio), titolo, file, std::move(mondo), finestra);
     const Bozza bozza(file);
     if (const auto lasciata = bozza.lasciata()) {
-        if (m_domande.conferma(finestra,
-                               u"L'ultima volta il biglietto non è stato chiuso in ordine.\nRiprendere le modifiche "
+        if (conferma(finestra, u"L'ultima volta il biglietto non è stato chiuso in ordine.\nRiprendere le modifiche "
                                "che non erano state salvate ?"_s))
             designer.recupera(*lasciata);
         else

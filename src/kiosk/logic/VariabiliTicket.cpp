@@ -41,7 +41,7 @@ bool dichiara(const QString &tipo, std::initializer_list<QStringView> parti) {
 
 VariabileTicket variabileDa(const QString &nome, const QString &tipoDichiarato, const Valore &valore) {
     VariabileTicket variabile{nome, testoDi(valore, u""_s), TipoEtichetta::Testo};
-    if (eNull(valore) || dichiara(tipoDichiarato, {u"CURR", u"MONEY"}))
+    if (eNull(valore) || dichiara(tipoDichiarato, {u"CURR", u"MONEY", u"DECIMAL", u"BYTE"}))
         return variabile;
     if (dichiara(tipoDichiarato, {u"DATE", u"TIME"})) {
         if (const auto momento = momentoDi(variabile.contenuto))
