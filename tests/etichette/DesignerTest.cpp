@@ -3,13 +3,19 @@
 #include "etichette/designer/EtichetteQt.h"
 #include "etichette/designer/Foglio.h"
 #include "etichette/logic/FileEtichetta.h"
+#include "shell/logic/FileAtomico.h"
+#include "store/Ostacoli.h"
 
+#include <QCheckBox>
+#include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMimeData>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
@@ -65,7 +71,10 @@ struct Finestra : testing::Test {
     std::unique_ptr<DesignerEtichetta> designer;
 
     DesignerEtichetta &apri(const Etichetta &e = {}) {
-        DesignerEtichetta::Mondo mondo{domande, [this] { return stampanti; },
+        DesignerEtichetta::Mondo mondo{domande,
+                                       [this] {
+                                           return Stampanti{stampanti, {}};
+                                       },
                                        [this](const QString &nome, const Etichetta &stampata, const Valori &) {
                                            const QPoint s = stampata.scostamenti.value(nome);
                                            stampato = u"%1 %2 %3"_s.arg(nome).arg(s.x()).arg(s.y());
@@ -138,7 +147,7 @@ TEST_F(Finestra, OgniOggettoNuovoESceltoEInVista) {
         const QRect carta(0, 0, 800, 1200);
         const auto oggetti = salvati();
         EXPECT_TRUE(carta.contains(oggetti.last().area.topLeft()));
-        EXPECT_FALSE(trova<QLineEdit>("ValoreX").isHidden()) << nome;
+        EXPECT_TRUE(trova<QLineEdit>("ValoreX").isEnabled()) << nome;
         auto &foglio = trova<Foglio>("foglio");
         EXPECT_TRUE(foglio.viewport()->rect().contains(foglio.posizioneSuSchermo(int(oggetti.size()) - 1).topLeft()))
             << nome;
@@ -183,6 +192,18 @@ TEST_F(Finestra, IlTrascinamentoAgganciaEAltLoSospende) {
     EXPECT_NEAR(salvati()[1].area.x(), 117, 3);
 }
 
+TEST_F(Finestra, UnaVariabileSiTrascinaSulFoglio) {
+    apri();
+    auto &elenco = trova<QListWidget>("variabili");
+    const std::unique_ptr<QMimeData> dati(elenco.model()->mimeData({elenco.model()->index(1, 0)}));
+    auto &foglio = trova<Foglio>("foglio");
+    QDropEvent lascia(QPointF(120, 90), Qt::CopyAction, dati.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(foglio.viewport(), &lascia);
+    ASSERT_EQ(salvati().size(), 1);
+    EXPECT_EQ(salvati()[0].testo, u"{Lettera}"_s);
+    EXPECT_NEAR(foglio.posizioneSuSchermo(0).x(), 120, 2);
+}
+
 TEST_F(Finestra, ChiudereChiedeDelleModifiche) {
     const struct {
         Domande::Risposta risposta;
@@ -204,19 +225,83 @@ TEST_F(Finestra, ChiudereChiedeDelleModifiche) {
     EXPECT_FALSE(designer->isVisible());
 }
 
+// The folder of a kiosk that goes away, a disk that is full, a file that may only be read.
 TEST_F(Finestra, UnSalvataggioFallitoLasciaTuttoQui) {
-    ticket = cartella.filePath(u"sparita/Ticket.lbl"_s);
+    const QString totem = cartella.filePath(u"totem"_s);
+    const QString altrove = cartella.filePath(u"altrove.lbl"_s);
+    ticket = totem + u"/Ticket.lbl"_s;
+    const std::pair<std::function<std::shared_ptr<void>()>, const char16_t *> casi[] = {
+        {[&] {
+             QDir(totem).removeRecursively();
+             return nullptr;
+         },
+         u"non esiste"},
+        {[] { return std::make_shared<prova::LimiteFile>(100); }, u"troppo grande per questo disco"},
+        {[&] {
+             QFile::setPermissions(cartella.path(), QFile::Permissions(0x7755));
+             QFile::setPermissions(totem, QFile::Permissions(0x7777));
+             QFile::setPermissions(ticket, QFile::Permissions(0x4444));
+             return std::make_shared<prova::UtenteQualunque>();
+         },
+         u"permessi"}};
+    for (const auto &[ostacola, parola] : casi) {
+        QDir().mkpath(totem);
+        ASSERT_EQ(scriviEtichetta(ticket, {}), QString());
+        apri();
+        premi("AggiungiTesto");
+        const QByteArray prima = leggiFile(ticket).contenuto;
+        {
+            const auto ostacolo = ostacola();
+            premi("Salva");
+        }
+        ASSERT_EQ(domande.avvisi.size(), 1);
+        EXPECT_TRUE(domande.avvisi[0].contains(u"non è stato salvato"_s) &&
+                    domande.avvisi[0].contains(QString::fromUtf16(parola)))
+            << domande.avvisi[0].toStdString();
+        EXPECT_TRUE(!QFile::exists(totem) || leggiFile(ticket).contenuto == prima);
+        domande.file.push_back(altrove);
+        premi("SalvaCopia");
+        EXPECT_EQ(leggiEtichetta(altrove).etichetta->oggetti.size(), 1);
+        EXPECT_TRUE(designer->windowTitle().endsWith(u'*')); // the ticket itself is still unsaved
+        domande.avvisi.clear();
+        domande.salvataggi.push_back(Domande::Risposta::No);
+        designer->close();
+    }
+}
+
+// Place, measures and contents are in sight from the start, and say why they can't be used.
+TEST_F(Finestra, ICampiPrincipaliSonoSempreInVista) {
     apri();
+    const auto usabili = [this] {
+        QString stato;
+        for (const char *nome : {"ValoreX", "ValoreY", "ValoreLarghezza", "ValoreAltezza", "ValoreTesto"}) {
+            const auto &campo = trova<QWidget>(nome);
+            EXPECT_TRUE(campo.isVisible() && campo.isEnabled() == campo.accessibleDescription().isEmpty()) << nome;
+            stato += campo.isEnabled() ? u'+' : u'-';
+        }
+        return stato;
+    };
+    EXPECT_EQ(usabili(), u"-----"_s);
     premi("AggiungiTesto");
-    premi("Salva");
-    ASSERT_EQ(domande.avvisi.size(), 1);
-    EXPECT_TRUE(domande.avvisi[0].contains(u"non è stato salvato"_s));
-    domande.file.push_back(cartella.filePath(u"altrove.lbl"_s));
-    premi("SalvaCopia");
-    EXPECT_EQ(leggiEtichetta(cartella.filePath(u"altrove.lbl"_s)).etichetta->oggetti.size(), 1);
-    EXPECT_TRUE(designer->windowTitle().endsWith(u'*')); // the ticket itself is still unsaved
-    domande.salvataggi.push_back(Domande::Risposta::No);
-    designer->close();
+    EXPECT_EQ(usabili(), u"+++++"_s);
+    premi("AggiungiLinea");
+    EXPECT_EQ(usabili(), u"++++-"_s);
+    QTest::mouseClick(&trova<QCheckBox>("Bloccato"), Qt::LeftButton, {}, QPoint(8, 8));
+    EXPECT_EQ(usabili(), u"-----"_s);
+}
+
+TEST_F(Finestra, LaCartaSegueLaFinestraFinoAUnIngrandimento) {
+    apri();
+    const auto intera = [this] {
+        const auto &foglio = trova<Foglio>("foglio");
+        return foglio.horizontalScrollBar()->maximum() == 0;
+    };
+    designer->resize(designer->width() - 150, designer->height());
+    EXPECT_TRUE(QTest::qWaitFor(intera));
+    trova<Foglio>("foglio").setZoom(400);
+    designer->resize(designer->width() - 10, designer->height());
+    QApplication::processEvents();
+    EXPECT_EQ(trova<Foglio>("foglio").zoom(), 400);
 }
 
 TEST_F(Finestra, LeImmaginiSonoControllatePrima) {

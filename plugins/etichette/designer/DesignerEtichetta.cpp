@@ -4,6 +4,7 @@
 #include "etichette/designer/Finestre.h"
 #include "etichette/designer/Foglio.h"
 #include "etichette/designer/PannelloProprieta.h"
+#include "etichette/designer/Scrittura.h"
 #include "etichette/logic/FileEtichetta.h"
 #include "shell/immagini/LetturaImmagine.h"
 #include "shell/logic/FileAtomico.h"
@@ -26,8 +27,23 @@ namespace {
 constexpr QSize latoImmagine(1600, 1600);       // points; a roll of 80 mm has 640 across
 constexpr qint64 immagineIntatta = 1024 * 1024; // bytes
 constexpr int bozzaDopo = 2000;                 // milliseconds
+constexpr int avvisiDopo = 150;
 const QString filtroImmagini = u"Immagini (*.png *.jpg *.jpeg *.bmp *.gif *.webp *.svg)"_s;
 const QString tipoAppunti = u"application/x-zuvora-biglietto"_s;
+
+// What is dragged out of it is the variable's name.
+class ElencoVariabili : public QListWidget {
+public:
+    using QListWidget::QListWidget;
+
+protected:
+    QStringList mimeTypes() const override { return {u"text/plain"_s}; }
+    QMimeData *mimeData(const QList<QListWidgetItem *> &voci) const override {
+        auto *dati = new QMimeData;
+        dati->setText(voci.isEmpty() ? QString() : voci.first()->text());
+        return dati;
+    }
+};
 
 } // namespace
 
@@ -63,12 +79,17 @@ DesignerEtichetta::DesignerEtichetta(const Etichetta &etichetta, const Valori &v
     tutto->addWidget(m_nota);
     m_orologio.setSingleShot(true);
     m_orologio.setInterval(bozzaDopo);
-    connect(&m_orologio, &QTimer::timeout, this, [this] {
-        if (!m_progetto.pila().isClean() && !m_bozza.scrivi(m_progetto.etichetta()))
-            di(u"La copia di sicurezza non è stata scritta: la cartella non lo permette."_s);
+    connect(&m_orologio, &QTimer::timeout, this, &DesignerEtichetta::scriviBozza);
+    connect(&m_scritturaBozza, &QFutureWatcherBase::finished, this, [this] {
+        if (const QString motivo = m_scritturaBozza.result(); !motivo.isEmpty() && !m_progetto.pila().isClean())
+            di(u"La copia di sicurezza non è stata scritta. "_s + motivo);
     });
+    m_attesaAvvisi.setSingleShot(true);
+    m_attesaAvvisi.setInterval(avvisiDopo);
+    connect(&m_attesaAvvisi, &QTimer::timeout, this, &DesignerEtichetta::mostraAvvisi);
     connect(&m_progetto, &Progetto::cambiato, this, [this] {
         m_orologio.start();
+        m_attesaAvvisi.start();
         mostraStato();
     });
     connect(&m_progetto.pila(), &QUndoStack::cleanChanged, this, &DesignerEtichetta::mostraStato);
@@ -96,7 +117,7 @@ void DesignerEtichetta::showEvent(QShowEvent *e) {
 
 void DesignerEtichetta::disponiElenco(QBoxLayout &colonna) {
     auto *scritta = new QLabel(u"Varia&bili"_s, this);
-    m_variabili = new QListWidget(this);
+    m_variabili = new ElencoVariabili(this);
     m_variabili->setObjectName(u"variabili"_s);
     m_variabili->setAccessibleName(u"Variabili"_s);
     m_variabili->setToolTip(u"Trascinare una variabile sul foglio, oppure doppio clic o Invio"_s);
@@ -183,8 +204,22 @@ void DesignerEtichetta::scegliImmagine() {
         m_progetto.cambia(u"Immagine"_s, [&](Oggetto &o) { o.immagine = *file; });
 }
 
+void DesignerEtichetta::scriviBozza() {
+    if (m_scritturaBozza.isRunning())
+        m_orologio.start(); // one at a time: the last must be the last
+    else if (!m_progetto.pila().isClean())
+        m_scritturaBozza.setFuture(avviaScrittura(m_bozza.percorso(), m_progetto.etichetta(),
+                                                  m_bozzaSuperata = std::make_shared<std::atomic<bool>>(false)));
+}
+
+void DesignerEtichetta::togliBozza() {
+    if (m_bozzaSuperata)
+        *m_bozzaSuperata = true;
+    m_bozza.togli();
+}
+
 bool DesignerEtichetta::salvaIn(const QString &file) {
-    const QString motivo = scriviEtichetta(file, m_progetto.etichetta());
+    const QString motivo = scriviAspettando(this, file, m_progetto.etichetta());
     if (motivo.isEmpty())
         return true;
     m_mondo.domande.avvisa(this,
@@ -197,7 +232,7 @@ bool DesignerEtichetta::salva() {
     if (!salvaIn(m_file))
         return false;
     m_progetto.pila().setClean();
-    m_bozza.togli();
+    togliBozza();
     di(u"Biglietto salvato."_s);
     return true;
 }
@@ -220,24 +255,24 @@ void DesignerEtichetta::esportaPdf() {
 }
 
 void DesignerEtichetta::stampaProva() {
-    const QStringList stampanti = m_mondo.stampanti();
-    if (stampanti.isEmpty()) {
-        m_mondo.domande.avvisa(this, u"Su questa macchina non c'è nessuna stampante.\nIl biglietto si può provare con "
-                                     "«Esporta PDF»."_s);
+    const auto [nomi, motivo] = m_mondo.stampanti();
+    if (nomi.isEmpty()) {
+        m_mondo.domande.avvisa(this, (motivo.isEmpty() ? u"Su questa macchina non c'è nessuna stampante."_s : motivo) +
+                                         u"\nIl biglietto si può provare con «Esporta PDF»."_s);
         return;
     }
-    const auto richiesta = chiediStampa(m_progetto.etichetta(), stampanti, this);
+    const auto richiesta = chiediStampa(m_progetto.etichetta(), nomi, this);
     if (!richiesta)
         return;
     m_progetto.setScostamento(richiesta->stampante, richiesta->scostamento);
     m_progetto.setStampa(richiesta->stampa);
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString motivo = m_mondo.stampa(richiesta->stampante, m_progetto.etichetta(), m_valori);
+    const QString rifiuto = m_mondo.stampa(richiesta->stampante, m_progetto.etichetta(), m_valori);
     QApplication::restoreOverrideCursor();
-    if (motivo.isEmpty())
+    if (rifiuto.isEmpty())
         di(u"Biglietto consegnato alla stampante %1."_s.arg(richiesta->stampante));
     else
-        m_mondo.domande.avvisa(this, motivo);
+        m_mondo.domande.avvisa(this, rifiuto);
 }
 
 void DesignerEtichetta::mostraRecord(int n) {
@@ -262,6 +297,9 @@ void DesignerEtichetta::di(const QString &testo) {
 // The title tells the unsaved; the line below what will not print well.
 void DesignerEtichetta::mostraStato() {
     setWindowTitle(m_progetto.pila().isClean() ? m_titolo : m_titolo + u" *"_s);
+}
+
+void DesignerEtichetta::mostraAvvisi() {
     if (m_progetto.pila().isClean())
         return;
     const QStringList avvisi = controlla(m_progetto.etichetta(), m_valori);
@@ -306,7 +344,7 @@ void DesignerEtichetta::closeEvent(QCloseEvent *e) {
         }
     }
     m_orologio.stop();
-    m_bozza.togli();
+    togliBozza();
     e->accept();
     done(QDialog::Rejected);
 }

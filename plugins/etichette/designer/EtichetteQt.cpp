@@ -2,7 +2,6 @@
 
 #include "etichette/biglietto/Record.h"
 #include "etichette/biglietto/Stampante.h"
-#include "etichette/biglietto/Uscite.h"
 #include "etichette/designer/DesignerEtichetta.h"
 #include "etichette/logic/FileEtichetta.h"
 
@@ -17,9 +16,7 @@ constexpr int riuscito = 0;
 constexpr int fallito = -1;
 
 QString stampaProva(const QString &stampante, const Etichetta &e, const Valori &valori) {
-    QStringList avvisi;
-    const QByteArray byte = pdf(e, valori, e.scostamenti.value(stampante), avvisi);
-    return byte.isEmpty() ? u"Il biglietto non è stato disegnato."_s : stampaPdf(stampante, byte, e.stampa);
+    return stampa(stampante, e, valori).motivo;
 }
 
 std::optional<Valori> recordDi(const QString &cartella, int n) {
