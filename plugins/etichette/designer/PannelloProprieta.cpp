@@ -57,15 +57,16 @@ PannelloProprieta::PannelloProprieta(Progetto &progetto, QWidget *padre) : QWidg
     auto *dentro = new QWidget(scorre);
     auto *colonna = new QVBoxLayout(dentro);
     auto *righe = new QFormLayout;
-    colonna->addLayout(righe);
-    colonna->addStretch();
     m_righe = righe;
     m_titolo = new QLabel(dentro);
     m_aiuto = new QLabel(dentro);
     m_aiuto->setWordWrap(true);
     m_aiuto->setObjectName(u"Impedimento"_s);
-    righe->addRow(m_titolo);
-    righe->addRow(m_aiuto);
+    // A label that wraps stands apart: Qt's form layout is at fault where one is in it with hidden rows.
+    colonna->addWidget(m_titolo);
+    colonna->addWidget(m_aiuto);
+    colonna->addLayout(righe);
+    colonna->addStretch();
     disponiPosto(*righe);
     disponiTesto(*righe);
     disponiDisegno(*righe);

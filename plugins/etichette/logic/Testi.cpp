@@ -53,10 +53,13 @@ struct Composto {
     double altezza = 0;
 };
 
-Composto componi(const QString &testo, const StileTesto &stile, double punti, double larghezza) {
+// `spezza`: a word that is wider than its line goes on in the next.
+Composto componi(const QString &testo, const StileTesto &stile, double punti, double larghezza, bool spezza = true) {
     Composto c{std::make_unique<QTextLayout>(testo, fontDi(stile)), scala(punti), 0, 0};
     QTextOption opzione;
-    opzione.setWrapMode(stile.aCapo ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::ManualWrap);
+    opzione.setWrapMode(!stile.aCapo ? QTextOption::ManualWrap
+                        : spezza     ? QTextOption::WrapAtWordBoundaryOrAnywhere
+                                     : QTextOption::WordWrap);
     c.testo->setTextOption(opzione);
     c.testo->setCacheEnabled(true);
     c.testo->beginLayout();
@@ -76,17 +79,20 @@ bool sta(const Composto &c, const QSize &misura) {
     return c.altezza <= misura.height() + 0.1 && c.larghezza <= misura.width() + 0.1;
 }
 
+// Letters become smaller before a word is broken: a number must not be.
 Composto nellaMisura(const QString &testo, const StileTesto &stile, const QSize &misura) {
-    Composto c = componi(testo, stile, stile.punti, misura.width());
+    const auto prova = [&](double punti) { return componi(testo, stile, punti, misura.width(), !stile.riduci); };
+    Composto c = prova(stile.punti);
     if (!stile.riduci || sta(c, misura))
         return c;
     double piccoli = std::min(puntiMinimi, stile.punti);
     double grandi = stile.punti;
     while (grandi - piccoli > 0.25) {
         const double mezzo = (piccoli + grandi) / 2;
-        (sta(componi(testo, stile, mezzo, misura.width()), misura) ? piccoli : grandi) = mezzo;
+        (sta(prova(mezzo), misura) ? piccoli : grandi) = mezzo;
     }
-    return componi(testo, stile, piccoli, misura.width());
+    c = prova(piccoli);
+    return sta(c, misura) ? std::move(c) : componi(testo, stile, piccoli, misura.width());
 }
 
 double scarto(Lato lato, double libero) {
