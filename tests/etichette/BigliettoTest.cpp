@@ -43,9 +43,9 @@ struct CartellaTotem {
         int codice;
         QString errore;
     };
-    Esito biglietto(const QStringList &argomenti) const {
+    Esito biglietto(const QStringList &argomenti, const QString &file = QStringLiteral(ZUVORA_BIGLIETTO)) const {
         QProcess programma;
-        programma.start(QStringLiteral(ZUVORA_BIGLIETTO), QStringList{cartella.path()} + argomenti);
+        programma.start(file, QStringList{cartella.path()} + argomenti);
         EXPECT_TRUE(programma.waitForFinished(60000));
         return {programma.exitCode(), QString::fromLocal8Bit(programma.readAllStandardError())};
     }
@@ -104,6 +104,11 @@ TEST(Biglietto, SenzaRiuscireNonEsceConZero) {
         EXPECT_EQ(esito.codice, caso.codice) << esito.errore.toStdString();
         EXPECT_TRUE(esito.errore.contains(QString::fromUtf16(caso.parola))) << esito.errore.toStdString();
     }
+    // Apart from its component it does all but print.
+    const QString solo = totem.file(u"solo"_s);
+    ASSERT_TRUE(QFile::copy(QStringLiteral(ZUVORA_BIGLIETTO), solo));
+    EXPECT_TRUE(totem.biglietto({u"--stampante"_s, u"P"_s}, solo).errore.contains(u"manca il componente"_s));
+    EXPECT_EQ(totem.biglietto({u"--pdf"_s, totem.file(u"solo.pdf"_s)}, solo).codice, 0);
     { // a disk that fills up
         const prova::LimiteFile limite(4096);
         EXPECT_EQ(totem.biglietto({u"--pdf"_s, pdf}).codice, 1);

@@ -192,11 +192,27 @@ TEST_F(Finestra, IlTrascinamentoAgganciaEAltLoSospende) {
     EXPECT_NEAR(salvati()[1].area.x(), 117, 3);
 }
 
+TEST_F(Finestra, DentroUnaCorniceSiSceglieQuelloCheCiSta) {
+    Etichetta e;
+    e.oggetti << nuovoOggetto(TipoOggetto::Testo, QPoint(150, 150))
+              << nuovoOggetto(TipoOggetto::Cornice, QPoint(100, 100));
+    e.oggetti[1].area.setSize(QSize(600, 600));
+    apri(e);
+    const auto &foglio = trova<Foglio>("foglio");
+    for (const auto &[punto, tipo] : {std::pair(foglio.posizioneSuSchermo(0).center(), TipoOggetto::Testo),
+                                      std::pair(foglio.posizioneSuSchermo(1).center(), TipoOggetto::Cornice)}) {
+        QTest::mouseClick(foglio.viewport(), Qt::LeftButton, {}, punto);
+        EXPECT_EQ(trova<QPlainTextEdit>("ValoreTesto").isEnabled(), tipo == TipoOggetto::Testo);
+    }
+}
+
 TEST_F(Finestra, UnaVariabileSiTrascinaSulFoglio) {
     apri();
     auto &elenco = trova<QListWidget>("variabili");
     const std::unique_ptr<QMimeData> dati(elenco.model()->mimeData({elenco.model()->index(1, 0)}));
     auto &foglio = trova<Foglio>("foglio");
+    QDragEnterEvent entra(QPoint(120, 90), Qt::CopyAction, dati.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(foglio.viewport(), &entra);
     QDropEvent lascia(QPointF(120, 90), Qt::CopyAction, dati.get(), Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(foglio.viewport(), &lascia);
     ASSERT_EQ(salvati().size(), 1);
@@ -348,9 +364,11 @@ TEST_F(Finestra, LeImmaginiOstiliNonFermanoIlDesigner) {
 
 TEST_F(Finestra, SenzaStampantiLoDice) {
     apri();
+    domande.conferme.push_back(true);
+    domande.file.push_back(cartella.filePath(u"prova.pdf"_s));
     premi("StampaProva");
-    ASSERT_EQ(domande.avvisi.size(), 1);
     EXPECT_TRUE(domande.avvisi[0].contains(u"nessuna stampante"_s));
+    EXPECT_TRUE(leggiFile(cartella.filePath(u"prova.pdf"_s)).contenuto.startsWith("%PDF"));
     stampanti << u"Zebra"_s;
     QTimer::singleShot(0, [] {
         auto *finestra = QApplication::activeModalWidget();

@@ -257,8 +257,10 @@ void DesignerEtichetta::esportaPdf() {
 void DesignerEtichetta::stampaProva() {
     const auto [nomi, motivo] = m_mondo.stampanti();
     if (nomi.isEmpty()) {
-        m_mondo.domande.avvisa(this, (motivo.isEmpty() ? u"Su questa macchina non c'è nessuna stampante."_s : motivo) +
-                                         u"\nIl biglietto si può provare con «Esporta PDF»."_s);
+        if (m_mondo.domande.conferma(this,
+                                     (motivo.isEmpty() ? u"Su questa macchina non c'è nessuna stampante."_s : motivo) +
+                                         u"\n\nEsportare il biglietto in PDF ?"_s))
+            esportaPdf();
         return;
     }
     const auto richiesta = chiediStampa(m_progetto.etichetta(), nomi, this);
@@ -278,9 +280,12 @@ void DesignerEtichetta::stampaProva() {
 void DesignerEtichetta::mostraRecord(int n) {
     m_valori = m_primo;
     if (n > 1) {
-        const auto altri = m_mondo.record(n);
+        const auto lettura = avvia<std::optional<Valori>>([record = m_mondo.record, n] { return record(n); });
+        const bool risposto = attendi(this, QFuture<void>(lettura));
+        const auto altri = risposto ? lettura.result() : std::nullopt;
         if (!altri) {
-            di(u"Il record %1 non c'è: si vedono i contenuti del primo."_s.arg(n));
+            di(risposto ? u"Il record %1 non c'è: si vedono i contenuti del primo."_s.arg(n)
+                        : u"La cartella non risponde: si vedono i contenuti del primo record."_s);
             m_foglio->setValori(m_primo);
             return;
         }
@@ -305,6 +310,7 @@ void DesignerEtichetta::mostraAvvisi() {
     const QStringList avvisi = controlla(m_progetto.etichetta(), m_valori);
     di(avvisi.isEmpty()     ? QString()
        : avvisi.size() == 1 ? avvisi.first()
+       : avvisi.size() == 2 ? avvisi.first() + u"  (e un altro avviso, con «Controlla»)"_s
                             : u"%1  (e altri %2 avvisi, con «Controlla»)"_s.arg(avvisi.first()).arg(avvisi.size() - 1));
 }
 

@@ -51,9 +51,14 @@ Foglio::Bersaglio Foglio::bersaglioIn(const QPoint &pixel) const {
         if (!oggetti[i]->bloccato && presa != Presa::Nessuna && presa != Presa::Corpo)
             return {i, presa};
     }
-    for (int i = static_cast<int>(oggetti.size()) - 1; i >= 0; --i)
-        if (presaIn(oggetti[i]->area, punto, tolleranza / 2) != Presa::Nessuna)
-            return {i, Presa::Corpo};
+    // The empty inside of a frame comes last: what lies in it can be reached.
+    for (const bool dentroCornici : {false, true})
+        for (int i = static_cast<int>(oggetti.size()) - 1; i >= 0; --i) {
+            const Presa presa = presaIn(oggetti[i]->area, punto, tolleranza / 2);
+            const bool dentro = presa == Presa::Corpo && oggetti[i]->tipo == TipoOggetto::Cornice && !oggetti[i]->pieno;
+            if (presa != Presa::Nessuna && (dentroCornici || !dentro))
+                return {i, Presa::Corpo};
+        }
     return {};
 }
 

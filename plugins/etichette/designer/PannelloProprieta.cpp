@@ -66,7 +66,7 @@ PannelloProprieta::PannelloProprieta(Progetto &progetto, QWidget *padre) : QWidg
     colonna->addWidget(m_titolo);
     colonna->addWidget(m_aiuto);
     colonna->addLayout(righe);
-    colonna->addStretch();
+    colonna->addStretch(1);
     disponiPosto(*righe);
     disponiTesto(*righe);
     disponiDisegno(*righe);
