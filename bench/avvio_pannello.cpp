@@ -2,6 +2,7 @@
 #include "Composizione.h"
 #include "PrimaPittura.h"
 #include "pannello/forms/Avvio.h"
+#include "shell/host/CarattereCasa.h"
 #include "shell/host/QtDialoghi.h"
 #include "shell/host/QtPiattaforma.h"
 #include "shell/host/Stile.h"
@@ -23,10 +24,13 @@ private:
 } // namespace
 
 int main(int argc, char *argv[]) {
+    const auto caratteri = avviaCaratteri();
     QApplication applicazione(argc, argv);
     PrimaPittura pittura;
     applicazione.installEventFilter(&pittura);
+    caratteri.wait();
     preparaAspetto(applicazione);
+    const auto elenco = elencaCaratteri();
     ValoriCondivisi valori;
     QtDialoghi dialoghi;
     InCartella piattaforma("zuvora-misura-avvio", QString::fromLocal8Bit(argc > 1 ? argv[1] : "."));

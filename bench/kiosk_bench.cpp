@@ -169,9 +169,12 @@ void dipingiImmagine(benchmark::State &stato) {
 template <class Crea> void primaVolta(benchmark::State &stato, Crea crea) {
     for (auto _ : stato) {
         stato.PauseTiming();
-        const auto finestra = crea();
+        auto finestra = crea();
         stato.ResumeTiming();
         mostraEDipingi(*finestra);
+        stato.PauseTiming();
+        finestra.reset();
+        stato.ResumeTiming();
     }
     stato.counters["limite"] = 2;
 }

@@ -1,6 +1,6 @@
 # The Debian packages that the two commands need, and how they get onto the machine. Sourced, not run.
 
-PACCHETTI_BASE=(g++ cmake ninja-build pkg-config qt6-base-dev libqt6opengl6-dev qt6-webengine-dev libqt6webenginecore6-bin qt6-multimedia-dev libespeak-ng-dev libzint-dev libcups2-dev libarchive-dev mdbtools-dev cmark-gfm espeak-ng-data libsqlite3-dev libgl-dev
+PACCHETTI_BASE=(g++ cmake ninja-build pkg-config qt6-base-dev libqt6opengl6-dev qt6-webengine-dev libqt6webenginecore6-bin qt6-multimedia-dev libespeak-ng-dev libzint-dev libcups2-dev libarchive-dev mdbtools-dev cmark-gfm espeak-ng-data libsqlite3-dev libfontconfig-dev libgl-dev
     qt6-image-formats-plugins qt6-translations-l10n fonts-wine fonts-liberation2 fonts-urw-base35)
 PACCHETTI_PROVE=(libgtest-dev libgmock-dev libbenchmark-dev zbar-tools dmtx-utils cups)
 PACCHETTI_CONTROLLI=(clang-format clang-tidy)

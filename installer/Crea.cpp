@@ -18,10 +18,6 @@ namespace zuvora::installa {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-QString nativo(const QString &percorso) {
-    return QDir::toNativeSeparators(percorso);
-}
-
 void copiaProgramma(const QString &origine, const QString &destinazione) {
     const QDir da(origine);
     if (!QFileInfo(da.filePath(u"zuvora"_s)).isFile())

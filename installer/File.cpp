@@ -98,9 +98,13 @@ void sincronizzaVoce(const QString &voce) {
 }
 } // namespace
 
+QString nativo(const QString &percorso) {
+    return QDir::toNativeSeparators(percorso);
+}
+
 QString posto(const QString &file) {
     static const QRegularExpression preparazione(u"/\\.zuvora-installa-[^/]*"_s);
-    return QDir::toNativeSeparators(QString(file).remove(preparazione));
+    return nativo(QString(file).remove(preparazione));
 }
 
 void creaCartella(const QString &cartella) {

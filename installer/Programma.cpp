@@ -18,10 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 constexpr auto prefissoVersione = "Versione "_L1;
 
-QString nativo(const QString &percorso) {
-    return QDir::toNativeSeparators(percorso);
-}
-
 // Data of a later program must not be opened with this one.
 void rifiutaDatiPiuNuovi(const QString &cartella) {
     const QString file = cartella + u'/' + archivioZuvora.file;

@@ -2,6 +2,7 @@
 
 #include "installer/ControlloFile.h"
 #include "installer/Csv.h"
+#include "installer/File.h"
 
 #include "shell/logic/Percorsi.h"
 #include "shell/store/NomiFile.h"
@@ -32,10 +33,6 @@ constexpr std::array riferimenti{
     Riferimento{"Servizi"_L1, "Percorsofoto"_L1, Atteso::Immagine},
     Riferimento{"DinDon"_L1, "DinDon"_L1},
 };
-
-QString nativo(const QString &percorso) {
-    return QDir::toNativeSeparators(percorso);
-}
 
 void controllaRiferimento(ControlloArchivio &zuvora, Database &db, const Riferimento &r) {
     if (!zuvora.ha(r.tabella, r.colonna))

@@ -2,6 +2,7 @@
 #include "Composizione.h"
 #include "pannello/forms/Avvio.h"
 #include "shell/host/AiutoF1.h"
+#include "shell/host/CarattereCasa.h"
 #include "shell/host/QtDialoghi.h"
 #include "shell/host/QtPiattaforma.h"
 #include "shell/host/Stile.h"
@@ -11,8 +12,11 @@
 using namespace zuvora;
 
 int main(int argc, char *argv[]) {
+    const auto caratteri = avviaCaratteri();
     QApplication applicazione(argc, argv);
+    caratteri.wait();
     preparaAspetto(applicazione);
+    const auto elenco = elencaCaratteri();
     ValoriCondivisi valori;
     QtDialoghi dialoghi;
     QtPiattaforma piattaforma("zuvora-modulo-impostazione");

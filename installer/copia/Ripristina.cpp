@@ -24,10 +24,6 @@ namespace zuvora::installa {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-QString nativo(const QString &percorso) {
-    return QDir::toNativeSeparators(percorso);
-}
-
 bool eArchivio(const QString &nome) {
     return nome.endsWith(".mdb"_L1, Qt::CaseInsensitive);
 }

@@ -24,10 +24,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 using Progresso = std::function<void(const QString &)>;
 
-QString nativo(const QString &percorso) {
-    return QDir::toNativeSeparators(percorso);
-}
-
 // The database as it stands at one moment, its own check passed, in a file of the temporary folder.
 QString istantanea(Database &db, const QTemporaryDir &cartella, const QString &nome, const QString &origine) {
     if (!db.integro())

@@ -21,10 +21,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 using Progresso = std::function<void(const QString &)>;
 
-QString nativo(const QString &percorso) {
-    return QDir::toNativeSeparators(percorso);
-}
-
 void travasa(const QString &vecchio, const QString &lettore, Travaso &travaso, const QString &cartella,
              const Progresso &progresso) {
     AscoltoAccess ascolto;

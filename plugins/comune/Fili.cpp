@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 namespace zuvora {
 namespace {
 
-constexpr auto AttesaFine = 500ms; // for all threads together
+constexpr auto attesaFine = 500ms; // for all threads together
 
 std::vector<QThread *> &fili() {
     static std::vector<QThread *> elenco;
@@ -28,7 +28,7 @@ void togliFiniti() {
 }
 
 void attendiFili() {
-    const QDeadlineTimer fine(AttesaFine);
+    const QDeadlineTimer fine(attesaFine);
     for (QThread *filo : fili())
         filo->wait(fine);
     togliFiniti();

@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr QLatin1StringView FileDecodificatore{"multimedia/libffmpegmediaplugin.so"};
+constexpr QLatin1StringView fileDecodificatore{"multimedia/libffmpegmediaplugin.so"};
 
 } // namespace
 
@@ -21,7 +21,7 @@ FabbricaQtFilm::FabbricaQtFilm() {
 
 std::unique_ptr<Lettore> FabbricaQtFilm::crea(QWidget *padre) {
     const QDir componenti(QLibraryInfo::path(QLibraryInfo::PluginsPath));
-    if (!componenti.exists(FileDecodificatore))
+    if (!componenti.exists(fileDecodificatore))
         return nullptr;
     return std::make_unique<LettoreQt>(padre);
 }

@@ -18,9 +18,9 @@ struct Piani {
 struct Coefficienti {
     int y, rV, gU, gV, bU;
 };
-constexpr Coefficienti Bt601{76309, 104597, 25675, 53279, 132201};
-constexpr Coefficienti Bt709{76309, 117489, 13975, 34925, 138438};
-constexpr int RigheBt601 = 576; // taller films follow the newer rule
+constexpr Coefficienti bt601{76309, 104597, 25675, 53279, 132201};
+constexpr Coefficienti bt709{76309, 117489, 13975, 34925, 138438};
+constexpr int righeBt601 = 576; // taller films follow the newer rule
 
 int limita(int v) {
     return std::clamp(v >> 16, 0, 255);
@@ -56,7 +56,7 @@ bool trovaPiani(const QVideoFrame &f, Piani &p) {
 
 QImage converti(const Piani &p, const QSize &misura) {
     QImage immagine(misura, QImage::Format_RGB32);
-    const Coefficienti &k = misura.height() > RigheBt601 ? Bt709 : Bt601;
+    const Coefficienti &k = misura.height() > righeBt601 ? bt709 : bt601;
     for (int riga = 0; riga < misura.height(); ++riga) {
         auto *uscita = reinterpret_cast<QRgb *>(immagine.scanLine(riga));
         const uchar *y = p.y + qsizetype(riga) * p.passoY;

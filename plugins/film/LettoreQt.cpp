@@ -11,9 +11,9 @@ using namespace std::chrono_literals;
 namespace zuvora {
 namespace {
 
-constexpr auto LimiteFile = 8s;
-constexpr auto LimiteFlusso = 12s;
-constexpr auto LimiteSilenzio = 10s; // of a station that was playing
+constexpr auto limiteFile = 8s;
+constexpr auto limiteFlusso = 12s;
+constexpr auto limiteSilenzio = 10s; // of a station that was playing
 
 } // namespace
 
@@ -45,11 +45,11 @@ void LettoreQt::avvia(std::chrono::milliseconds limite) {
     QThread *filo = nuovoFilo();
     m_motore->moveToThread(filo);
     // What an engine sent before it was let go still arrives.
-    connect(m_motore, &Motore::notizia, this, [this, quale = m_quale](const Notizia &n) {
+    connect(m_motore, &Motore::aggiornato, this, [this, quale = m_quale](const Notizia &n) {
         if (quale == m_quale)
             ricevi(n);
     });
-    connect(m_motore, &Motore::fotogramma, this, [this, quale = m_quale] {
+    connect(m_motore, &Motore::consegnato, this, [this, quale = m_quale] {
         if (quale == m_quale && m_schermo != nullptr)
             m_schermo->mostra(m_passaggio->prendi());
     });
@@ -75,14 +75,14 @@ void LettoreQt::congeda() {
 
 void LettoreQt::apriFile(const QString &percorso) {
     m_flusso = false;
-    avvia(LimiteFile);
+    avvia(limiteFile);
     aMotore([motore = m_motore, percorso] { motore->apriFile(percorso); });
     annuncia();
 }
 
 void LettoreQt::apriFlusso(const QUrl &indirizzo) {
     m_flusso = true;
-    avvia(LimiteFlusso);
+    avvia(limiteFlusso);
     aMotore([motore = m_motore, indirizzo] { motore->apriFlusso(indirizzo); });
     annuncia();
 }
@@ -115,7 +115,7 @@ void LettoreQt::setVolume(int percento) {
 void LettoreQt::ricevi(const Notizia &notizia) {
     m_notizia = notizia;
     if (m_flusso && notizia.stato == StatoLettore::InCorso)
-        m_limite.start(LimiteSilenzio);
+        m_limite.start(limiteSilenzio);
     else
         m_limite.stop();
     annuncia();

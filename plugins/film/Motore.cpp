@@ -16,12 +16,12 @@ namespace zuvora {
 namespace {
 
 // What has been decoded to its end sounds on for this time: the output holds it still.
-constexpr auto Coda = 150ms;
+constexpr auto coda = 150ms;
 
 // Some films creep just before their end for seconds, until the decoder says that it is the end.
-constexpr qint64 PressoLaFine = 1000; // milliseconds
-constexpr auto FermoPressoLaFine = 1s;
-constexpr qint64 PassoMinimo = 50; // milliseconds
+constexpr qint64 pressoLaFine = 1000; // milliseconds
+constexpr auto fermoPressoLaFine = 1s;
+constexpr qint64 passoMinimo = 50; // milliseconds
 
 // The ear hears loudness by ratios.
 float perOrecchio(int percento) {
@@ -49,7 +49,7 @@ bool Motore::prepara() {
     m_lettore->setVideoSink(m_film.get());
     connect(m_film.get(), &QVideoSink::videoFrameChanged, this, [this](const QVideoFrame &f) {
         if (m_passaggio->metti(f))
-            Q_EMIT fotogramma();
+            Q_EMIT consegnato();
     });
     connect(m_lettore.get(), &QMediaPlayer::errorOccurred, this,
             [this](QMediaPlayer::Error, const QString &dettaglio) { sbaglia(dettaglio); });
@@ -70,8 +70,8 @@ void Motore::apriFile(const QString &percorso) {
 void Motore::apriFlusso(const QUrl &indirizzo) {
     m_flusso = true;
     auto *stazione = new Stazione(this);
-    connect(stazione, &Stazione::trovata, this, &Motore::apri);
-    connect(stazione, &Stazione::mancata, this, &Motore::guasta);
+    connect(stazione, &Stazione::trovato, this, &Motore::apri);
+    connect(stazione, &Stazione::mancato, this, &Motore::guasta);
     stazione->cerca(indirizzo);
 }
 
@@ -112,7 +112,7 @@ void Motore::aggiorna() {
             guasta(GuastoLettore::Interrotto, u"La stazione ha smesso di trasmettere."_s);
             return;
         }
-        QTimer::singleShot(m_notizia.haUscita ? Coda : 0ms, this, &Motore::finisci);
+        QTimer::singleShot(m_notizia.haUscita ? coda : 0ms, this, &Motore::finisci);
         return;
     } else if (m_lettore->playbackState() == QMediaPlayer::PlayingState) {
         m_notizia.stato = StatoLettore::InCorso;
@@ -122,16 +122,16 @@ void Motore::aggiorna() {
         return; // stopped: the end follows
     }
     sorvegliaFine();
-    Q_EMIT notizia(m_notizia);
+    Q_EMIT aggiornato(m_notizia);
 }
 
 void Motore::sorvegliaFine() {
-    const bool vicina = m_notizia.durata > 0 && m_notizia.durata - m_notizia.posizione < PressoLaFine;
+    const bool vicina = m_notizia.durata > 0 && m_notizia.durata - m_notizia.posizione < pressoLaFine;
     if (m_notizia.stato != StatoLettore::InCorso || !vicina)
         m_ultimo.stop();
-    else if (!m_ultimo.isActive() || std::abs(m_notizia.posizione - m_segno) > PassoMinimo) {
+    else if (!m_ultimo.isActive() || std::abs(m_notizia.posizione - m_segno) > passoMinimo) {
         m_segno = m_notizia.posizione;
-        m_ultimo.start(FermoPressoLaFine);
+        m_ultimo.start(fermoPressoLaFine);
     }
 }
 
@@ -141,7 +141,7 @@ void Motore::finisci() {
     m_ultimo.stop();
     m_notizia.stato = StatoLettore::Finito;
     m_notizia.posizione = m_notizia.durata;
-    Q_EMIT notizia(m_notizia);
+    Q_EMIT aggiornato(m_notizia);
 }
 
 // Stopped, it tells nothing more; played again, it begins from the start.
@@ -151,7 +151,7 @@ void Motore::finisciSeFermo() {
     m_lettore->stop(); // tells of its way back to the start first
     m_notizia.stato = StatoLettore::Finito;
     m_notizia.posizione = m_notizia.durata;
-    Q_EMIT notizia(m_notizia);
+    Q_EMIT aggiornato(m_notizia);
 }
 
 void Motore::guasta(GuastoLettore guasto, const QString &motivo) {
@@ -160,7 +160,7 @@ void Motore::guasta(GuastoLettore guasto, const QString &motivo) {
     m_notizia.motivo = motivo;
     if (m_lettore != nullptr)
         m_lettore->pause();
-    Q_EMIT notizia(m_notizia);
+    Q_EMIT aggiornato(m_notizia);
 }
 
 void Motore::sbaglia(const QString &dettaglio) {

@@ -35,8 +35,8 @@ public:
     void setVolume(int percento);
 
 Q_SIGNALS:
-    void notizia(const zuvora::Notizia &n);
-    void fotogramma(); // the passage holds a frame to fetch
+    void aggiornato(const zuvora::Notizia &n);
+    void consegnato(); // the passage holds a frame to fetch
 
 private:
     bool prepara();

@@ -8,10 +8,10 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr int MassimoRinvii = 8;
-constexpr int MassimoListe = 3;                   // lists that lead to lists
-constexpr qint64 MassimoLista = 256 * 1024;       // bytes
-constexpr QByteArrayView SegnoDiretta{"#EXT-X-"}; // a list of pieces of one stream: the decoder follows it itself
+constexpr int massimoRinvii = 8;
+constexpr int massimoListe = 3;                   // lists that lead to lists
+constexpr qint64 massimoLista = 256 * 1024;       // bytes
+constexpr QByteArrayView segnoDiretta{"#EXT-X-"}; // a list of pieces of one stream: the decoder follows it itself
 
 bool eWeb(const QUrl &indirizzo) {
     return indirizzo.isValid() && !indirizzo.host().isEmpty() &&
@@ -65,12 +65,12 @@ void Stazione::cerca(const QUrl &indirizzo) {
 
 void Stazione::chiedi(const QUrl &indirizzo) {
     if (!eWeb(indirizzo)) {
-        Q_EMIT mancata(GuastoLettore::NonRaggiunto,
+        Q_EMIT mancato(GuastoLettore::NonRaggiunto,
                        u"L'indirizzo non è quello di una stazione: deve cominciare con http:// o https://."_s);
         return;
     }
     QNetworkRequest richiesta(indirizzo);
-    richiesta.setMaximumRedirectsAllowed(MassimoRinvii);
+    richiesta.setMaximumRedirectsAllowed(massimoRinvii);
     richiesta.setHeader(QNetworkRequest::UserAgentHeader, u"Zuvora"_s);
     QNetworkReply *risposta = m_rete.get(richiesta);
     connect(risposta, &QNetworkReply::metaDataChanged, this, [this, risposta] { esamina(*risposta); });
@@ -86,29 +86,29 @@ void Stazione::esamina(QNetworkReply &risposta) {
     const QUrl indirizzo = risposta.url();
     if (ePagina(tipo)) {
         lascia(risposta);
-        Q_EMIT mancata(GuastoLettore::PaginaWeb, u"L'indirizzo è quello di una pagina web, non di una stazione."_s);
+        Q_EMIT mancato(GuastoLettore::PaginaWeb, u"L'indirizzo è quello di una pagina web, non di una stazione."_s);
     } else if (eLista(risposta, tipo)) {
         connect(&risposta, &QNetworkReply::readyRead, this, [this, r = &risposta] {
-            if (r->bytesAvailable() > MassimoLista)
+            if (r->bytesAvailable() > massimoLista)
                 leggiLista(*r);
         });
     } else {
         lascia(risposta);
-        Q_EMIT trovata(indirizzo);
+        Q_EMIT trovato(indirizzo);
     }
 }
 
 void Stazione::leggiLista(QNetworkReply &risposta) {
     const QUrl indirizzo = risposta.url();
-    const QByteArray lista = risposta.read(MassimoLista);
+    const QByteArray lista = risposta.read(massimoLista);
     lascia(risposta);
-    if (lista.contains(SegnoDiretta)) {
-        Q_EMIT trovata(indirizzo);
+    if (lista.contains(segnoDiretta)) {
+        Q_EMIT trovato(indirizzo);
         return;
     }
     const QUrl voce = primaVoce(lista, indirizzo);
-    if (voce.isEmpty() || ++m_liste > MassimoListe)
-        Q_EMIT mancata(GuastoLettore::Illeggibile,
+    if (voce.isEmpty() || ++m_liste > massimoListe)
+        Q_EMIT mancato(GuastoLettore::Illeggibile,
                        u"La lista di stazioni all'indirizzo dato non ne contiene alcuna."_s);
     else
         chiedi(voce);
@@ -127,9 +127,9 @@ void Stazione::concludi(QNetworkReply &risposta) {
                              risposta.error() == QNetworkReply::RemoteHostClosedError;
     lascia(risposta);
     if (altraLingua)
-        Q_EMIT trovata(indirizzo);
+        Q_EMIT trovato(indirizzo);
     else
-        Q_EMIT mancata(GuastoLettore::NonRaggiunto, motivo);
+        Q_EMIT mancato(GuastoLettore::NonRaggiunto, motivo);
 }
 
 void Stazione::lascia(QNetworkReply &risposta) {

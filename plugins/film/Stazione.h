@@ -21,8 +21,8 @@ public:
     static QUrl primaVoce(const QByteArray &lista, const QUrl &base);
 
 Q_SIGNALS:
-    void trovata(const QUrl &indirizzo);
-    void mancata(zuvora::GuastoLettore guasto, const QString &motivo);
+    void trovato(const QUrl &indirizzo);
+    void mancato(zuvora::GuastoLettore guasto, const QString &motivo);
 
 private:
     void chiedi(const QUrl &indirizzo);

@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr qint64 PocoResto = 128 * 1024; // bytes, some three seconds
+constexpr qint64 pocoResto = 128 * 1024; // bytes, some three seconds
 
 } // namespace
 
@@ -23,8 +23,8 @@ qint64 Coda::readData(char *dove, qint64 massimo) {
     const qint64 quanti = std::min<qint64>(massimo, m_campioni.size());
     std::memcpy(dove, m_campioni.constData(), std::size_t(quanti));
     m_campioni.remove(0, quanti);
-    if (m_campioni.size() < PocoResto)
-        Q_EMIT scarsa();
+    if (m_campioni.size() < pocoResto)
+        Q_EMIT consumato();
     return quanti;
 }
 
@@ -45,7 +45,7 @@ void MotoreVoce::parla(const QString &testo, std::optional<Timbro> timbro) {
     m_pezzi = pezziDaDire(testo);
     m_timbro = timbro;
     if (m_pezzi.isEmpty()) {
-        Q_EMIT cambiata(StatoVoce::Finito, {});
+        Q_EMIT cambiato(StatoVoce::Finito, {});
         return;
     }
     prossimoPezzo();
@@ -56,27 +56,27 @@ void MotoreVoce::parla(const QString &testo, std::optional<Timbro> timbro) {
     m_uscita = std::make_unique<QAudioSink>(uscita, formato);
     connect(m_uscita.get(), &QAudioSink::stateChanged, this, &MotoreVoce::segui);
     // Queued: the queue is being read when it tells that it runs low.
-    connect(&m_coda, &Coda::scarsa, this, &MotoreVoce::prossimoPezzo, Qt::QueuedConnection);
+    connect(&m_coda, &Coda::consumato, this, &MotoreVoce::prossimoPezzo, Qt::QueuedConnection);
     m_uscita->start(&m_coda);
 }
 
 void MotoreVoce::prossimoPezzo() {
-    if (!m_pezzi.isEmpty() && m_coda.bytesAvailable() < PocoResto)
+    if (!m_pezzi.isEmpty() && m_coda.bytesAvailable() < pocoResto)
         m_coda.metti(sintetizza(m_pezzi.takeFirst(), m_timbro));
 }
 
 void MotoreVoce::segui(QAudio::State stato) {
     if (stato == QAudio::ActiveState)
-        Q_EMIT cambiata(StatoVoce::Parla, {});
+        Q_EMIT cambiato(StatoVoce::Parla, {});
     else if (m_uscita->error() != QAudio::NoError && m_uscita->error() != QAudio::UnderrunError)
         guasta(u"il servizio audio ha rifiutato il suono."_s);
     else if (stato == QAudio::IdleState && m_pezzi.isEmpty() && m_coda.bytesAvailable() == 0)
-        Q_EMIT cambiata(StatoVoce::Finito, {});
+        Q_EMIT cambiato(StatoVoce::Finito, {});
 }
 
 void MotoreVoce::guasta(const QString &motivo) {
     m_pezzi.clear();
-    Q_EMIT cambiata(StatoVoce::Guasto, motivo);
+    Q_EMIT cambiato(StatoVoce::Guasto, motivo);
 }
 
 } // namespace zuvora

@@ -18,7 +18,7 @@ public:
     qint64 bytesAvailable() const override { return m_campioni.size() + QIODevice::bytesAvailable(); }
 
 Q_SIGNALS:
-    void scarsa(); // little is left
+    void consumato(); // little is left
 
 protected:
     qint64 readData(char *dove, qint64 massimo) override;
@@ -35,7 +35,7 @@ public:
     void parla(const QString &testo, std::optional<zuvora::Timbro> timbro);
 
 Q_SIGNALS:
-    void cambiata(zuvora::StatoVoce stato, const QString &motivo);
+    void cambiato(zuvora::StatoVoce stato, const QString &motivo);
 
 private:
     void prossimoPezzo();

@@ -6,8 +6,8 @@
 namespace zuvora {
 namespace {
 
-constexpr qsizetype MassimoPezzo = 400; // characters
-constexpr int Tratto = 200;             // milliseconds that the engine hands over at a time
+constexpr qsizetype massimoPezzo = 400; // characters
+constexpr int tratto = 200;             // milliseconds that the engine hands over at a time
 
 std::mutex &turno() {
     static std::mutex chiave;
@@ -15,7 +15,7 @@ std::mutex &turno() {
 }
 
 int avvia() {
-    return espeak_Initialize(AUDIO_OUTPUT_SYNCHRONOUS, Tratto, nullptr, espeakINITIALIZE_DONT_EXIT);
+    return espeak_Initialize(AUDIO_OUTPUT_SYNCHRONOUS, tratto, nullptr, espeakINITIALIZE_DONT_EXIT);
 }
 
 const char *nomeVoce(std::optional<Timbro> timbro) {
@@ -35,16 +35,16 @@ bool fineFrase(QChar c) {
 
 // How much of the text goes into the next piece.
 qsizetype primoPezzo(QStringView testo) {
-    if (testo.size() <= MassimoPezzo)
+    if (testo.size() <= massimoPezzo)
         return testo.size();
     qsizetype parola = 0;
-    for (qsizetype i = MassimoPezzo - 1; i > 0; --i) {
+    for (qsizetype i = massimoPezzo - 1; i > 0; --i) {
         if (fineFrase(testo[i]) && testo[i + 1].isSpace())
             return i + 1;
         if (parola == 0 && testo[i].isSpace())
             parola = i + 1;
     }
-    return parola > 0 ? parola : MassimoPezzo;
+    return parola > 0 ? parola : massimoPezzo;
 }
 
 } // namespace

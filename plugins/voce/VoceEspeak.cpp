@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 namespace zuvora {
 namespace {
 
-constexpr auto LimiteAvvio = 5s;
+constexpr auto limiteAvvio = 5s;
 
 } // namespace
 
@@ -33,14 +33,14 @@ void VoceEspeak::parla(const QString &testo, std::optional<Timbro> timbro) {
     QThread *filo = nuovoFilo();
     m_motore->moveToThread(filo);
     // What an engine sent before it was let go still arrives.
-    connect(m_motore, &MotoreVoce::cambiata, this, [this, quale = m_quale](StatoVoce stato, const QString &motivo) {
+    connect(m_motore, &MotoreVoce::cambiato, this, [this, quale = m_quale](StatoVoce stato, const QString &motivo) {
         if (quale == m_quale)
             passa(stato, motivo);
     });
     filo->start();
     QMetaObject::invokeMethod(
         m_motore, [motore = m_motore, testo, timbro] { motore->parla(testo, timbro); }, Qt::QueuedConnection);
-    m_limite.start(LimiteAvvio);
+    m_limite.start(limiteAvvio);
     passa(StatoVoce::Prepara, {});
 }
 

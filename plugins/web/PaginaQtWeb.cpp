@@ -17,7 +17,7 @@ namespace zuvora {
 namespace {
 
 using Impostazione = QWebEngineSettings::WebAttribute;
-constexpr std::array<std::pair<Impostazione, bool>, 15> Impostazioni = {{
+constexpr std::array<std::pair<Impostazione, bool>, 15> impostazioni = {{
     {Impostazione::LocalContentCanAccessFileUrls, false},
     {Impostazione::LocalContentCanAccessRemoteUrls, false},
     {Impostazione::JavascriptCanOpenWindows, false},
@@ -45,7 +45,7 @@ bool schemaAmmesso(const QUrl &indirizzo, bool principale) {
 } // namespace
 
 PaginaQtWeb::PaginaQtWeb(QWebEngineProfile *profilo, QObject *padre) : QWebEnginePage(profilo, padre) {
-    for (const auto &[attributo, valore] : Impostazioni)
+    for (const auto &[attributo, valore] : impostazioni)
         settings()->setAttribute(attributo, valore);
     settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
     rifiutaRichieste();

@@ -14,7 +14,7 @@ namespace {
 // The engine has no call that clears what a site stored by script. Each view has a session storage of its own, which
 // tells a site's first document in it: what stands in the site's lasting stores by then comes from an earlier page.
 // Documents without a site of their own refuse both and store nothing.
-constexpr auto DimenticaSito = R"(
+constexpr auto dimenticaSito = R"(
 try {
     if (sessionStorage.getItem('zuvora') === null) {
         localStorage.clear();
@@ -24,7 +24,7 @@ try {
 })"_L1;
 
 // These can't be cleared before the site's own scripts run: pages do without them, as in a browser that lacks them.
-constexpr auto SenzaArchivi = R"(
+constexpr auto senzaArchivi = R"(
 for (const nome of ['indexedDB', 'caches', 'webkitRequestFileSystem'])
     Object.defineProperty(window, nome, {value: undefined});
 for (const nome of ['serviceWorker', 'storage'])
@@ -46,8 +46,8 @@ QWebEngineScript copione(const QString &nome, QLatin1StringView testo, QWebEngin
 ProfiloWeb::ProfiloWeb() : m_profilo(new QWebEngineProfile) {
     m_profilo->setHttpAcceptLanguage(u"it-IT,it;q=0.9,en;q=0.5"_s);
     m_profilo->setHttpCacheType(QWebEngineProfile::NoCache);
-    m_profilo->scripts()->insert(copione(u"dimentica"_s, DimenticaSito, QWebEngineScript::ApplicationWorld));
-    m_profilo->scripts()->insert(copione(u"archivi"_s, SenzaArchivi, QWebEngineScript::MainWorld));
+    m_profilo->scripts()->insert(copione(u"dimentica"_s, dimenticaSito, QWebEngineScript::ApplicationWorld));
+    m_profilo->scripts()->insert(copione(u"archivi"_s, senzaArchivi, QWebEngineScript::MainWorld));
     QObject::connect(m_profilo, &QWebEngineProfile::downloadRequested,
                      [](QWebEngineDownloadRequest *file) { file->cancel(); });
 }

@@ -34,7 +34,7 @@ protected:
         return leggi(u"SELECT quote(Servizio)||','||quote(ServizioAttivo)||','||quote(Percorsofoto) FROM Servizi "
                      "WHERE ID=%1"_s.arg(id));
     }
-    Recordset &servizi() { return apri(Data8, cartella(), SorgenteServizi.toString()); }
+    Recordset &servizi() { return apri(Data8, cartella(), sorgenteServizi.toString()); }
     QString cartella() const { return m_cartella.path(); }
 
     QTemporaryDir m_cartella;
@@ -102,7 +102,7 @@ TEST_F(ProvaTabelle, IlPercorsoDelSuonoSiTagliaPerPosto) {
 }
 
 TEST_F(ProvaTabelle, SuonoPredefinitoEUso) {
-    Recordset &suoni = apri(Data1, cartella(), SorgenteSuoni.toString());
+    Recordset &suoni = apri(Data1, cartella(), sorgenteSuoni.toString());
     EXPECT_EQ(suonoCorrente(suoni), u""_s);
     aggiungiSuono(suoni, u"\\\\PC1\\din.wav"_s);
     EXPECT_EQ(leggi(u"SELECT DinDon FROM DinDon WHERE ID=2"_s), u"\\\\PC1\\din.wav"_s);

@@ -46,7 +46,7 @@ TEST_F(RigheContenuto, StationNamesCollide) {
 TEST_F(RigheContenuto, AStationIsAddedAndChanged) {
     i.esegui(u"DELETE FROM radio"_s);
     Data Data4;
-    Recordset &elenco = apri(Data4, i.cartella(), ElencoRadio.toString());
+    Recordset &elenco = apri(Data4, i.cartella(), elencoRadio.toString());
     salvaRadio(elenco, {u"Uno"_s, u"http://a/"_s}, true);
     salvaRadio(elenco, {u"Due"_s, u"http://b/"_s}, true);
     Data4.Refresh();
@@ -58,7 +58,7 @@ TEST_F(RigheContenuto, AStationIsAddedAndChanged) {
 TEST_F(RigheContenuto, TitlesAreFoundAgain) {
     i.esegui(u"DELETE FROM VideoYT"_s);
     Data Data1;
-    Recordset &elenco = apri(Data1, i.cartella(), ElencoYouTube.toString());
+    Recordset &elenco = apri(Data1, i.cartella(), elencoYouTube.toString());
     aggiungiYouTube(elenco, u"L'ORO DI ROMA"_s, u"https://x/"_s);
     const std::pair<QString, bool> casi[] = {{u"L'ORO DI ROMA"_s, true},
                                              {u"l'oro di roma"_s, true},

@@ -128,7 +128,7 @@ TEST_F(Elenchi, UnClicUnSegnale) {
 
 TEST_F(Elenchi, CartelleDaTastiera) {
     DirListBox elenco(&finestra, "Dir1", {0, 0, 3000, 3000});
-    QSignalSpy cambi(&elenco, &DirListBox::cambiata);
+    QSignalSpy cambi(&elenco, &DirListBox::cambiato);
     EXPECT_TRUE(elenco.setPath(radice.path() + u"/."_s));
     EXPECT_EQ(elenco.Path(), QDir::toNativeSeparators(radice.path()));
     ASSERT_EQ(elenco.ListCount(), 2);
@@ -196,7 +196,7 @@ TEST_F(Elenchi, DiscoCartellaEFileVannoInsieme) {
     EXPECT_EQ(scelta.percorso(), QString());
     file.setListIndex(1);
     EXPECT_EQ(scelta.percorso(), u"/foto/b.jpg"_s);
-    QSignalSpy assente(&scelta, &SceltaFile::nonDisponibile);
+    QSignalSpy assente(&scelta, &SceltaFile::rifiutato);
     dischi.setFocus();
     QTest::keyClick(&dischi, Qt::Key_Down); // to the share that never answers
     EXPECT_EQ(assente.size(), 1);

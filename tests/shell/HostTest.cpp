@@ -93,9 +93,14 @@ TEST_F(ConForm, TastiNonAmmessiCadono) {
 }
 
 TEST_F(ConForm, DidascaliaLungaSiStringeENonSiTaglia) {
-    EXPECT_TRUE(didascalieTagliate(form).isEmpty());
+    form.show();
+    const auto stretta = [&] { return form.Lungo.font() != form.Campo.font(); };
+    EXPECT_TRUE(stretta() && didascalieTagliate(form).isEmpty());
+    form.Lungo.setCaption(u"Breve"_s);
+    EXPECT_FALSE(stretta());
+    form.Lungo.setCaption(u"Una didascalia piuttosto larga"_s);
+    EXPECT_TRUE(stretta() && didascalieTagliate(form).isEmpty());
     form.Lungo.setCaption(u"Una didascalia che in nessun modo può stare in così poco spazio"_s);
-    form.Lungo.show();
     EXPECT_EQ(didascalieTagliate(form), QStringList{u"Btn(1)"_s});
 }
 

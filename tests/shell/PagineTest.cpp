@@ -46,6 +46,7 @@ TEST_F(Pagine, LaPaginaApertaHaIlFuocoSullaRisoluzioneScelta) {
 }
 
 TEST_F(Pagine, LaPosizioneDiceSeIlSecondoMonitorManca) {
+    pannello.show();
     QWidget &pagina = apriPagina("Position", "BoxImpostazioni(4)");
     EXPECT_TRUE(testo(pagina, "Avviso").startsWith(u"Il secondo monitor non è collegato"_s));
     EXPECT_TRUE(didascalieTagliate(pannello).isEmpty()) << didascalieTagliate(pannello).join(u' ').toStdString();
@@ -82,6 +83,7 @@ TEST_F(Pagine, UnoSchermoScalatoHaISuoiPixel) {
 }
 
 TEST_F(Pagine, INumeriDegliSchermiApronoIlSito) {
+    pannello.show();
     QWidget &pagina = apriPagina("Position", "BoxImpostazioni(4)");
     for (const char *numero : {"Label1(3)", "Label1(4)"})
         QTest::mouseClick(&trova<QWidget>(pagina, numero), Qt::LeftButton);
@@ -119,6 +121,7 @@ TEST_F(Pagine, MonitorDellaMacchina) {
 }
 
 TEST_F(Pagine, SchermoDelDesigner) {
+    pannello.show();
     QWidget &pagina = apriPagina("Position", "BoxImpostazioni(4)");
     const auto &segno = trova<PictureBox>(pagina, "Image4");
     EXPECT_EQ(segno.Left(), 840);

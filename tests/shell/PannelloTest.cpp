@@ -150,17 +150,6 @@ TEST_F(Pannello, LaSecondaPartenzaPortaDavantiLaFinestra) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return chiamate == 2; }));
 }
 
-TEST_F(Pannello, FunzioneNonAncoraDisponibileLoDice) {
-    auto voci = vociDelPannello();
-    voci.front().apri = std::monostate{};
-    voci.front().soloPrincipale = false;
-    apriPannello(voci);
-    QString righe;
-    guida.messaggio(&righe);
-    clicca(*pannello, voci.front().nome);
-    EXPECT_TRUE(righe.startsWith(u"Questa funzione non è ancora disponibile"_s));
-}
-
 TEST_F(Pannello, UscitaNegataLasciaLaPaginaAperta) {
     apriPannello();
     clicca(*pannello, "Position");

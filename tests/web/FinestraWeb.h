@@ -29,7 +29,7 @@ public:
     explicit FinestraWeb(const QString &componenti = QStringLiteral(CARTELLA_COMPONENTI)) {
         piattaforma.cartella = componenti;
         resize(640, 420);
-        connect(&browser, &Browser::terminata, this, [this](bool riuscita) { m_esiti << riuscita; });
+        connect(&browser, &Browser::terminato, this, [this](bool riuscita) { m_esiti << riuscita; });
         show();
     }
     // Goes to an address and waits for the outcome: true when a page is shown.

@@ -4,6 +4,7 @@
 #include "shell/host/ComponenteVoce.h"
 #include "shell/host/Piattaforma.h"
 #include "shell/logic/FileAtomico.h"
+#include "shell/store/NomiFile.h"
 
 #include <QApplication>
 #include <QTextCursor>
@@ -14,14 +15,13 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr int Larghezza = 9360; // twips
-constexpr int AltezzaChiusa = 4305;
-constexpr int AltezzaAperta = 7575;
-constexpr qint64 MassimoFrase = 1024 * 1024; // bytes
-constexpr qint64 MassimoGuida = 4 * 1024 * 1024;
-constexpr QStringView NomeFileGuida = u"th19.rtf";
-constexpr QStringView Apri = u"Apri Info";
-constexpr QStringView Chiudi = u"Chiudi Info";
+constexpr int larghezza = 9360; // twips
+constexpr int altezzaChiusa = 4305;
+constexpr int altezzaAperta = 7575;
+constexpr qint64 massimoFrase = 1024 * 1024; // bytes
+constexpr qint64 massimoGuida = 4 * 1024 * 1024;
+constexpr QStringView testoApri = u"Apri Info";
+constexpr QStringView testoChiudi = u"Chiudi Info";
 
 int acceso(bool si) {
     return si ? 1 : 0;
@@ -45,8 +45,8 @@ QString testoStato(const Voce &voce) {
 
 } // namespace
 
-Boccuccia::Boccuccia(const Ambiente &ambiente_, QWidget *padre)
-    : Form(ambiente_, "Boccuccia", "Modulo Vocale (Text-to-Speech)", {Larghezza, AltezzaChiusa}, padre) {
+Boccuccia::Boccuccia(const Ambiente &contesto, QWidget *padre)
+    : Form(contesto, "Boccuccia", "Modulo Vocale (Text-to-Speech)", {larghezza, altezzaChiusa}, padre) {
     disponi();
     quando(m_sorgente, &GruppoRadio::cambiato, [this](int) { mostraVoci(); });
     alClic(PB1, [this](int i) { inserisci(i); });
@@ -63,7 +63,7 @@ void Boccuccia::disponi() {
     ctButton2(1).setRuolo(Ruolo::Principale);
     RT2.setAccessibleName(u"Informazioni sulle variabili della frase"_s);
     for (const auto &[i, bottone] : PB1)
-        bottone->setToolTip(u"Inserisce %1 nella frase"_s.arg(Variabili.at(std::size_t(i)).segno));
+        bottone->setToolTip(u"Inserisce %1 nella frase"_s.arg(variabili.at(std::size_t(i)).segno));
     for (const auto &[i, etichetta] : Label2)
         etichetta->setAllineamento(Qt::AlignHCenter);
     Stato.setAbbrevia(true);
@@ -73,8 +73,8 @@ void Boccuccia::disponi() {
 }
 
 void Boccuccia::leggi() {
-    const QString percorso = m_percorsi.unisci(cartella(), NomeFileFrase);
-    const FileLetto file = leggiFile(percorso, MassimoFrase);
+    const QString percorso = m_percorsi.unisci(cartella(), nomi::frase);
+    const FileLetto file = leggiFile(percorso, massimoFrase);
     if (!file.motivo.isEmpty() && m_percorsi.esamina(percorso).specie != Specie::Manca)
         m_avviso = file.motivo;
     const FraseTTS letta = interpretaFrase(file.contenuto);
@@ -86,7 +86,7 @@ void Boccuccia::leggi() {
 }
 
 void Boccuccia::leggiGuida() {
-    const FileLetto file = leggiFile(m_percorsi.unisci(cartella(), NomeFileGuida), MassimoGuida);
+    const FileLetto file = leggiFile(m_percorsi.unisci(cartella(), nomi::aiutoVoce), massimoGuida);
     if (file.motivo.isEmpty())
         RT2.mostra(leggiRtf(file.contenuto));
     else
@@ -110,7 +110,7 @@ void Boccuccia::salva() {
                          acceso(!VociPS(0).isChecked())};
     QString motivo = motivoNonSalvabile(frase.frase);
     if (const auto record = componiFrase(frase); motivo.isEmpty() && record)
-        motivo = scriviFile(m_percorsi.unisci(cartella(), NomeFileFrase), *record);
+        motivo = scriviFile(m_percorsi.unisci(cartella(), nomi::frase), *record);
     if (motivo.isEmpty())
         ctButton2(1).spunta();
     else
@@ -166,10 +166,10 @@ void Boccuccia::mostraVoci() {
 }
 
 void Boccuccia::cambiaGuida() {
-    const bool apre = ctButton2(2).Caption() == Apri;
-    setMisuraInterna({Larghezza, apre ? AltezzaAperta : AltezzaChiusa});
+    const bool apre = ctButton2(2).Caption() == testoApri;
+    setMisuraInterna({larghezza, apre ? altezzaAperta : altezzaChiusa});
     GroupBox4.setVisible(apre);
-    ctButton2(2).setCaption((apre ? Chiudi : Apri).toString());
+    ctButton2(2).setCaption((apre ? testoChiudi : testoApri).toString());
 }
 
 } // namespace zuvora

@@ -4,9 +4,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 
-GestioneUtenti::GestioneUtenti(const Ambiente &ambiente_, const QString &nome, bool attivo, Salva salva,
+GestioneUtenti::GestioneUtenti(const Ambiente &contesto, const QString &nome, bool attivo, Salva salva,
                                std::function<void()> salvato, QWidget *padre)
-    : Form(ambiente_, "GestioneUtenti", "Gestione Servizi", {7575, 3210}, padre), m_salva(std::move(salva)),
+    : Form(contesto, "GestioneUtenti", "Gestione Servizi", {7575, 3210}, padre), m_salva(std::move(salva)),
       m_salvato(std::move(salvato)) {
     CBT_1.setRuolo(Ruolo::Principale);
     text1_0.setSvuotaAppunti(ambiente().piattaforma, Edit::Svuota::AlFuoco);

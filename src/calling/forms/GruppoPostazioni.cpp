@@ -9,14 +9,14 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr Posto PostoGruppo{120, 1800, 5295, 2295}; // below the button that saves the server's data
-constexpr int Linee = 5;                            // in each of the two blocks
-constexpr int LarghezzaBlocco = 2580;
-constexpr int PrimaLinea = 300;
-constexpr int PassoLinea = 375;
+constexpr Posto postoGruppo{120, 1800, 5295, 2295}; // below the button that saves the server's data
+constexpr int linee = 5;                            // in each of the two blocks
+constexpr int larghezzaBlocco = 2580;
+constexpr int primaLinea = 300;
+constexpr int passoLinea = 375;
 
 Posto nelBlocco(int postazione, int left, int width) {
-    return {120 + postazione / Linee * LarghezzaBlocco + left, PrimaLinea + postazione % Linee * PassoLinea, width,
+    return {120 + postazione / linee * larghezzaBlocco + left, primaLinea + postazione % linee * passoLinea, width,
             255};
 }
 
@@ -49,7 +49,7 @@ struct GruppoPostazioni::Linea {
 };
 
 GruppoPostazioni::GruppoPostazioni(Pagina &pagina)
-    : GroupBox(&pagina, "GruppoPostazioni", "Tipo di postazione", PostoGruppo), m_pagina(pagina) {
+    : GroupBox(&pagina, "GruppoPostazioni", "Tipo di postazione", postoGruppo), m_pagina(pagina) {
     for (int i = 0; i < numeroPostazioni; ++i) {
         const Linea &linea = *m_linee.emplace_back(std::make_unique<Linea>(this, i));
         m_pagina.quando(linea.gruppo, &GruppoRadio::cambiato, [this](int Index) { imposta(Index); });

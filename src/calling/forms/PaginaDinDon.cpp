@@ -21,7 +21,7 @@ PaginaDinDon::PaginaDinDon(const Apertura &apertura) : Pagina(apertura, "BoxImpo
 }
 
 void PaginaDinDon::riempi() {
-    zuvora::apri(Data3, cartella(), SorgenteSuoni.toString());
+    zuvora::apri(Data3, cartella(), sorgenteSuoni.toString());
     CheckBox1.setChecked(leggiUsoSuono(cartella()));
 }
 
@@ -30,7 +30,7 @@ void PaginaDinDon::nuovo() {
     if (!scelto)
         return;
     const QString percorso = percorsoSuono(m_percorsi.conUnita(*scelto), ambiente().piattaforma.nomeMacchina());
-    aggiungiSuono(zuvora::apri(Data3, cartella(), SorgenteSuoni.toString()), percorso);
+    aggiungiSuono(zuvora::apri(Data3, cartella(), sorgenteSuoni.toString()), percorso);
     Data3.Refresh();
 }
 

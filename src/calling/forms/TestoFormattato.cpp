@@ -7,11 +7,11 @@
 namespace zuvora {
 namespace {
 
-constexpr double AltezzaRiga = 125; // per cent; the house font's lines would touch
+constexpr double altezzaRiga = 125; // per cent; the house font's lines would touch
 
 QTextBlockFormat formatoDi(const ParagrafoRtf &paragrafo) {
     QTextBlockFormat formato;
-    formato.setLineHeight(AltezzaRiga, QTextBlockFormat::ProportionalHeight);
+    formato.setLineHeight(altezzaRiga, QTextBlockFormat::ProportionalHeight);
     formato.setAlignment(paragrafo.allineamento);
     formato.setLeftMargin(pixelDa(paragrafo.rientro));
     formato.setTopMargin(pixelDa(paragrafo.sopra));

@@ -8,19 +8,19 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr int ColonnaNome = 2;
+constexpr int colonnaNome = 2;
 
 } // namespace
 
-UtentiServizi::UtentiServizi(const Ambiente &ambiente_, QWidget *padre)
-    : Form(ambiente_, "UtentiServizi",
-           "Gestione Servizi   (Si ricorda che i servizi disponibili sono un massimo di 20)", {7335, 6495}, padre) {
+UtentiServizi::UtentiServizi(const Ambiente &contesto, QWidget *padre)
+    : Form(contesto, "UtentiServizi", "Gestione Servizi   (Si ricorda che i servizi disponibili sono un massimo di 20)",
+           {7335, 6495}, padre) {
     NrServizi.setSolaLettura(u"Il numero segue l'elenco"_s);
     NrServizi.setFocusPolicy(Qt::ClickFocus); // Tab goes from the list to what can be done with it
     ctButton2(1).setRuolo(Ruolo::Principale);
     ctButton2(2).setRuolo(Ruolo::Distruttivo);
     grid.lega(Data8);
-    apri(Data8, cartella(), SorgenteServizi.toString());
+    apri(Data8, cartella(), sorgenteServizi.toString());
     ContaAttivi();
     quando(grid, &Grid::attivato, [this] { scambia(); });
     alClic(ctButton2(1), [this] { modifica(); });
@@ -47,7 +47,7 @@ void UtentiServizi::modifica() {
     if (vuoto())
         return;
     Recordset &servizi = Data8.Recordset();
-    const QString nome = grid.testo(grid.Row(), ColonnaNome);
+    const QString nome = grid.testo(grid.Row(), colonnaNome);
     const bool attivo = eVero(servizi[u"ServizioAttivo"].Value());
     const auto salva = [this, &servizi](const QString &nuovo, bool acceso) { scriviServizio(servizi, nuovo, acceso); };
     GestioneUtenti(

@@ -7,8 +7,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr QChar Virgolette = u'"';
-constexpr int MassimoSostituzioni = 10;
+constexpr QChar doppioApice = u'"';
+constexpr int massimoSostituzioni = 10;
 
 QString conSoliLF(QString testo) {
     return testo.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').replace(QChar::LineSeparator, u'\n');
@@ -17,10 +17,10 @@ QString conSoliLF(QString testo) {
 // The text field: in quotes up to the next one, else up to the comma. Leaves `resto` behind its comma.
 QString primoCampo(QStringView &resto) {
     resto = resto.trimmed();
-    const bool traVirgolette = resto.startsWith(Virgolette);
+    const bool traVirgolette = resto.startsWith(doppioApice);
     if (traVirgolette)
         resto = resto.sliced(1);
-    qsizetype fine = resto.indexOf(traVirgolette ? Virgolette : QChar(u','));
+    qsizetype fine = resto.indexOf(traVirgolette ? doppioApice : QChar(u','));
     if (fine < 0)
         fine = resto.size();
     QString campo = resto.first(fine).toString();
@@ -74,7 +74,7 @@ FraseTTS interpretaFrase(QByteArrayView byte) {
 }
 
 QString motivoNonSalvabile(const QString &frase) {
-    if (frase.contains(Virgolette))
+    if (frase.contains(doppioApice))
         return u"La frase non può contenere le virgolette \"."_s;
     if (const QString estraneo = fuoriAnsi(conSoliLF(frase)); !estraneo.isEmpty())
         return u"La frase non può contenere il carattere \"%1\"."_s.arg(estraneo);
@@ -82,7 +82,7 @@ QString motivoNonSalvabile(const QString &frase) {
 }
 
 std::optional<QByteArray> componiFrase(const FraseTTS &frase) {
-    if (frase.frase.contains(Virgolette))
+    if (frase.frase.contains(doppioApice))
         return std::nullopt;
     const QString record = u"\"%1\",%2,%3,%4\r\n"_s;
     return inAnsi(record.arg(conSoliLF(frase.frase).replace(u"\n"_s, u"\r\n"_s), QString::number(frase.usa.value_or(0)),
@@ -90,15 +90,15 @@ std::optional<QByteArray> componiFrase(const FraseTTS &frase) {
 }
 
 QString testoVariabile(int indice, bool inSelezione) {
-    const QString conSpazio = Variabili.at(std::size_t(indice)).segno.toString() + u' ';
+    const QString conSpazio = variabili.at(std::size_t(indice)).segno.toString() + u' ';
     return inSelezione ? u' ' + conSpazio : conSpazio;
 }
 
 QString EspandiFrase(const QString &frase, const std::function<void()> &pausa) {
     QString testo = frase;
-    for (const Variabile &variabile : Variabili) {
+    for (const Variabile &variabile : variabili) {
         qsizetype da = 0;
-        for (int volta = 0; volta < MassimoSostituzioni; ++volta) {
+        for (int volta = 0; volta < massimoSostituzioni; ++volta) {
             const qsizetype posto = cerca(testo, variabile.segno, da);
             if (posto < 0)
                 break;

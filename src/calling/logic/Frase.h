@@ -1,7 +1,5 @@
 #pragma once
 
-#include "shell/store/NomiFile.h"
-
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
@@ -20,8 +18,6 @@ struct FraseTTS {
     std::optional<int> sistema;
 };
 
-inline constexpr QStringView NomeFileFrase = nomi::frase;
-
 // Reads whatever there is: a short record, other line ends, no quotes.
 FraseTTS interpretaFrase(QByteArrayView byte);
 // The file's content; a missing number counts as 0. Nothing when the sentence can't be stored: see motivoNonSalvabile.
@@ -34,7 +30,7 @@ struct Variabile {
     QStringView segno; // as it stands in the sentence
     QStringView prova; // what the trial says in its place
 };
-inline constexpr std::array<Variabile, 3> Variabili = {{
+inline constexpr std::array<Variabile, 3> variabili = {{
     {u"@varnum@", u"152"},
     {u"@varpos@", u"Postazione 5"},
     {u"@varute@", u"Servizio"},

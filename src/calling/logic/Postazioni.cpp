@@ -9,7 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr std::array<QStringView, 2> Tipi = {u"SG", u"ST"};
+constexpr std::array<QStringView, 2> tipi = {u"SG", u"ST"};
 
 const QString &tabella() {
     static const QString nome = u"PostazioneUtente"_s;
@@ -25,7 +25,7 @@ QString colonna(int postazione) {
 void ImpostaPostazione(const QString &cartella, int Index) {
     if (Index < 0 || Index >= 2 * numeroPostazioni)
         throw std::out_of_range("ImpostaPostazione");
-    scriviRiga(cartella, tabella(), {{colonna(Index / 2), Tipi[std::size_t(Index % 2)].toString()}});
+    scriviRiga(cartella, tabella(), {{colonna(Index / 2), tipi[std::size_t(Index % 2)].toString()}});
 }
 
 std::array<int, numeroPostazioni> leggiPostazioni(const QString &cartella) {
@@ -33,7 +33,7 @@ std::array<int, numeroPostazioni> leggiPostazioni(const QString &cartella) {
     std::array<int, numeroPostazioni> scelte{};
     for (int i = 0; i < numeroPostazioni; ++i) {
         const QString tipo = riga.testo(colonna(i));
-        scelte[std::size_t(i)] = tipo == Tipi[0] ? 2 * i : tipo == Tipi[1] ? 2 * i + 1 : -1;
+        scelte[std::size_t(i)] = tipo == tipi[0] ? 2 * i : tipo == tipi[1] ? 2 * i + 1 : -1;
     }
     return scelte;
 }

@@ -9,9 +9,9 @@
 namespace zuvora {
 namespace {
 
-constexpr std::size_t MassimoGruppi = 200; // whose look is kept; deeper ones have that of the last
-constexpr int MassimoMezziPunti = 200;
-constexpr int MassimoTwips = 5760;
+constexpr std::size_t massimoGruppi = 200; // whose look is kept; deeper ones have that of the last
+constexpr int massimoMezziPunti = 200;
+constexpr int massimoTwips = 5760;
 
 // What holds up to the end of a group.
 struct Stato {
@@ -66,7 +66,7 @@ template <Qt::AlignmentFlag verso> void allinea(Lettura &l, int) {
 }
 
 template <int ParagrafoRtf::*misura> void distanza(Lettura &l, int twips) {
-    l.paragrafo.*misura = std::clamp(twips, 0, MassimoTwips);
+    l.paragrafo.*misura = std::clamp(twips, 0, massimoTwips);
 }
 
 template <bool TrattoRtf::*quale> void attiva(Lettura &l, int valore) {
@@ -94,7 +94,7 @@ const Parola Parole[] = {
     {"i", attiva<&TrattoRtf::italico>},
     {"ul", attiva<&TrattoRtf::sottolineato>},
     {"ulnone", [](Lettura &l, int) { l.stato.aspetto.sottolineato = false; }},
-    {"fs", [](Lettura &l, int v) { l.stato.aspetto.punti = std::clamp(v, 2, MassimoMezziPunti) / 2.0; }},
+    {"fs", [](Lettura &l, int v) { l.stato.aspetto.punti = std::clamp(v, 2, massimoMezziPunti) / 2.0; }},
     {"cf", [](Lettura &l, int v) { l.scegliColore(v); }},
     {"red", componente<2>},
     {"green", componente<1>},
@@ -158,7 +158,7 @@ void Lettura::passo() {
 
 void Lettura::apriGruppo() {
     daIgnorare = 0;
-    if (gruppi.size() < MassimoGruppi)
+    if (gruppi.size() < massimoGruppi)
         gruppi.push_back(stato);
     else
         ++oltre;

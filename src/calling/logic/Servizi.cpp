@@ -8,16 +8,16 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr QStringView NomeLibero = u"Nessun Servizio";
+constexpr QStringView nomeLibero = u"Nessun Servizio";
 
 } // namespace
 
 bool eLibero(QStringView servizio) {
-    return servizio.toString().toUpper() == NomeLibero.toString().toUpper();
+    return servizio.toString().toUpper() == nomeLibero.toString().toUpper();
 }
 
 int contaAttivi(Data &dato, const QString &cartella) {
-    Recordset &attivi = apri(dato, cartella, SorgenteAttivi.toString());
+    Recordset &attivi = apri(dato, cartella, sorgenteAttivi.toString());
     if (attivi.RecordCount() == 0)
         return 0;
     attivi.MoveLast();
@@ -38,7 +38,7 @@ void scriviServizio(Recordset &servizi, const QString &nome, bool attivo) {
 
 void liberaServizio(Recordset &servizi) {
     scriviRecord(servizi, Record::Corrente,
-                 {{u"Servizio", NomeLibero.toString()}, {u"Percorsofoto", u""_s}, {u"ServizioAttivo", false}});
+                 {{u"Servizio", nomeLibero.toString()}, {u"Percorsofoto", u""_s}, {u"ServizioAttivo", false}});
 }
 
 } // namespace zuvora

@@ -9,8 +9,8 @@ class Data;
 class Recordset;
 
 // The services of the queue: at most twenty rows, which are named, activated and freed, never added or deleted.
-inline constexpr QStringView SorgenteServizi = u"Select * from Servizi order by [ID]asc";
-inline constexpr QStringView SorgenteAttivi = u"Select * from Servizi where[ServizioAttivo]=true";
+inline constexpr QStringView sorgenteServizi = u"Select * from Servizi order by [ID]asc";
+inline constexpr QStringView sorgenteAttivi = u"Select * from Servizi where[ServizioAttivo]=true";
 
 // The name that marks a free row, in any case.
 bool eLibero(QStringView servizio);

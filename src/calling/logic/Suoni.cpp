@@ -9,7 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr qsizetype Unita = 2; // characters of drive and colon
+constexpr qsizetype unita = 2; // characters of drive and colon
 
 const QString &configurazione() {
     static const QString nome = u"Configurazione"_s;
@@ -19,7 +19,7 @@ const QString &configurazione() {
 } // namespace
 
 QString percorsoSuono(QStringView scelto, QStringView macchina) {
-    return u"\\\\"_s + macchina.toString() + scelto.mid(Unita).toString();
+    return u"\\\\"_s + macchina.toString() + scelto.mid(unita).toString();
 }
 
 void aggiungiSuono(Recordset &suoni, const QString &percorso) {

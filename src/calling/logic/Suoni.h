@@ -8,7 +8,7 @@ namespace zuvora {
 class Recordset;
 
 // The call sounds and the one in use.
-inline constexpr QStringView SorgenteSuoni = u"DinDon";
+inline constexpr QStringView sorgenteSuoni = u"DinDon";
 
 // The path as it is stored: drive and colon, which are the first two characters whatever they are, give way to the
 // machine's name, by which the other programs reach the file.

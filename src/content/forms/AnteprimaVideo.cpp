@@ -2,8 +2,8 @@
 
 namespace zuvora {
 
-AnteprimaVideo::AnteprimaVideo(const Ambiente &ambiente_, const QString &percorso, QWidget *padre)
-    : Form(ambiente_, "AnteprimaVideo", "Anteprima Video", {9735, 7245}, padre) {
+AnteprimaVideo::AnteprimaVideo(const Ambiente &contesto, const QString &percorso, QWidget *padre)
+    : Form(contesto, "AnteprimaVideo", "Anteprima Video", {9735, 7245}, padre) {
     MP1.setFile(percorso);
     MP1.avvia();
 }

@@ -11,9 +11,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr int LarghezzaVolume = 240; // pixels
-constexpr int Margine = 48;
-constexpr double Ingrandimento = 2; // of the station's name over the form's letters
+constexpr int larghezzaVolume = 240; // pixels
+constexpr int margine = 48;
+constexpr double ingrandimento = 2; // of the station's name over the form's letters
 
 QLabel *etichetta(QWidget *padre, const char *nome) {
     auto *nuova = new QLabel(padre);
@@ -41,7 +41,7 @@ AscoltoRadio::~AscoltoRadio() = default;
 
 void AscoltoRadio::costruisci() {
     QFont grande = font();
-    grande.setPointSizeF(grande.pointSizeF() * Ingrandimento);
+    grande.setPointSizeF(grande.pointSizeF() * ingrandimento);
     m_nome->setFont(grande);
     QFont evidente = font();
     evidente.setBold(true);
@@ -51,10 +51,10 @@ void AscoltoRadio::costruisci() {
     m_volume->setRange(0, 100);
     m_volume->setSingleStep(10);
     m_volume->setValue(100);
-    m_volume->setFixedWidth(LarghezzaVolume);
+    m_volume->setFixedWidth(larghezzaVolume);
     auto *tutto = new QVBoxLayout(this);
-    tutto->setContentsMargins(Margine, Margine, Margine, Margine);
-    tutto->setSpacing(Margine / 2);
+    tutto->setContentsMargins(margine, margine, margine, margine);
+    tutto->setSpacing(margine / 2);
     tutto->addStretch();
     tutto->addWidget(m_nome);
     tutto->addWidget(m_stato);
@@ -109,7 +109,7 @@ void AscoltoRadio::aggiorna() {
         break;
     case StatoLettore::Guasto:
         if (m_lettore->guasto() == GuastoLettore::PaginaWeb)
-            Q_EMIT paginaWeb();
+            Q_EMIT rimandato();
         else
             mostra(u"Interrotto"_s, m_lettore->motivo());
         break;

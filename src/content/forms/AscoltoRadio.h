@@ -23,7 +23,7 @@ public:
 
 Q_SIGNALS:
     void cambiato();
-    void paginaWeb(); // the address answers with a page of the web
+    void rimandato(); // the address answers with a page of the web
 
 protected:
     void paintEvent(QPaintEvent *e) override;

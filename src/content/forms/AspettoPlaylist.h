@@ -27,7 +27,7 @@ struct AspettoPlaylist {
     Posto File2;
 };
 
-inline constexpr AspettoPlaylist AspettoFoto{
+inline constexpr AspettoPlaylist aspettoFoto{
     .tipo = &PlaylistFoto,
     .nome = "ImpostaFoto",
     .didascalia = "Impostazione Foto",
@@ -48,7 +48,7 @@ inline constexpr AspettoPlaylist AspettoFoto{
     .File2 = {6480, 4545, 3255, 2370},
 };
 
-inline constexpr AspettoPlaylist AspettoVideo{
+inline constexpr AspettoPlaylist aspettoVideo{
     .tipo = &PlaylistVideo,
     .nome = "ImpostaVideo",
     .didascalia = "Impostazione Video",

@@ -6,8 +6,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 
-Form3::Form3(const Ambiente &ambiente_, const QString &host, QWidget *padre)
-    : Form(ambiente_, "Form3", "Impostazione Meteo per FrontEnd", {11580, 6255}, padre), m_indirizzo(host) {
+Form3::Form3(const Ambiente &contesto, const QString &host, QWidget *padre)
+    : Form(contesto, "Form3", "Impostazione Meteo per FrontEnd", {11580, 6255}, padre), m_indirizzo(host) {
     grid.setAccessibleName(u"Comuni"_s);
     grid.lega(Data2);
     quando(Text4, &QLineEdit::textChanged, [this] { cerca(); });
@@ -19,7 +19,7 @@ Form3::Form3(const Ambiente &ambiente_, const QString &host, QWidget *padre)
     bottoneDi(Text4, CBT_3); // what was searched is tried
     Text4.setFocus();
     // Without the towns a code can still be typed.
-    proteggi([this] { apri(Data2, cartella(), ElencoComuni.toString()); });
+    proteggi([this] { apri(Data2, cartella(), elencoComuni.toString()); });
     proteggi([this] { riempi(); });
 }
 

@@ -17,19 +17,19 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr const char *Suggerimento = "Imposta il file ZVI attivo come Predefinito";
-constexpr int MargineDestro = 90; // twips, for a place that reaches beyond the form
+constexpr const char *suggerimento = "Imposta il file ZVI attivo come Predefinito";
+constexpr int margineDestro = 90; // twips, for a place that reaches beyond the form
 
 Posto entro(const Posto &posto, const Misura &interno) {
-    return {posto.left, posto.top, std::min(posto.width, interno.width - MargineDestro - posto.left), posto.height};
+    return {posto.left, posto.top, std::min(posto.width, interno.width - margineDestro - posto.left), posto.height};
 }
 
 } // namespace
 
-FormPlaylist::FormPlaylist(const Ambiente &ambiente_, const AspettoPlaylist &a, QWidget *padre,
-                           const Percorsi &percorsi_)
-    : Form(ambiente_, a.nome, a.didascalia, a.interno, padre), m_tipo(*a.tipo), m_percorsi(percorsi_),
-      m_controllo([percorsi_](const QString &percorso) { return vocePresente(percorsi_, percorso); }),
+FormPlaylist::FormPlaylist(const Ambiente &contesto, const AspettoPlaylist &a, QWidget *padre,
+                           const Percorsi &percorsiUsati)
+    : Form(contesto, a.nome, a.didascalia, a.interno, padre), m_tipo(*a.tipo), m_percorsi(percorsiUsati),
+      m_controllo([percorsiUsati](const QString &percorso) { return vocePresente(percorsiUsati, percorso); }),
       Label1_0(this, "Label1(0)", a.attiva, a.Label1_0), Label1_1(this, "Label1(1)", "", entro(a.Label1_1, a.interno)),
       Label1_5(this, "Label1(5)", "Disco / Cartelle", {120, 750, 1185, 255}),
       Drive1(this, "Drive1", {1320, 720, 1935, 315}), Dir1(this, "Dir1", a.Dir1), File1(this, "File1", a.File1),
@@ -48,7 +48,7 @@ FormPlaylist::FormPlaylist(const Ambiente &ambiente_, const AspettoPlaylist &a, 
       Command5(this, "Command5", "C&hiudi", {8760, 7080, 975, 330}) {
     Label1_1.setAbbrevia(true);
     Command6.setRuolo(Ruolo::Principale);
-    Command89.setToolTip(QString::fromUtf8(Suggerimento));
+    Command89.setToolTip(QString::fromUtf8(suggerimento));
     EliminaFile.setRuolo(Ruolo::Distruttivo);
     File1.setAccessibleName(u"File della cartella"_s);
     File2.setPattern(m_tipo.modello.toString());
@@ -60,7 +60,7 @@ FormPlaylist::FormPlaylist(const Ambiente &ambiente_, const AspettoPlaylist &a, 
 }
 
 void FormPlaylist::collega() {
-    quando(m_scelta, &SceltaFile::nonDisponibile, [this] { avvisa(u"Il disco scelto non è disponibile !"_s); });
+    quando(m_scelta, &SceltaFile::rifiutato, [this] { avvisa(u"Il disco scelto non è disponibile !"_s); });
     quando(File1, &FileListBox::cliccato, [this] {
         FileSelezionato = File1.percorso(File1.ListIndex());
         clicFile(FileSelezionato);

@@ -4,9 +4,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 
-GestioneRadio::GestioneRadio(const Ambiente &ambiente_, Data &Data4, const std::optional<VoceRadio> &daModificare,
+GestioneRadio::GestioneRadio(const Ambiente &contesto, Data &Data4, const std::optional<VoceRadio> &daModificare,
                              QWidget *padre)
-    : Form(ambiente_, "GestioneRadio", "Gestione Radio", {7815, 3930}, padre), m_data4(Data4) {
+    : Form(contesto, "GestioneRadio", "Gestione Radio", {7815, 3930}, padre), m_data4(Data4) {
     Text3.setText(daModificare ? u"modifica"_s : u"nuovo"_s);
     Text3.hide();
     if (daModificare) {

@@ -12,12 +12,12 @@ constexpr int massimeCifre = 2;
 
 } // namespace
 
-ImpostaFoto::ImpostaFoto(const Ambiente &ambiente_, QWidget *padre, const Percorsi &percorsi)
-    : FormPlaylist(ambiente_, AspettoFoto, padre, percorsi) {
+ImpostaFoto::ImpostaFoto(const Ambiente &contesto, QWidget *padre, const Percorsi &percorsi)
+    : FormPlaylist(contesto, aspettoFoto, padre, percorsi) {
     text1.setFiltro(soloCifre);
     bottoneDi(text1, Command89); // the one that stores the time
     text1.setMaxLength(massimeCifre);
-    quando(Image1, &AnteprimaImmagine::cambiata, [this] {
+    quando(Image1, &AnteprimaImmagine::cambiato, [this] {
         if (m_tace && !Image1.guasto().isEmpty())
             Image1.svuota();
     });

@@ -4,8 +4,8 @@
 
 namespace zuvora {
 
-ImpostaVideo::ImpostaVideo(const Ambiente &ambiente_, QWidget *padre, const Percorsi &percorsi)
-    : FormPlaylist(ambiente_, AspettoVideo, padre, percorsi) {
+ImpostaVideo::ImpostaVideo(const Ambiente &contesto, QWidget *padre, const Percorsi &percorsi)
+    : FormPlaylist(contesto, aspettoVideo, padre, percorsi) {
     alClic(PushButton1, [this] { anteprimaCartella(); });
     alClic(PushButton2, [this] { anteprimaPlaylist(); });
     ElencaPlaylist();

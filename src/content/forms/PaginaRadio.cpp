@@ -19,7 +19,7 @@ PaginaRadio::PaginaRadio(const Apertura &apertura) : Pagina(apertura, "RadioBox"
 }
 
 void PaginaRadio::riempi() {
-    zuvora::apri(Data4, cartella(), ElencoRadio.toString());
+    zuvora::apri(Data4, cartella(), elencoRadio.toString());
 }
 
 std::optional<VoceRadio> PaginaRadio::scelta() {

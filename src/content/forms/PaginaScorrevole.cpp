@@ -5,7 +5,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 
 PaginaScorrevole::PaginaScorrevole(const Apertura &apertura) : Pagina(apertura, "BoxImpostazioni(6)") {
-    Timer1.setInterval(PassoScorrevole_ms);
+    Timer1.setInterval(passoScorrevole_ms);
     Timer1.setTimerType(Qt::PreciseTimer);
     Text1.setReadOnly(true);
     Text1.setFocusPolicy(Qt::NoFocus);

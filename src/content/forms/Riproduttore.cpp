@@ -14,9 +14,9 @@ using namespace std::chrono_literals;
 namespace zuvora {
 namespace {
 
-constexpr int LarghezzaVolume = 90; // pixels
-constexpr int PassoVolume = 10;     // per cent
-constexpr auto PassoPosizione = 5s;
+constexpr int larghezzaVolume = 90; // pixels
+constexpr int passoVolume = 10;     // per cent
+constexpr auto passoPosizione = 5s;
 
 } // namespace
 
@@ -62,16 +62,16 @@ void Riproduttore::costruisci() {
     m_pausa->setObjectName(u"pausa"_s);
     m_posizione->setObjectName(u"posizione"_s);
     m_posizione->setAccessibleName(u"Posizione nel filmato"_s);
-    m_posizione->setSingleStep(static_cast<int>(std::chrono::milliseconds(PassoPosizione).count()));
+    m_posizione->setSingleStep(static_cast<int>(std::chrono::milliseconds(passoPosizione).count()));
     m_posizione->setPageStep(6 * m_posizione->singleStep());
     m_tempo->setObjectName(u"tempo"_s);
     m_volume->setObjectName(u"volume"_s);
     m_volume->setAccessibleName(u"Volume"_s);
     m_volume->setToolTip(u"Volume"_s);
     m_volume->setRange(0, 100);
-    m_volume->setSingleStep(PassoVolume);
+    m_volume->setSingleStep(passoVolume);
     m_volume->setValue(100);
-    m_volume->setFixedWidth(LarghezzaVolume);
+    m_volume->setFixedWidth(larghezzaVolume);
     m_nome->setObjectName(u"nome"_s);
     m_nome->setTextFormat(Qt::PlainText);
 

@@ -18,9 +18,8 @@ bool ammesso(QChar c) {
 
 } // namespace
 
-SalvaNuovoIM::SalvaNuovoIM(const Ambiente &ambiente_, const TipoPlaylist &tipo, const QStringList &righe,
-                           QWidget *padre)
-    : Form(ambiente_, "SalvaNuovoIM", "Salva PlayList in nuovo File", {5175, 2610}, padre), m_tipo(tipo),
+SalvaNuovoIM::SalvaNuovoIM(const Ambiente &contesto, const TipoPlaylist &tipo, const QStringList &righe, QWidget *padre)
+    : Form(contesto, "SalvaNuovoIM", "Salva PlayList in nuovo File", {5175, 2610}, padre), m_tipo(tipo),
       m_righe(righe) {
     Label1.setCaption(tipo.estensione.mid(1).toString());
     Label2.setCaption(tipo.parola.toString());

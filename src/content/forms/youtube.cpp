@@ -14,8 +14,8 @@ constexpr int massimoTitolo = 50; // characters
 
 } // namespace
 
-youtube::youtube(const Ambiente &ambiente_, const QUrl &sito, QWidget *padre)
-    : Form(ambiente_, "youtube", "Impostazione playlists di YouTube", {9300, 5640}, padre), m_sito(sito) {
+youtube::youtube(const Ambiente &contesto, const QUrl &sito, QWidget *padre)
+    : Form(contesto, "youtube", "Impostazione playlists di YouTube", {9300, 5640}, padre), m_sito(sito) {
     Titolo.setMaxLength(massimoTitolo);
     Titolo.setMaiuscole(true);
     Titolo.setSoloDigitato();
@@ -34,7 +34,7 @@ youtube::youtube(const Ambiente &ambiente_, const QUrl &sito, QWidget *padre)
     alClic(Confermaannulla(1), [this] { azzera(); });
     alClic(chiudibtn, [this] { scarica(); });
     azzera();
-    proteggi([this] { apri(Data1, cartella(), ElencoYouTube.toString()); });
+    proteggi([this] { apri(Data1, cartella(), elencoYouTube.toString()); });
     grid.setFocus();
 }
 
@@ -73,7 +73,7 @@ void youtube::ok() {
     }
     if (const auto UrlEstratto = EstraiUrl(Codice.text())) {
         if (!Data1.aperto())
-            apri(Data1, cartella(), ElencoYouTube.toString());
+            apri(Data1, cartella(), elencoYouTube.toString());
         aggiungiYouTube(Data1.Recordset(), Titolo.text(), *UrlEstratto);
         Data1.Refresh();
     } else {

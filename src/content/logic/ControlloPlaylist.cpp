@@ -11,8 +11,8 @@ using namespace std::chrono_literals;
 namespace zuvora {
 namespace {
 
-constexpr auto Passo = 10ms;
-constexpr qsizetype MinimoComune = 2; // path steps that two silent folders must share to count as one place
+constexpr auto passo = 10ms;
+constexpr qsizetype minimoComune = 2; // path steps that two silent folders must share to count as one place
 
 enum class Sorte : char { Ignota, Presente, Mancante };
 
@@ -61,7 +61,7 @@ struct ControlloPlaylist::Lavoro {
 
 ControlloPlaylist::ControlloPlaylist(Domanda esiste, std::chrono::milliseconds limite)
     : m_esiste(std::move(esiste)), m_limite(limite) {
-    m_orologio.setInterval(Passo);
+    m_orologio.setInterval(passo);
     QObject::connect(&m_orologio, &QTimer::timeout, &m_orologio, [this] { guarda(); });
 }
 
@@ -120,7 +120,7 @@ void ControlloPlaylist::taci(qsizetype riga) {
     QString muta = cartellaDi(m_righe.at(riga));
     // Two folders of one place: the place is silent, and its other folders need not be waited for.
     for (const QString &altra : std::as_const(m_mute))
-        if (const QString posto = comune(altra, muta); passi(posto) >= MinimoComune)
+        if (const QString posto = comune(altra, muta); passi(posto) >= minimoComune)
             muta = posto;
     if (!muta.isEmpty())
         m_mute << muta;

@@ -19,9 +19,9 @@ IndirizzoMeteo::IndirizzoMeteo(const QString &host)
 
 MeteoScelto leggiMeteo(const QString &cartella) {
     const auto riga = leggiRiga(cartella, u"Configurazione"_s);
-    MeteoScelto scelto{std::nullopt, SenzaComune.toString()};
+    MeteoScelto scelto{std::nullopt, senzaComune.toString()};
     if (const Valore &meteo = riga[u"meteo"]; !eNull(meteo))
-        scelto = {testoDi(meteo, {}), testoDi(riga[u"MeteoCode"], SenzaComune.toString())};
+        scelto = {testoDi(meteo, {}), testoDi(riga[u"MeteoCode"], senzaComune.toString())};
     return scelto;
 }
 

@@ -7,11 +7,11 @@
 namespace zuvora {
 
 // The towns, in order.
-inline constexpr QStringView ElencoComuni = u"Select * from ComuniMeteo order by [comune]";
+inline constexpr QStringView elencoComuni = u"Select * from ComuniMeteo order by [comune]";
 // The towns whose name begins with the text; an apostrophe in it matches any character.
 QString sorgenteComuni(const QString &cercato);
 
-inline constexpr QStringView SenzaComune = u"0000";
+inline constexpr QStringView senzaComune = u"0000";
 
 // The weather box of a town at the service of `host` (scheme and host, without a trailing slash).
 class IndirizzoMeteo {

@@ -8,7 +8,7 @@
 namespace zuvora {
 
 // The table VideoYT: playlists of YouTube under their titles.
-inline constexpr QStringView ElencoYouTube = u"Select * from [VideoYT] order by[Titolo]";
+inline constexpr QStringView elencoYouTube = u"Select * from [VideoYT] order by[Titolo]";
 
 // True when a stored title matches: without regard to case, and with "*" and "?" as wildcards.
 bool titoloPresente(const QString &cartella, const QString &titolo);

@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr double MillisecondiSecondo = 1000;
+constexpr double millisecondiSecondo = 1000;
 constexpr double massimoSecondi = 60;
 
 } // namespace
@@ -36,16 +36,15 @@ void salvaPredefinita(const QString &cartella, const TipoPlaylist &tipo, const Q
 }
 
 QString secondiDaTempo(const Valore &tempo) {
-    bool numero = false;
-    const double secondi = tempo.toDouble(&numero) / MillisecondiSecondo;
-    return eNull(tempo) || !numero ? u"0"_s : testoDi(secondi, {}).replace(u'.', u',');
+    const auto millisecondi = numeroDi(tempo);
+    return millisecondi ? testoDi(*millisecondi / millisecondiSecondo, {}).replace(u'.', u',') : u"0"_s;
 }
 
 std::optional<double> tempoDaSecondi(const QString &secondi) {
     const double valore = numeroDi(secondi).value_or(0);
     if (valore <= 0 || valore > massimoSecondi)
         return std::nullopt;
-    return valore * MillisecondiSecondo;
+    return valore * millisecondiSecondo;
 }
 
 QString leggiSecondi(const QString &cartella) {

@@ -9,7 +9,7 @@
 namespace zuvora {
 
 // The table radio: internet stations under their names.
-inline constexpr QStringView ElencoRadio = u"Select * from radio order by [NomeRadio]";
+inline constexpr QStringView elencoRadio = u"Select * from radio order by [NomeRadio]";
 
 struct VoceRadio {
     QString NomeRadio;

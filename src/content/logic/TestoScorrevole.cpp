@@ -9,12 +9,12 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr int BianchiIniziali = 30;
+constexpr int bianchiIniziali = 30;
 
 } // namespace
 
 void TestoScorrevole::prepara(const QString &testo) {
-    m_mobile = QString(BianchiIniziali, u' ') + testo;
+    m_mobile = QString(bianchiIniziali, u' ') + testo;
 }
 
 const QString &TestoScorrevole::passo() {

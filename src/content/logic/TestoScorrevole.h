@@ -4,7 +4,7 @@
 
 namespace zuvora {
 
-inline constexpr int PassoScorrevole_ms = 150;
+inline constexpr int passoScorrevole_ms = 150;
 
 // The moving text of the ticker's trial.
 class TestoScorrevole {

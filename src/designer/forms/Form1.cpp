@@ -51,7 +51,7 @@ Form1::Form1(const Ambiente &contesto, DisplayLayout &layout, ImmaginiQt &immagi
 
 // The first time only: the event comes again whenever a dialog closes.
 void Form1::attivata() {
-    if (std::exchange(m_attivata, true))
+    if (std::exchange(FormAttivata, true))
         return;
     m_didascaliaBase = Caption();
     setFocus();

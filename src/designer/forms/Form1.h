@@ -93,7 +93,7 @@ private:
     Dimensione m_misura;
     Scena m_scena;
     Trascinamento m_trascinamento;
-    bool m_attivata = false;
+    bool FormAttivata = false;
     QString m_didascaliaBase;
     QString m_selezionato;
     QString m_avviso;

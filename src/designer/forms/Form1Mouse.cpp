@@ -15,7 +15,7 @@ QPoint cursoreDi(const QMouseEvent &e) {
 } // namespace
 
 GeometriaForm Form1::geometria() const {
-    return {mapToGlobal(QPoint()), frameGeometry(), TwipsPerPixel};
+    return {mapToGlobal(QPoint()), frameGeometry(), twipsPerPixel};
 }
 
 void Form1::mousePressEvent(QMouseEvent *e) {
@@ -163,7 +163,7 @@ void Form1::MostraManiglie(bool mostra) {
 
 void Form1::disponiManiglie() {
     const bool visibili = m_trascinamento.maniglieVisibili();
-    const auto posti = m_trascinamento.posti(TwipsPerPixel);
+    const auto posti = m_trascinamento.posti(twipsPerPixel);
     const CRect &r = m_trascinamento.RettangoloTrascinamento();
     const QSize presa(ampiezzaPresa(pixelVicino(r.Width())), ampiezzaPresa(pixelVicino(r.Height())));
     for (std::size_t i = 0; i < picHandle.size(); ++i) {

@@ -60,8 +60,8 @@ void Form2::disponi(const PaginaClasse &pagina) {
     Label1.setCaption(pagina.titolo.toString());
     if (pagina.altezza > 0)
         setMisuraInterna({interno.width, pagina.altezza - barraTitolo});
-    Label2(6).setEnabled(pagina.testo);
-    Testo999.setEnabled(pagina.testo);
+    Label2(6).setEnabled(pagina.haTesto());
+    Testo999.setEnabled(pagina.haTesto());
     for (const QStringView nome : pagina.disabilitati)
         box1.findChild<QWidget *>(nome.toString())->setEnabled(false);
 }

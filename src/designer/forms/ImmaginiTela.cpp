@@ -1,11 +1,29 @@
 #include "designer/forms/ImmaginiTela.h"
 
+#include "designer/forms/PittoreElementi.h"
+
+#include <QPainter>
+
 namespace zuvora {
 namespace {
 
-constexpr qsizetype memoria = 192 * 1024; // KiB
+constexpr qsizetype memoria = 192 * 1024;   // KiB
+constexpr qint64 copiaMassima = 16'000'000; // pixels
+
+// Called by helper threads too.
+QImage disegna(Segnaposto quale, QSize misura, qreal scala) {
+    QImage foglio = foglioTela(misura, scala, QImage::Format_RGB32);
+    QPainter p(&foglio);
+    dipingiSegnaposto(p, quale, QRect({}, misura));
+    return foglio;
+}
 
 } // namespace
+
+bool siCopia(QSize misura, qreal scala) {
+    const QSize pixel = pixelDispositivo(misura, scala);
+    return qint64(pixel.width()) * pixel.height() <= copiaMassima;
+}
 
 ImmaginiTela::ImmaginiTela(ImmaginiQt &sorgente) : m_sorgente(sorgente), m_stirate(memoria) {}
 
@@ -21,8 +39,8 @@ QImage ImmaginiTela::stira(QImage intera, QSize pixel) {
 
 void ImmaginiTela::prepara(const QString &percorso, QSize pixel) {
     const Chiave chiave{percorso, pixel};
-    if (percorso.isEmpty() || pixel.isEmpty() || qint64(pixel.width()) * pixel.height() > copiaMassima ||
-        m_attese.contains(chiave) || m_stirate.contains(chiave))
+    if (percorso.isEmpty() || pixel.isEmpty() || !siCopia(pixel, 1) || m_attese.contains(chiave) ||
+        m_stirate.contains(chiave))
         return;
     if (const QImage immagine = m_sorgente.immagine(percorso); !immagine.isNull())
         m_attese.insert(chiave, m_sorgente.squadra().affida([immagine, pixel] { return stira(immagine, pixel); }));
@@ -49,6 +67,19 @@ void ImmaginiTela::dimentica(const QString &percorso) {
     for (const Chiave &c : chiavi)
         if (c.percorso == percorso)
             m_stirate.remove(c);
+}
+
+void ImmaginiTela::prepara(Segnaposto quale, QSize misura, qreal scala) {
+    Disegnato &tenuto = m_segnaposti[quale];
+    if ((tenuto.misura == misura && tenuto.scala == scala) || !siCopia(misura, scala))
+        return;
+    tenuto = {misura, scala,
+              m_sorgente.squadra().affida([quale, misura, scala] { return disegna(quale, misura, scala); })};
+}
+
+QImage ImmaginiTela::segnaposto(Segnaposto quale, QSize misura, qreal scala) {
+    prepara(quale, misura, scala);
+    return m_segnaposti[quale].immagine.get();
 }
 
 } // namespace zuvora

@@ -1,16 +1,18 @@
 #pragma once
 
 #include "designer/logic/ImmaginiQt.h"
+#include "shell/disegni/Disegni.h"
 
 #include <QCache>
 #include <QHash>
 #include <QImage>
+#include <QMap>
 #include <QSize>
 
 namespace zuvora {
 
-// Pixels of a stretched picture that is kept; a larger one is painted from the original each time.
-inline constexpr qint64 copiaMassima = 16'000'000;
+// Whether a picture is kept at this size on the canvas; a larger one is painted from the original each time.
+bool siCopia(QSize misura, qreal scala);
 
 // Pictures stretched to the sizes at which the canvas shows them. Once asked for, a picture isn't looked up on the disk
 // again until it is forgotten.
@@ -26,6 +28,10 @@ public:
     QImage intera(const QString &percorso);
     void dimentica(const QString &percorso);
 
+    // The same of a placeholder, at a size on the canvas and a whole scale.
+    void prepara(Segnaposto quale, QSize misura, qreal scala);
+    QImage segnaposto(Segnaposto quale, QSize misura, qreal scala);
+
 private:
     struct Chiave {
         QString percorso;
@@ -35,11 +41,17 @@ private:
             return qHashMulti(seme, c.percorso, c.pixel.width(), c.pixel.height());
         }
     };
+    struct Disegnato {
+        QSize misura;
+        qreal scala = 0;
+        std::shared_future<QImage> immagine;
+    };
     static QImage stira(QImage intera, QSize pixel);
 
     ImmaginiQt &m_sorgente;
     QHash<Chiave, std::shared_future<QImage>> m_attese;
     QCache<Chiave, QImage> m_stirate; // cost in KiB
+    QMap<Segnaposto, Disegnato> m_segnaposti;
 };
 
 } // namespace zuvora

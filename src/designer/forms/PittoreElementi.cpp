@@ -22,7 +22,14 @@ namespace {
 constexpr double puntiMinimi = 1;
 constexpr double puntiMassimi = 2160;
 
-constexpr qsizetype testoMassimo = 4000; // characters of one element that are painted
+constexpr int testoMassimo = 4000; // characters of one element that are painted
+
+// The beginning of a text, with more of it than its place can show: letters outside cost as much as those inside.
+QString visibile(const QString &testo, const QRect &r, const QFontMetricsF &lettere) {
+    const double perRiga = r.width() / (lettere.height() / 10) + 1;
+    const double righe = r.height() / lettere.height() + 1;
+    return testo.left(static_cast<qsizetype>(std::min<double>(perRiga * righe, testoMassimo)));
+}
 
 Qt::Alignment allineamentoQt(Allineamento a) {
     switch (a) {
@@ -81,7 +88,7 @@ void etichetta(QPainter &p, const LayoutElement &e, const QRect &r, bool traspar
     p.setClipRect(r, Qt::IntersectClip);
     p.setFont(fontTela(e.font));
     p.setPen(coloreDa(e.coloreTesto));
-    const QString testo = e.didascalia.left(testoMassimo);
+    const QString testo = visibile(e.didascalia, r, QFontMetricsF(p.font(), p.device()));
     const bool aCapo = e.tipo != TipoElemento::Text2; // the ticker runs in one line, the labels wrap in their place
     const Qt::Alignment allineamento = allineamentoQt(e.allineamento);
     if (grassettoApparente(p.font()))
@@ -139,6 +146,8 @@ QString nomeFile(const QString &percorso) {
     return percorso.mid(percorso.lastIndexOf(QRegularExpression(u"[/\\\\]"_s)) + 1).left(nomeMassimo);
 }
 
+} // namespace
+
 std::optional<Segnaposto> segnapostoDi(TipoElemento tipo) {
     switch (tipo) {
     case TipoElemento::IM1:
@@ -158,8 +167,6 @@ std::optional<Segnaposto> segnapostoDi(TipoElemento tipo) {
     }
 }
 
-} // namespace
-
 QRect rettangoloTela(const Area &a) {
     const int x = pixelVicino(a.left);
     const int y = pixelVicino(a.top);
@@ -168,6 +175,16 @@ QRect rettangoloTela(const Area &a) {
 
 QSize pixelDispositivo(QSize misura, qreal scala) {
     return {qRound(misura.width() * scala), qRound(misura.height() * scala)};
+}
+
+// Points of a font become pixels by the device's resolution.
+QImage foglioTela(QSize misura, qreal scala, QImage::Format formato) {
+    constexpr double puntiPerMetro = puntiPerPollice / 0.0254;
+    QImage vuoto((QSizeF(misura) * scala).toSize(), formato);
+    vuoto.setDevicePixelRatio(scala);
+    vuoto.setDotsPerMeterX(qRound(puntiPerMetro));
+    vuoto.setDotsPerMeterY(qRound(puntiPerMetro));
+    return vuoto;
 }
 
 // The pen stands astride its line: half a pixel inside, it covers the edge at every scale.
@@ -209,8 +226,8 @@ void PittoreElementi::elemento(QPainter &p, int posto) const {
     case TipoElemento::Text9:
         return etichetta(p, e, r, e.trasparente);
     default:
-        if (const auto segnaposto = segnapostoDi(e.tipo))
-            dipingiSegnaposto(p, *segnaposto, r);
+        if (const auto quale = segnapostoDi(e.tipo))
+            segnaposto(p, *quale, r);
     }
 }
 
@@ -235,16 +252,24 @@ void PittoreElementi::decorazione(QPainter &p, const LayoutElement &e, const QRe
         sagoma(p, r, Disegno::FileImmagine, nomeFile(percorso));
 }
 
+// At a fractional scale a place needn't begin on a whole pixel of the device: no copy fits there.
+void PittoreElementi::segnaposto(QPainter &p, Segnaposto quale, const QRect &r) const {
+    const qreal scala = p.device()->devicePixelRatioF();
+    if (siCopia(r.size(), scala) && scala == std::floor(scala))
+        p.drawImage(r.topLeft(), m_immagini.segnaposto(quale, r.size(), scala));
+    else
+        dipingiSegnaposto(p, quale, r);
+}
+
 bool PittoreElementi::stendi(QPainter &p, const QString &percorso, const QRect &r) const {
     const qreal scala = p.device()->devicePixelRatioF();
-    const QSize pixel = pixelDispositivo(r.size(), scala);
-    if (qint64(pixel.width()) * pixel.height() > copiaMassima) {
+    if (!siCopia(r.size(), scala)) {
         const QImage immagine = m_immagini.intera(percorso);
         p.setRenderHint(QPainter::SmoothPixmapTransform);
         p.drawImage(r, immagine);
         return !immagine.isNull();
     }
-    const QImage immagine = m_immagini.stirata(percorso, pixel);
+    const QImage immagine = m_immagini.stirata(percorso, pixelDispositivo(r.size(), scala));
     p.drawImage(r, immagine);
     return !immagine.isNull();
 }

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "designer/logic/DisplayLayout.h"
+#include "shell/disegni/Disegni.h"
 
 #include <QColor>
 #include <QFont>
+#include <QImage>
 #include <QRect>
+#include <optional>
 
 class QPainter;
 
@@ -16,6 +19,10 @@ class ImmaginiTela;
 QRect rettangoloTela(const Area &a);
 // A size on the canvas in the device's own pixels.
 QSize pixelDispositivo(QSize misura, qreal scala);
+// The placeholder that stands for an element's content, if one does.
+std::optional<Segnaposto> segnapostoDi(TipoElemento tipo);
+// A sheet of that many pixels on which texts come out as on the canvas. `misura` is a size on the canvas.
+QImage foglioTela(QSize misura, qreal scala, QImage::Format formato);
 // A frame of one pixel along the inner edge of a place, without a gap at any scale.
 void riquadra(QPainter &p, const QRect &r, const QColor &colore, Qt::PenStyle tratto = Qt::SolidLine);
 // The font of an element as the call display shows it: 20 twips to the point, whatever the screen's own resolution.
@@ -37,6 +44,7 @@ public:
 private:
     void pannello(QPainter &p, const LayoutElement &e, const QRect &r) const;
     void decorazione(QPainter &p, const LayoutElement &e, const QRect &r) const;
+    void segnaposto(QPainter &p, Segnaposto quale, const QRect &r) const;
     bool stendi(QPainter &p, const QString &percorso, const QRect &r) const;
 
     const DisplayLayout &m_layout;

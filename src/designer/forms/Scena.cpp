@@ -4,11 +4,6 @@
 #include <QPainter>
 
 namespace zuvora {
-namespace {
-
-constexpr double puntiPerMetro = puntiPerPollice / 0.0254;
-
-} // namespace
 
 Scena::Scena(const DisplayLayout &layout, ImmaginiQt &immagini, QSize misura)
     : m_layout(layout), m_immagini(immagini), m_pittore(layout, m_immagini), m_misura(misura) {
@@ -16,18 +11,9 @@ Scena::Scena(const DisplayLayout &layout, ImmaginiQt &immagini, QSize misura)
     stiraTutte(qGuiApp->devicePixelRatio()); // while the form is being made
 }
 
-// Points of a font become pixels by the device's resolution.
-QImage Scena::foglio(QSize misura, qreal scala, QImage::Format formato) const {
-    QImage vuoto((QSizeF(misura) * scala).toSize(), formato);
-    vuoto.setDevicePixelRatio(scala);
-    vuoto.setDotsPerMeterX(qRound(puntiPerMetro));
-    vuoto.setDotsPerMeterY(qRound(puntiPerMetro));
-    return vuoto;
-}
-
 void Scena::mostra(QPainter &p, const QRegion &parte, qreal scala) {
     if (m_tela.isNull() || m_tela.devicePixelRatio() != scala) {
-        m_tela = foglio(m_misura, scala, QImage::Format_RGB32);
+        m_tela = foglioTela(m_misura, scala, QImage::Format_RGB32);
         stiraTutte(scala);
         dipingi(QRect({}, m_misura));
     }
@@ -38,14 +24,20 @@ void Scena::mostra(QPainter &p, const QRegion &parte, qreal scala) {
 // All pictures at once, by several threads.
 void Scena::stiraTutte(qreal scala) {
     m_immagini.prepara(m_layout.tela().immagine, pixelDispositivo(m_misura, scala));
-    for (const LayoutElement &e : m_layout)
-        if (e.tipo == TipoElemento::Image1 && e.visibile && !e.immagineMancante)
-            m_immagini.prepara(m_layout.immagineMostrata(e), pixelDispositivo(rettangoloTela(e.area).size(), scala));
+    for (const LayoutElement &e : m_layout) {
+        const QSize misura = rettangoloTela(e.area).size();
+        if (!e.visibile || misura.isEmpty())
+            continue;
+        if (const auto segnaposto = segnapostoDi(e.tipo))
+            m_immagini.prepara(*segnaposto, misura, scala);
+        else if (e.tipo == TipoElemento::Image1 && !e.immagineMancante)
+            m_immagini.prepara(m_layout.immagineMostrata(e), pixelDispositivo(misura, scala));
+    }
 }
 
 QImage Scena::figura(int posto, qreal scala) {
     const QRect dove = parte(posto);
-    QImage sola = foglio(dove.size(), scala, QImage::Format_ARGB32_Premultiplied);
+    QImage sola = foglioTela(dove.size(), scala, QImage::Format_ARGB32_Premultiplied);
     sola.fill(Qt::transparent);
     QPainter p(&sola);
     p.translate(-dove.topLeft());

@@ -27,7 +27,6 @@ public:
     QRegion aggiornaTutto();
 
 private:
-    QImage foglio(QSize misura, qreal scala, QImage::Format formato) const;
     void stiraTutte(qreal scala);
     void dipingi(const QRegion &parte);
     QRect posto(int numero) const;

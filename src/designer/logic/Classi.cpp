@@ -19,16 +19,16 @@ constexpr std::array<QStringView, 11> soloColore{u"PB1(0)",    u"CP2",       u"C
 
 // In the order of the enumeration.
 constexpr std::array pagine{
-    PaginaClasse{Classe::Numeri, u"Numeri", altezzaTesti, {}, false, -1},
-    PaginaClasse{Classe::Postazione, u"Postazione", altezzaTesti, {}, false, -1},
-    PaginaClasse{Classe::Servizio, u"Servizio", altezzaTesti, {}, false, -1},
-    PaginaClasse{Classe::Titolo, u"Titolo", altezzaTitoli, {}, true, 0},
-    PaginaClasse{Classe::SottoTitolo, u"SottoTitolo", altezzaTitoli, {}, true, 1},
-    PaginaClasse{Classe::Data, u"Data", altezzaTitoli, {}, false, 2},
-    PaginaClasse{Classe::Orario, u"Orario", altezzaTitoli, {}, false, 3},
-    PaginaClasse{Classe::TestoScorrevole, u"Testo Scorrevole", altezzaTesti, senzaAllineamento, false, -1},
-    PaginaClasse{Classe::Pannello, u"Pannello", 0, soloColore, false, -1},
-    PaginaClasse{Classe::ColoreSfondoSchermata, u"Colore Sfondo Schermata", 0, soloColore, false, -1},
+    PaginaClasse{Classe::Numeri, u"Numeri", altezzaTesti, {}, -1},
+    PaginaClasse{Classe::Postazione, u"Postazione", altezzaTesti, {}, -1},
+    PaginaClasse{Classe::Servizio, u"Servizio", altezzaTesti, {}, -1},
+    PaginaClasse{Classe::Titolo, u"Titolo", altezzaTitoli, {}, 0},
+    PaginaClasse{Classe::SottoTitolo, u"SottoTitolo", altezzaTitoli, {}, 1},
+    PaginaClasse{Classe::Data, u"Data", altezzaTitoli, {}, 2},
+    PaginaClasse{Classe::Orario, u"Orario", altezzaTitoli, {}, 3},
+    PaginaClasse{Classe::TestoScorrevole, u"Testo Scorrevole", altezzaTesti, senzaAllineamento, -1},
+    PaginaClasse{Classe::Pannello, u"Pannello", 0, soloColore, -1},
+    PaginaClasse{Classe::ColoreSfondoSchermata, u"Colore Sfondo Schermata", 0, soloColore, -1},
 };
 
 // The alignment of each radio button.
@@ -132,7 +132,7 @@ CampiForm2 riempiCampi(const DisplayLayout &layout, int posto) {
     campi.corsivo = e.font.corsivo;
     campi.RB1 = bottoneDi(e.allineamento);
     campi.trasparente = e.trasparente;
-    if (paginaClasse(*classe).testo)
+    if (paginaClasse(*classe).haTesto())
         campi.Testo999 = e.didascalia;
     campi.Label4 = e.tipo == TipoElemento::Text1 ? e.area.left : 0;
     return campi;
@@ -150,7 +150,7 @@ bool applicaClasse(DisplayLayout &layout, Classe classe, const CampiForm2 &campi
         applicaStile(e, *stile, campi);
         if (classe == Classe::Servizio)
             e.area.left = campi.Label4;
-        if (paginaClasse(classe).testo)
+        if (paginaClasse(classe).haTesto())
             e.didascalia = campi.Testo999;
     }
     return true;

@@ -28,8 +28,10 @@ struct PaginaClasse {
     QStringView titolo;                        // Label1
     int altezza;                               // form height in twips, 0 = as stored
     std::span<const QStringView> disabilitati; // control names
-    bool testo;                                // Label2(6) and Testo999 are enabled and filled
     int indiceTesto;                           // IndiceTesto, the Text9 it edits; -1 for none
+
+    // Title and subtitle: Label2(6) and Testo999 are enabled and filled.
+    bool haTesto() const { return indiceTesto == 0 || indiceTesto == 1; }
 };
 
 const PaginaClasse &paginaClasse(Classe classe);

@@ -30,9 +30,9 @@ int scorriLato(int da, int lato, int inizio, int schermo, int passo) {
 } // namespace
 
 Dimensione dimensioneTela(int risoluzione) {
-    if (risoluzione < 0 || risoluzione >= static_cast<int>(Risoluzioni.size()))
+    if (risoluzione < 0 || risoluzione >= static_cast<int>(risoluzioni.size()))
         return telaDefinita;
-    const Risoluzione &r = Risoluzioni[static_cast<std::size_t>(risoluzione)];
+    const Risoluzione &r = risoluzioni[static_cast<std::size_t>(risoluzione)];
     return {static_cast<double>(r.larghezza), static_cast<double>(r.altezza)};
 }
 

@@ -46,55 +46,79 @@ void BottoneTotem::setColoreTesto(const QColor &colore) {
 
 void BottoneTotem::setSfondo(const QPixmap &sfondo) {
     m_sfondo = sfondo;
-    dimentica();
-}
-
-void BottoneTotem::dimentica() {
     m_faccia = {};
     update();
 }
 
-QRect BottoneTotem::spazio() const {
-    return rect().adjusted(margine, margine, -margine, -margine);
+void BottoneTotem::dimentica() {
+    m_fronte = {};
+    m_faccia = {};
+    update();
 }
 
-bool BottoneTotem::entra(const QFont &font, int opzioni) const {
-    const QRect r = spazio();
+QRect BottoneTotem::spazio(QSize misura) {
+    return QRect({}, misura).adjusted(margine, margine, -margine, -margine);
+}
+
+bool BottoneTotem::entra(const QFont &font, int opzioni, QSize misura) const {
+    const QRect r = spazio(misura);
     return r.contains(QFontMetrics(font, this).boundingRect(r, opzioni, m_caption.trimmed()));
 }
 
-QFont BottoneTotem::fontMostrato() const {
+QFont BottoneTotem::fontPer(QSize misura) const {
     QFont adatto = m_font;
-    while (!entra(adatto, aParole) && adatto.pointSizeF() > puntiMinimi)
+    while (!entra(adatto, aParole, misura) && adatto.pointSizeF() > puntiMinimi)
         adatto.setPointSizeF(adatto.pointSizeF() - 1);
     return adatto;
 }
 
+QFont BottoneTotem::fontMostrato() const {
+    return fontPer(size());
+}
+
+QSize BottoneTotem::pixel(QSize misura) const {
+    return misura * devicePixelRatioF();
+}
+
+void BottoneTotem::prepara(QSize misura) {
+    if (m_fronte.size() == pixel(misura))
+        return;
+    m_fronte = QPixmap(pixel(misura));
+    m_fronte.setDevicePixelRatio(devicePixelRatioF());
+    m_fronte.fill(Qt::transparent);
+    QPainter pittore(&m_fronte);
+    dipingiFronte(pittore, misura);
+}
+
+void BottoneTotem::componi() {
+    if (m_faccia.size() == pixel(size()))
+        return;
+    prepara(size());
+    m_faccia = QPixmap(pixel(size()));
+    m_faccia.setDevicePixelRatio(devicePixelRatioF());
+    QPainter pittore(&m_faccia);
+    pittore.fillRect(rect(), palette().color(QPalette::Window));
+    pittore.drawPixmap(QPoint(), m_sfondo, geometry());
+    pittore.drawPixmap(QPoint(), m_fronte);
+}
+
 void BottoneTotem::paintEvent(QPaintEvent *e) {
-    const QSize misura = size() * devicePixelRatioF();
-    if (m_faccia.size() != misura) {
-        m_faccia = QPixmap(misura);
-        m_faccia.setDevicePixelRatio(devicePixelRatioF());
-        QPainter pittore(&m_faccia);
-        dipingiFaccia(pittore);
-    }
+    componi();
     const QRectF parte = e->rect();
     QPainter(this).drawPixmap(parte, m_faccia,
                               {parte.topLeft() * devicePixelRatioF(), parte.size() * devicePixelRatioF()});
 }
 
-void BottoneTotem::dipingiFaccia(QPainter &pittore) const {
+void BottoneTotem::dipingiFronte(QPainter &pittore, QSize misura) const {
     const QColor fondo = fondoPer(m_colore);
-    pittore.fillRect(rect(), palette().color(QPalette::Window));
-    pittore.drawPixmap(QPoint(), m_sfondo, geometry());
     pittore.setRenderHint(QPainter::Antialiasing);
     pittore.setPen(QPen(fondo.lightness() > 128 ? fondo.darker(150) : fondo.lighter(170), 2));
     pittore.setBrush(fondo);
-    pittore.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), raggio, raggio);
-    const QFont mostrato = fontMostrato();
+    pittore.drawRoundedRect(QRectF({}, misura).adjusted(1, 1, -1, -1), raggio, raggio);
+    const QFont mostrato = fontPer(misura);
     pittore.setFont(mostrato);
     pittore.setPen(m_colore);
-    pittore.drawText(spazio(), entra(mostrato, aParole) ? aParole : ovunque, m_caption.trimmed());
+    pittore.drawText(spazio(misura), entra(mostrato, aParole, misura) ? aParole : ovunque, m_caption.trimmed());
 }
 
 } // namespace zuvora

@@ -14,8 +14,8 @@ const QString daImpostare = u"Percorso da impostare!"_s;
 
 } // namespace
 
-ImpoRete::ImpoRete(const Ambiente &ambiente_, QWidget *padre, Percorsi percorsi)
-    : Form(ambiente_, "ImpoRete", "Impostazione Percorso di Rete Server del Totem", {7215, 1905}, padre),
+ImpoRete::ImpoRete(const Ambiente &contesto, QWidget *padre, Percorsi percorsi)
+    : Form(contesto, "ImpoRete", "Impostazione Percorso di Rete Server del Totem", {7215, 1905}, padre),
       m_percorsi(std::move(percorsi)) {
     alClic(cbt(1), [this] { ScegliCartellaTotem(); });
     alClic(cbt(2), [this] { confermaPercorso(); });

@@ -21,16 +21,17 @@ const QString perPulsante = u"Pulsante"_s;
 
 } // namespace
 
-Impostatotem::Impostatotem(const Ambiente &ambiente_, Misura &anteprima, QWidget *padre, Percorsi percorsi)
-    : Form(ambiente_, "Impostatotem", "Imposta schermata del Totem", {7215, 7575}, padre), m_riga(cartella()),
-      m_percorsi(std::move(percorsi)), m_anteprima(anteprima),
+Impostatotem::Impostatotem(const Ambiente &contesto, Misura &anteprima, QWidget *padre, Percorsi percorsi)
+    : Form(contesto, "Impostatotem", "Imposta schermata del Totem", {7215, 7575}, padre), m_riga(cartella()),
+      m_lettura(std::async(std::launch::async, [this] { m_riga.carica(); })), m_percorsi(std::move(percorsi)),
+      m_anteprima(anteprima),
       m_titolo(&GroupBox3,
                {"FontTitolo", "MisuraTitolo", "Check1Titolo", "Check2Titolo", "ColoreTitolo", "CP1Titolo", "PBTitolo"},
-               u"del titolo"_s, 600, ambiente_.dialoghi),
+               u"del titolo"_s, 600, contesto.dialoghi),
       m_data(&GroupBox4, {"FontData", "MisuraData", "Check1Data", "Check2Data", "ColoreData", "CP1Data", "PBData"},
-             u"della data"_s, 600, ambiente_.dialoghi),
+             u"della data"_s, 600, contesto.dialoghi),
       m_pulsanti(&GroupBox5, {"FE1", "FE2", "CB1", "CB2", "FE3", "CP1", "PushButton1"}, u"dei pulsanti"_s, 390,
-                 ambiente_.dialoghi),
+                 contesto.dialoghi),
       RT("RT", 0, static_cast<int>(schermiTotem.size()) - 1, [this](int i, const char *nome) {
           const QByteArray didascalia = schermiTotem.at(std::size_t(i)).didascalia.toUtf8();
           return std::make_unique<RadioButton>(&GroupBox6, nome, didascalia.constData(),
@@ -38,7 +39,7 @@ Impostatotem::Impostatotem(const Ambiente &ambiente_, Misura &anteprima, QWidget
       }) {
     nomina();
     collega();
-    m_riga.carica();
+    m_lettura.get();
     mostra();
 }
 

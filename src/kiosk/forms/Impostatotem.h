@@ -8,6 +8,8 @@
 #include "shell/host/PictureBox.h"
 #include "shell/logic/Percorsi.h"
 
+#include <future>
+
 namespace zuvora {
 
 // Edits what the kiosk's screen shows, and the folder of the kiosk. Nothing is stored before the save.
@@ -41,6 +43,7 @@ private:
     GruppoFont &gruppo();
 
     RigaTotem m_riga;
+    std::future<void> m_lettura; // of the row, while the controls are made
     Percorsi m_percorsi;
     bool m_guastoDetto = false;
     QString BersaglioFont; // "Titolo", "LaData" or "Pulsante": the group that the font dialog serves

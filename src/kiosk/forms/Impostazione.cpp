@@ -39,8 +39,8 @@ ColonnaServizi testi(const Schiera<Edit> &caselle) {
 
 } // namespace
 
-Impostazione::Impostazione(const Ambiente &ambiente_, const QString &cartellaTotem, QWidget *padre, Percorsi percorsi)
-    : Form(ambiente_, "Impostazione", "Impostazione", {6975, 8175}, padre), m_cartellaTotem(cartellaTotem),
+Impostazione::Impostazione(const Ambiente &contesto, const QString &cartellaTotem, QWidget *padre, Percorsi percorsi)
+    : Form(contesto, "Impostazione", "Impostazione", {6975, 8175}, padre), m_cartellaTotem(cartellaTotem),
       m_percorsi(std::move(percorsi)), Label2(colonna<Label>(this, "Label2", {120, scartoNomi, 2655, 255})),
       Modifnr(colonna<Edit>(this, "Modifnr", {2880, 0, 975, 285})),
       Na1(colonna<Button>(this, "Na1", {3930, 0, 855, 285}, "Esegui")),

@@ -33,6 +33,10 @@ QFont fontIniziale() {
     return font;
 }
 
+Posto postoDa(const QRect &twips) {
+    return {twips.x(), twips.y(), twips.width(), twips.height()};
+}
+
 void scrivi(Label &etichetta, const QString &testo, const StileTotem &stile) {
     etichetta.setCaption(testo);
     etichetta.setFontBase(fontDa(stile));
@@ -41,9 +45,9 @@ void scrivi(Label &etichetta, const QString &testo, const StileTotem &stile) {
 
 } // namespace
 
-LayoutTotem::LayoutTotem(const Ambiente &ambiente_, const RichiestaAnteprima &richiesta, QWidget *padre,
+LayoutTotem::LayoutTotem(const Ambiente &contesto, const RichiestaAnteprima &richiesta, QWidget *padre,
                          Percorsi percorsi)
-    : Form(ambiente_, "LayoutTotem", "Impostazione Layout Totem", richiesta.finestra, padre), m_richiesta(richiesta),
+    : Form(contesto, "LayoutTotem", "Impostazione Layout Totem", richiesta.finestra, padre), m_richiesta(richiesta),
       m_aspetto(leggiAspetto(cartella())), m_percorsi(std::move(percorsi)),
       Bottone("Bottone", 1, serviziMassimi, [this](int i, const char *nome) {
           return std::make_unique<BottoneTotem>(this, nome, u"Pulsante %1"_s.arg(i), fuoriVista);
@@ -60,24 +64,29 @@ LayoutTotem::LayoutTotem(const Ambiente &ambiente_, const RichiestaAnteprima &ri
     Label1.setLeft(richiesta.finestra.width - twipsDa(Label1.width()) - margineDestro);
     TitoloTXT.setVisible(richiesta.testoVisibile);
     Label1.setVisible(richiesta.dataVisibile);
+    vestiPulsanti();
     if (richiesta.schermo && schermiTotem.at(std::size_t(*richiesta.schermo)).larghezza > 0)
         DisponiPulsanti(*richiesta.schermo);
     else
         avverti(u"Nessuna disposizione dei pulsanti per questa risoluzione: scegliere 1280 x 1024, 1920 x 1080 o "
                 "1440 x 900."_s);
-    vestiPulsanti();
+    componiPulsanti();
     mostraAvvisi();
 }
 
 void LayoutTotem::DisponiPulsanti(int schermo) {
-    if (!mostraSfondo())
-        return;
-    scriviTitoloEData(schermo);
     const auto servizi = static_cast<int>(m_richiesta.servizi.size());
     const auto posti = disposizionePulsanti(schermo, servizi);
+    const auto prepara = [&] {
+        for (std::size_t i = 0; i < posti.size(); ++i)
+            Bottone(static_cast<int>(i) + 1).prepara(pixelDa(postoDa(posti[i])).size());
+    };
+    if (!mostraSfondo(prepara))
+        return;
+    scriviTitoloEData(schermo);
     for (std::size_t i = 0; i < posti.size(); ++i) {
         BottoneTotem &bottone = Bottone(static_cast<int>(i) + 1);
-        bottone.setPosto({posti[i].x(), posti[i].y(), posti[i].width(), posti[i].height()});
+        bottone.setPosto(postoDa(posti[i]));
         bottone.show();
     }
     if (servizi == 0)
@@ -88,9 +97,9 @@ void LayoutTotem::DisponiPulsanti(int schermo) {
                 .arg(pixelDa(fuori)));
 }
 
-// False when the picture ends the arrangement.
-bool LayoutTotem::mostraSfondo() {
-    const SfondoTotem sfondo = leggiSfondo(m_percorsi, m_aspetto.sfondo, pixelDa(m_richiesta.finestra));
+// False when the picture ends the arrangement. `intanto` runs while it is being decoded.
+bool LayoutTotem::mostraSfondo(const std::function<void()> &intanto) {
+    const SfondoTotem sfondo = leggiSfondo(m_percorsi, m_aspetto.sfondo, pixelDa(m_richiesta.finestra), intanto);
     avverti(fraseSfondo(sfondo.esito, m_aspetto.sfondo));
     m_sfondo = QPixmap::fromImage(sfondo.immagine);
     m_sfondo.setDevicePixelRatio(1);
@@ -110,9 +119,16 @@ void LayoutTotem::vestiPulsanti() {
         BottoneTotem &bottone = Bottone(i + 1);
         bottone.setCaption(u' ' + m_richiesta.servizi[i]);
         bottone.setFontTesto(fontDa(stile));
-        bottone.setSfondo(m_sfondo);
         if (stile.coloreDato)
             bottone.setColoreTesto(coloreDa(stile.colore));
+    }
+}
+
+void LayoutTotem::componiPulsanti() {
+    for (const auto &[indice, bottone] : Bottone) {
+        bottone->setSfondo(m_sfondo);
+        if (!bottone->isHidden())
+            bottone->componi();
     }
     if (!m_aspetto.rifiutati.isEmpty())
         avverti(u"Non sono numeri, e valgono quelli consueti: "_s + m_aspetto.rifiutati.join(u", "_s) + u'.');

@@ -35,9 +35,10 @@ protected:
 
 private:
     void DisponiPulsanti(int schermo);
-    bool mostraSfondo();
+    bool mostraSfondo(const std::function<void()> &intanto);
     void scriviTitoloEData(int schermo);
     void vestiPulsanti();
+    void componiPulsanti();
     void avverti(const QString &frase);
     void mostraAvvisi();
 

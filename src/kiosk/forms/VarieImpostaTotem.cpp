@@ -18,9 +18,9 @@ const QString titoloMessaggi = u"Zuvora-Messaggio"_s;
 
 } // namespace
 
-VarieImpostaTotem::VarieImpostaTotem(const Ambiente &ambiente_, QWidget *padre, Percorsi percorsi,
+VarieImpostaTotem::VarieImpostaTotem(const Ambiente &contesto, QWidget *padre, Percorsi percorsi,
                                      ApriEtichette etichette)
-    : Form(ambiente_, "VarieImpostaTotem", "Varie impostazioni del Totem....", {6015, 2265}, padre),
+    : Form(contesto, "VarieImpostaTotem", "Varie impostazioni del Totem....", {6015, 2265}, padre),
       m_apriEtichette(std::move(etichette)), m_percorsi(std::move(percorsi)) {
     if (!m_apriEtichette)
         m_apriEtichette = [this] { return creaEtichette(ambiente().piattaforma.cartellaEseguibile()); };

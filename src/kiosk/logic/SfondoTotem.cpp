@@ -5,6 +5,7 @@
 #include "shell/logic/Percorsi.h"
 
 #include <QFileInfo>
+#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,7 +30,8 @@ SfondoTotem decodifica(const QString &percorso, const QSize &finestra) {
 
 } // namespace
 
-SfondoTotem leggiSfondo(const Percorsi &percorsi, const QString &scritto, const QSize &finestra) {
+SfondoTotem leggiSfondo(const Percorsi &percorsi, const QString &scritto, const QSize &finestra,
+                        const std::function<void()> &intanto) {
     if (scritto.isEmpty())
         return {};
     const auto esame = percorsi.chiediEAspetta(scritto);
@@ -43,6 +45,9 @@ SfondoTotem leggiSfondo(const Percorsi &percorsi, const QString &scritto, const 
     if (esame.specie != Specie::File)
         return {EsitoSfondo::Inaccessibile, {}};
     const std::function<SfondoTotem()> lettura = [=] { return decodifica(esame.percorso, finestra); };
+    QObject attesa; // which runs the events
+    if (intanto)
+        QTimer::singleShot(0, &attesa, intanto);
     return chiediEAspetta(lettura, attesaImmagine).value_or(SfondoTotem{EsitoSfondo::Inaccessibile, {}});
 }
 

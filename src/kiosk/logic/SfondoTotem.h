@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QString>
+#include <functional>
 
 namespace zuvora {
 
@@ -22,7 +23,9 @@ struct SfondoTotem {
 
 // Reads the background picture for a window of so many pixels. `scritto` is the path as the row has it, empty for none.
 // The disk is asked off the thread: one that doesn't answer holds the caller up for a bounded time only.
-SfondoTotem leggiSfondo(const Percorsi &percorsi, const QString &scritto, const QSize &finestra);
+// `intanto` is called on the caller's thread while the picture is being decoded; not when it comes to no decoding.
+SfondoTotem leggiSfondo(const Percorsi &percorsi, const QString &scritto, const QSize &finestra,
+                        const std::function<void()> &intanto = {});
 
 // What the user is told: empty when there is nothing to tell.
 QString fraseSfondo(EsitoSfondo esito, const QString &scritto);

@@ -11,43 +11,27 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-// Which pictures the reading of a layout asks for.
-class ImmaginiChieste : public CaricatoreImmagini {
-public:
-    void prepara(const QString &percorso) override { m_percorsi << percorso; }
-    bool carica(const QString &) override { return true; }
-    const QStringList &percorsi() const { return m_percorsi; }
-
-private:
-    QStringList m_percorsi;
-};
-
-// The layout's pictures, decoded beside the window; null when the user called it off.
-std::shared_ptr<ImmaginiQt> decodifica(const Ambiente &ambiente, const QString &tabella, QWidget *padre) {
-    DisplayLayout layout(tabella);
-    ImmaginiChieste chieste;
-    CaricaLayout(layout, chieste, ambiente.valori.PercorsoApplicazione);
-    const auto immagini = std::make_shared<ImmaginiQt>();
-    const bool fatto = aspetta(ambiente, padre, u"Lettura delle immagini del Layout in corso..."_s,
-                               [immagini, percorsi = chieste.percorsi()](Avanzamento &a) {
-                                   for (const QString &percorso : percorsi)
-                                       immagini->prepara(percorso);
-                                   for (qsizetype i = 0; i < percorsi.size() && !a.annullato(); ++i) {
-                                       immagini->carica(percorsi.at(i));
-                                       a.setParte(i + 1, percorsi.size());
-                                   }
-                               });
-    return fatto ? immagini : nullptr;
+// Decodes pictures beside the window; false when the user called it off.
+bool decodifica(const Ambiente &ambiente, const std::shared_ptr<ImmaginiQt> &immagini, const QStringList &percorsi,
+                QWidget *padre) {
+    return aspetta(ambiente, padre, u"Lettura delle immagini del Layout in corso..."_s,
+                   [immagini, percorsi](Avanzamento &a) {
+                       for (qsizetype i = 0; i < percorsi.size() && !a.annullato(); ++i) {
+                           immagini->carica(percorsi.at(i));
+                           a.setParte(i + 1, percorsi.size());
+                       }
+                   });
 }
 
 } // namespace
 
 void apriTela(const Ambiente &ambiente, int risoluzione, const QString &tabella, QWidget *padre) {
-    const auto immagini = decodifica(ambiente, tabella, padre);
-    if (immagini == nullptr)
-        return;
+    const auto immagini = std::make_shared<ImmaginiQt>();
     DisplayLayout layout(tabella);
-    const EsitoLettura esito = CaricaLayout(layout, *immagini, ambiente.valori.PercorsoApplicazione);
+    LetturaLayout lettura(layout, *immagini, ambiente.valori.PercorsoApplicazione);
+    if (!decodifica(ambiente, immagini, lettura.percorsi(), padre))
+        return;
+    const EsitoLettura esito = lettura.risolvi();
     const ApritoriTela apritori{
         [&ambiente](QWidget *form, int indice) { return apriImpostaCornice(ambiente, indice, form); },
         [&ambiente](QWidget *form, const UsoSfondo &uso) { apriSfondoLayout(ambiente, uso, form); }};

@@ -6,8 +6,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 
-CancellaLayout::CancellaLayout(const Ambiente &ambiente_, const QString &numero, QWidget *padre)
-    : Form(ambiente_, "CancellaLayout", "", {7695, 5010}, padre) {
+CancellaLayout::CancellaLayout(const Ambiente &contesto, const QString &numero, QWidget *padre)
+    : Form(contesto, "CancellaLayout", "", {7695, 5010}, padre) {
     QFont grande = font();
     grande.setPointSizeF(11);
     Label1.setFontBase(grande);

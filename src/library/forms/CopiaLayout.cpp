@@ -23,8 +23,8 @@ QFont inGrassetto(QFont font) {
 
 } // namespace
 
-CopiaLayout::CopiaLayout(const Ambiente &ambiente_, QWidget *padre)
-    : Form(ambiente_, "CopiaLayout", "Funzione di Copia Layout", {5925, 5550}, padre),
+CopiaLayout::CopiaLayout(const Ambiente &contesto, QWidget *padre)
+    : Form(contesto, "CopiaLayout", "Funzione di Copia Layout", {5925, 5550}, padre),
       L0("L0", 0, ultimaSorgente,
          [this](int n, const char *nome) {
              return bottone(&GroupBox1, nome, n, layoutSorgente, {480, 720, n == ultimaSorgente ? 1575 : 1215, 255});

@@ -12,8 +12,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 
-Elementi::Elementi(const Ambiente &ambiente_, QWidget *padre)
-    : Form(ambiente_, "Elementi", "Decorazioni", {7575, 6195}, padre) {
+Elementi::Elementi(const Ambiente &contesto, QWidget *padre)
+    : Form(contesto, "Elementi", "Decorazioni", {7575, 6195}, padre) {
     IlFileX.hide();
     grid.lega(Data1);
     grid.setAccessibleName(u"Immagini Decorazioni"_s);
@@ -33,7 +33,7 @@ Elementi::Elementi(const Ambiente &ambiente_, QWidget *padre)
 }
 
 void Elementi::scegliCategoria(int indice) {
-    const CategoriaDecorazioni &categoria = CategorieDecorazioni.at(std::size_t(indice));
+    const CategoriaDecorazioni &categoria = categorieDecorazioni.at(std::size_t(indice));
     m_categoria = indice;
     TipoCategoria = categoria.Tipo;
     CartellaDestinazione = cartellaDecorazioni(cartella(), indice);

@@ -8,8 +8,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 
-ImpostaCornice::ImpostaCornice(const Ambiente &ambiente_, int i, QWidget *padre)
-    : Form(ambiente_, "ImpostaCornice", "Imposta Cornice", {8970, 6480}, padre) {
+ImpostaCornice::ImpostaCornice(const Ambiente &contesto, int i, QWidget *padre)
+    : Form(contesto, "ImpostaCornice", "Imposta Cornice", {8970, 6480}, padre) {
     QFont titolo = font();
     titolo.setPointSizeF(14);
     titolo.setBold(true);
@@ -31,7 +31,7 @@ ImpostaCornice::ImpostaCornice(const Ambiente &ambiente_, int i, QWidget *padre)
 
 void ImpostaCornice::scegliCategoria(int indice) {
     m_categoria = indice;
-    apri(Data1, cartella(), sorgenteDecorazioni(CategorieDecorazioni.at(std::size_t(indice)).Tipo));
+    apri(Data1, cartella(), sorgenteDecorazioni(categorieDecorazioni.at(std::size_t(indice)).Tipo));
     mostraRiga();
 }
 
@@ -39,16 +39,16 @@ void ImpostaCornice::mostraRiga() {
     if (grid.Rows() == 0)
         return;
     const QString file = testoDi(Data1.Recordset()[u"File"].Value(), {});
-    m_percorso = percorsoDecorazione(cartella(), m_categoria, file);
-    Label2.setCaption(m_percorso);
-    Image1.mostra(m_percorso);
+    DecorazioneScelta = percorsoDecorazione(cartella(), m_categoria, file);
+    Label2.setCaption(DecorazioneScelta);
+    Image1.mostra(DecorazioneScelta);
 }
 
 void ImpostaCornice::applica() {
-    if (!m_percorso.isEmpty() && avvisaSeIllegibile(ambiente(), m_percorso, this))
+    if (!DecorazioneScelta.isEmpty() && avvisaSeIllegibile(ambiente(), DecorazioneScelta, this))
         return;
     if (indiceDecorazione(Label1.Caption()) > 0)
-        m_applicata = SceltaDecorazione{m_percorso, SecondoPiano.isChecked()};
+        m_applicata = SceltaDecorazione{DecorazioneScelta, SecondoPiano.isChecked()};
     scarica();
 }
 

@@ -25,7 +25,7 @@ private:
 
     Data Data1;
     int m_categoria = 0;
-    QString m_percorso; // full path of the last row clicked
+    QString DecorazioneScelta; // full path of the last row clicked
     std::optional<SceltaDecorazione> m_applicata;
 
     Label Label1{this, "Label1", "", {120, 0, 5655, 615}};

@@ -14,8 +14,8 @@ QString parolaModo(ModoSfondo modo) {
 
 } // namespace
 
-ImpostaSfondo::ImpostaSfondo(const Ambiente &ambiente_, ModoSfondo modo, UsoSfondo uso, QWidget *padre)
-    : Form(ambiente_, "ImpostaSfondo", "Imposta Sfondo schermata FrontEnd", {8130, 8955}, padre), m_modo(modo),
+ImpostaSfondo::ImpostaSfondo(const Ambiente &contesto, ModoSfondo modo, UsoSfondo uso, QWidget *padre)
+    : Form(contesto, "ImpostaSfondo", "Imposta Sfondo schermata FrontEnd", {8130, 8955}, padre), m_modo(modo),
       m_uso(std::move(uso)) {
     Label5.setCaption(parolaModo(m_modo));
     for (Label *accanto : {&Label4, &Label2(0), &Label2(1)}) // to boxes, whose texts stand in the middle
@@ -27,7 +27,7 @@ ImpostaSfondo::ImpostaSfondo(const Ambiente &ambiente_, ModoSfondo modo, UsoSfon
         misura->setReadOnly(true);
         misura->setFocusPolicy(Qt::ClickFocus);
     }
-    quando(m_scelta, &SceltaFile::nonDisponibile, [this] { avvisa(u"Il disco scelto non è disponibile !"_s); });
+    quando(m_scelta, &SceltaFile::rifiutato, [this] { avvisa(u"Il disco scelto non è disponibile !"_s); });
     quando(File1, &FileListBox::cliccato, [this] { clicFile(); });
     PushButton1.setRuolo(Ruolo::Principale);
     PushButton3.setRuolo(Ruolo::Distruttivo);
@@ -42,8 +42,9 @@ void ImpostaSfondo::clicFile() {
     Label1.hide();
     Image1.mostra(SfondoScelto);
     // The control's own size: it doesn't change with the picture.
-    F1.setText(QString::number(Image1.posto().width / TwipsPerPixel));
-    F2.setText(QString::number(Image1.posto().height / TwipsPerPixel));
+    const QRect misura = pixelDa(Image1.posto());
+    F1.setText(QString::number(misura.width()));
+    F2.setText(QString::number(misura.height()));
 }
 
 void ImpostaSfondo::imposta() {

@@ -48,8 +48,8 @@ void suggerisciTesto(Edit &campo) {
 
 } // namespace
 
-SceltaLayout::SceltaLayout(const Ambiente &ambiente_, int risoluzione, QWidget *padre)
-    : Form(ambiente_, "SceltaLayout", "Selezione del Layout", {5175, 5595}, padre), m_risoluzione(risoluzione),
+SceltaLayout::SceltaLayout(const Ambiente &contesto, int risoluzione, QWidget *padre)
+    : Form(contesto, "SceltaLayout", "Selezione del Layout", {5175, 5595}, padre), m_risoluzione(risoluzione),
       m_lette(lineeIniziali()),
       RB1("RB1", 0, numeroLayout - 1,
           [this](int i, const char *nome) {

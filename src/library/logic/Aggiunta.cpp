@@ -56,11 +56,11 @@ qlonglong ultimoID(const QString &PercorsoApplicazione) {
 }
 
 void riparaAggiunte(const QString &PercorsoApplicazione) {
-    for (std::size_t i = 0; i < CategorieDecorazioni.size(); ++i) {
+    for (std::size_t i = 0; i < categorieDecorazioni.size(); ++i) {
         const QDir categoria(cartellaDecorazioni(PercorsoApplicazione, int(i)));
         const QStringList sospese = categoria.entryList({prefisso + u"*"_s}, QDir::Dirs | QDir::Hidden);
         for (const QString &sospesa : sospese)
-            riparaAggiunta(PercorsoApplicazione, CategorieDecorazioni[i].Tipo, categoria, sospesa);
+            riparaAggiunta(PercorsoApplicazione, categorieDecorazioni[i].Tipo, categoria, sospesa);
     }
 }
 

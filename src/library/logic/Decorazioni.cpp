@@ -16,7 +16,7 @@ QString sorgenteDecorazioni(int TipoCategoria) {
 }
 
 QString cartellaDecorazioni(const QString &PercorsoApplicazione, int indice) {
-    const CategoriaDecorazioni &categoria = CategorieDecorazioni.at(static_cast<std::size_t>(indice));
+    const CategoriaDecorazioni &categoria = categorieDecorazioni.at(static_cast<std::size_t>(indice));
     return percorsoIn(PercorsoApplicazione, categoria.cartella) + QDir::separator();
 }
 

@@ -17,7 +17,7 @@ struct CategoriaDecorazioni {
     QStringView cartella; // under the application folder; the one spelling of its name
     QStringView elenco;   // the rows, for the form that manages the catalogue
 };
-inline constexpr std::array<CategoriaDecorazioni, 3> CategorieDecorazioni = {{
+inline constexpr std::array<CategoriaDecorazioni, 3> categorieDecorazioni = {{
     {1, u"Cornici", nomi::cornici, u"Select * from Decorazioni where [tipo]=1 order by [file]"},
     {2, u"Banner", nomi::banner, u"Select * from Decorazioni where [tipo]=2 order by [file]"},
     {3, u"Elementi", nomi::elementi, u"Select * from Decorazioni where [tipo]=3 order by [file]"},

@@ -7,8 +7,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 
-AAAggiorna::AAAggiorna(const Ambiente &ambiente_, const QString &versione, QWidget *padre)
-    : Form(ambiente_, "AAAggiorna", "Aggiornamento software  -  Zuvora", {5775, 3210}, padre),
+AAAggiorna::AAAggiorna(const Ambiente &contesto, const QString &versione, QWidget *padre)
+    : Form(contesto, "AAAggiorna", "Aggiornamento software  -  Zuvora", {5775, 3210}, padre),
       text1("text1", 0, 0, [this](int, const char *nome) {
           return std::make_unique<Edit>(this, nome, Posto{3240, 795, 975, 285}, "3.0.0");
       }) {

@@ -2,8 +2,8 @@
 
 namespace zuvora {
 
-FormUscita::FormUscita(const Ambiente &ambiente_, QWidget *padre)
-    : Form(ambiente_, "FormUscita", "Chiusura applicazione", {4350, 1635}, padre),
+FormUscita::FormUscita(const Ambiente &contesto, QWidget *padre)
+    : Form(contesto, "FormUscita", "Chiusura applicazione", {4350, 1635}, padre),
       Label1(this, "Label1", "Chiudere il Modulo di Impostazione di Zuvora ?", {240, 360, 3870, 495}),
       cbt(this, "cbt", {{0, "&Si", {1080, 1080, 1095, 330}}, {1, "&No", {2160, 1080, 1095, 330}}}) {
     Label1.setAlignment(Qt::AlignHCenter | Qt::AlignTop);

@@ -4,9 +4,8 @@
 
 namespace zuvora {
 
-NomeServer::NomeServer(const Ambiente &ambiente_, QWidget *padre, std::function<void(const QString &)> salvato)
-    : Form(ambiente_, "NomeServer", "Impostazione Nome del Server", {5055, 2700}, padre),
-      m_salvato(std::move(salvato)) {
+NomeServer::NomeServer(const Ambiente &contesto, QWidget *padre, std::function<void(const QString &)> salvato)
+    : Form(contesto, "NomeServer", "Impostazione Nome del Server", {5055, 2700}, padre), m_salvato(std::move(salvato)) {
     text1_1.setText(leggiNominativo(cartella()));
     Btn_1.setRuolo(Ruolo::Principale);
     alClic(Btn_1, [this] { salva(); });

@@ -9,12 +9,12 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr int Altezza = 4335;
-constexpr int TopAperta = 1680;
+constexpr int altezza = 4335;
+constexpr int topAperta = 1680;
 
 } // namespace
 
-PaginaClient::PaginaClient(const Apertura &apertura) : Pagina(apertura, "BoxImpostazioni(1)", Altezza, TopAperta) {
+PaginaClient::PaginaClient(const Apertura &apertura) : Pagina(apertura, "BoxImpostazioni(1)", altezza, topAperta) {
     ipS1.setAccessibleName(u"Indirizzo del server"_s);
     LaPorta.setAccessibleName(u"Porta di ascolto del server"_s);
     NameS1.setAccessibleName(u"Nome della macchina del server"_s);

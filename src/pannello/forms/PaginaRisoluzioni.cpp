@@ -13,9 +13,9 @@ namespace {
 
 constexpr Posto PostiRB1[] = {
     {1440, 720, 3000, 255}, {1440, 960, 3000, 255}, {1440, 1200, 3000, 255}, {1440, 1440, 3480, 255}};
-constexpr int LeftUnMonitor = 1680;
-constexpr int LeftPrimo = 600;
-constexpr int LeftSecondo = 2760;
+constexpr int leftUnMonitor = 1680;
+constexpr int leftPrimo = 600;
+constexpr int leftSecondo = 2760;
 
 // Where the desktop is scaled, the size that the screen has, not the one that programs reckon with.
 QString misureDi(const clsMonitor &m, const SistemaMonitor &sistema) {
@@ -28,8 +28,8 @@ QString misureDi(const clsMonitor &m, const SistemaMonitor &sistema) {
 
 PaginaRisoluzioni::PaginaRisoluzioni(const Apertura &apertura)
     : Pagina(apertura, "BoxImpostazioni(0)"), m_scelta(apertura.cambiaRisoluzione), m_risoluzione(apertura.risoluzione),
-      RB1("RB1", 0, int(Risoluzioni.size()) - 1, [this](int i, const char *nome) {
-          const QByteArray didascalia = Risoluzioni[std::size_t(i)].didascalia.toUtf8();
+      RB1("RB1", 0, int(risoluzioni.size()) - 1, [this](int i, const char *nome) {
+          const QByteArray didascalia = risoluzioni[std::size_t(i)].didascalia.toUtf8();
           return std::make_unique<RadioButton>(this, nome, didascalia.constData(), PostiRB1[i]);
       }) {
     m_scelte.setScelto(m_risoluzione - 1);
@@ -53,8 +53,8 @@ void PaginaRisoluzioni::riempi() {
     const auto &monitors = elenco.Monitors();
     const bool uno = monitors.size() == 1;
     QMonitor.setCaption(QString::number(monitors.size()));
-    Image2.setLeft(uno ? LeftUnMonitor : LeftPrimo);
-    Image3.setLeft(uno ? LeftUnMonitor : LeftSecondo);
+    Image2.setLeft(uno ? leftUnMonitor : leftPrimo);
+    Image3.setLeft(uno ? leftUnMonitor : leftSecondo);
     const bool due = monitors.size() == 2;
     // With three or more monitors the two lines can't name them all: they stay empty.
     RisM1.setCaption(uno || due ? misureDi(monitors[0], sistema) : QString());

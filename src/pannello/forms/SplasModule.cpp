@@ -8,15 +8,16 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <future>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 namespace {
 
-constexpr int LarghezzaVoce = 2295; // twips
-constexpr int AltezzaVoce = 300;
-constexpr int LeftVoce = 120;
+constexpr int larghezzaVoce = 2295; // twips
+constexpr int altezzaVoce = 300;
+constexpr int leftVoce = 120;
 
 QFont ingrandito(const QFont &base, double punti) {
     QFont font = base;
@@ -27,15 +28,16 @@ QFont ingrandito(const QFont &base, double punti) {
 
 } // namespace
 
-SplasModule::SplasModule(const Ambiente &ambiente_, std::vector<VoceMenu> voci, const QUrl &sito)
-    : Form(ambiente_, "SplasModule", "Zuvora  -  Modulo di Impostazione", {8685, 7605}, nullptr),
+SplasModule::SplasModule(const Ambiente &contesto, std::vector<VoceMenu> voci, const QUrl &sito)
+    : Form(contesto, "SplasModule", "Zuvora  -  Modulo di Impostazione", {8685, 7605}, nullptr),
       m_voci(std::move(voci)), m_sito(sito), Image1("Image1", 0, 0, [this](int, const char *nome) {
           return std::make_unique<PictureBox>(this, nome, Posto{2880, 6300, 1080, 870}, Disegno::Zuvora);
       }) {
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowCloseButtonHint);
+    std::future<StatoAvvio> lettura = std::async(std::launch::async, leggiStatoAvvio, cartella());
     disponi();
-    const StatoAvvio stato = leggiStatoAvvio(cartella());
+    const StatoAvvio stato = lettura.get();
     Label5.setCaption(stato.numero);
     Label6.setCaption(stato.data);
     m_risoluzione = stato.risoluzione;
@@ -54,7 +56,7 @@ void SplasModule::disponi() {
     });
     for (const VoceMenu &voce : m_voci) {
         auto &bottone = m_menu.emplace_back(std::make_unique<Button>(
-            &GroupBox3, voce.nome, voce.didascalia, Posto{LeftVoce, voce.top, LarghezzaVoce, AltezzaVoce}));
+            &GroupBox3, voce.nome, voce.didascalia, Posto{leftVoce, voce.top, larghezzaVoce, altezzaVoce}));
         bottone->allineaASinistra();
         alClic(*bottone, [this, &voce] { premi(voce); });
     }
@@ -95,10 +97,7 @@ void SplasModule::apri(const VoceMenu &voce) {
         apriPagina(voce.nome, *crea);
         return;
     }
-    if (const auto *mostra = std::get_if<ApriForm>(&voce.apri))
-        (*mostra)(apertura());
-    else
-        avvisa(u"Questa funzione non è ancora disponibile"_s, u"in questa versione del modulo."_s);
+    std::get<ApriForm>(voce.apri)(apertura());
     if (voce.titolo)
         setComando({});
 }

@@ -21,7 +21,7 @@ struct VoceMenu {
     const char *didascalia;
     std::optional<QStringView> titolo;
     bool soloPrincipale; // no other installation may press it
-    std::variant<std::monostate, ApriForm, ApriPagina> apri;
+    std::variant<ApriForm, ApriPagina> apri;
 };
 
 } // namespace zuvora

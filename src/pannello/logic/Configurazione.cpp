@@ -9,11 +9,11 @@ namespace zuvora {
 namespace {
 
 const QString tabella = u"Configurazione"_s;
-constexpr int OltreIlPrimo = 20; // twips beyond the first screen's right edge
+constexpr int oltreIlPrimo = 20; // twips beyond the first screen's right edge
 
 // The stored number of a resolution, 0 for any other value.
 int risoluzioneDi(const Valore &v) {
-    for (int misura = 1; misura <= int(Risoluzioni.size()); ++misura)
+    for (int misura = 1; misura <= int(risoluzioni.size()); ++misura)
         if (numeroDi(v) == misura)
             return misura;
     return 0;
@@ -59,7 +59,7 @@ Schermo leggiSchermo(const QString &cartella) {
 }
 
 void salvaSchermo(const QString &cartella, Schermo schermo, int larghezzaSchermoTwips) {
-    const int sinistra = schermo == Schermo::Primo ? 0 : larghezzaSchermoTwips + OltreIlPrimo;
+    const int sinistra = schermo == Schermo::Primo ? 0 : larghezzaSchermoTwips + oltreIlPrimo;
     scriviRiga(cartella, tabella, {{u"MisuraFormLeft", sinistra}});
 }
 

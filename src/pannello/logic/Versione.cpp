@@ -18,19 +18,19 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr std::array<QStringView, 5> VersioniPrecedenti = {u"3.1.0", u"3.1.6", u"3.1.8", u"3.1.9", u"3.1.10"};
-constexpr QStringView Prefisso = u"Versione ";
+constexpr std::array<QStringView, 5> versioniPrecedenti = {u"3.1.0", u"3.1.6", u"3.1.8", u"3.1.9", u"3.1.10"};
+constexpr QStringView prefisso = u"Versione ";
 
 } // namespace
 
 bool versioneConosciuta(QStringView breve) {
-    return std::find(VersioniPrecedenti.begin(), VersioniPrecedenti.end(), breve) != VersioniPrecedenti.end();
+    return std::find(versioniPrecedenti.begin(), versioniPrecedenti.end(), breve) != versioniPrecedenti.end();
 }
 
 std::optional<QString> versioneDaAggiornare(QStringView etichetta) {
-    if (!etichetta.startsWith(Prefisso))
+    if (!etichetta.startsWith(prefisso))
         return std::nullopt;
-    const QStringView breve = etichetta.mid(Prefisso.size());
+    const QStringView breve = etichetta.mid(prefisso.size());
     if (!versioneConosciuta(breve))
         return std::nullopt;
     return breve.toString();

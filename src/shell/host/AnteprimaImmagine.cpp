@@ -22,12 +22,12 @@ bool eGrande(const QString &percorso) {
 }
 
 QPixmap scacchiera(const QPalette &palette) {
-    constexpr int Casella = 8; // pixels
-    QPixmap quadro(2 * Casella, 2 * Casella);
+    constexpr int casella = 8; // pixels
+    QPixmap quadro(2 * casella, 2 * casella);
     quadro.fill(palette.color(QPalette::Base));
     QPainter pittore(&quadro);
-    pittore.fillRect(0, 0, Casella, Casella, palette.color(QPalette::Midlight));
-    pittore.fillRect(Casella, Casella, Casella, Casella, palette.color(QPalette::Midlight));
+    pittore.fillRect(0, 0, casella, casella, palette.color(QPalette::Midlight));
+    pittore.fillRect(casella, casella, casella, casella, palette.color(QPalette::Midlight));
     return quadro;
 }
 
@@ -96,7 +96,7 @@ void AnteprimaImmagine::concludi(const ImmagineLetta &letta) {
     m_trasparente = letta.immagine.hasAlphaChannel();
     setTesto({});
     setImmagine(QPixmap::fromImage(letta.immagine));
-    Q_EMIT cambiata();
+    Q_EMIT cambiato();
 }
 
 void AnteprimaImmagine::paintEvent(QPaintEvent *e) {
@@ -109,7 +109,7 @@ void AnteprimaImmagine::fallisci(const QString &motivo) {
     m_stato = Stato::NonLeggibile;
     m_guasto = motivo + u'\n' + accorciato(QFileInfo(m_percorso).fileName());
     setTesto(m_guasto);
-    Q_EMIT cambiata();
+    Q_EMIT cambiato();
 }
 
 } // namespace zuvora

@@ -27,7 +27,7 @@ public:
     const QString &guasto() const { return m_guasto; }
 
 Q_SIGNALS:
-    void cambiata(); // a picture, or the reason why there is none, stands in the control
+    void cambiato(); // a picture, or the reason why there is none, stands in the control
 
 protected:
     void paintEvent(QPaintEvent *e) override;

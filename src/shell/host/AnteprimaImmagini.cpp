@@ -4,8 +4,8 @@
 
 namespace zuvora {
 
-AnteprimaImmagini::AnteprimaImmagini(const Ambiente &ambiente_, const QString &percorso, QWidget *padre)
-    : Form(ambiente_, "AnteprimaImmagini", "Anteprima Immagini", {9615, 6615}, padre) {
+AnteprimaImmagini::AnteprimaImmagini(const Ambiente &contesto, const QString &percorso, QWidget *padre)
+    : Form(contesto, "AnteprimaImmagini", "Anteprima Immagini", {9615, 6615}, padre) {
     Image1.setAccessibleName(QFileInfo(percorso).fileName());
     Image1.mostra(percorso);
 }

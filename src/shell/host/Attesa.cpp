@@ -21,8 +21,8 @@ constexpr auto intervallo = 100ms;     // between two looks at the progress
 
 class Attesa : public Form {
 public:
-    Attesa(const Ambiente &ambiente_, const QString &testo, const Avanzamento &avanzamento, QWidget *padre)
-        : Form(ambiente_, "Attesa", "Zuvora", {5400, 1560}, padre), m_avanzamento(avanzamento) {
+    Attesa(const Ambiente &contesto, const QString &testo, const Avanzamento &avanzamento, QWidget *padre)
+        : Form(contesto, "Attesa", "Zuvora", {5400, 1560}, padre), m_avanzamento(avanzamento) {
         Label1.setCaption(testo);
         Barra.setAccessibleName(testo);
         Barra.setTextVisible(false);

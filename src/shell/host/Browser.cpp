@@ -15,11 +15,11 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr int MassimoIndirizzo = 300; // characters shown of an address
-constexpr int MargineAvviso = 12;     // pixels
+constexpr int massimoIndirizzo = 300; // characters shown of an address
+constexpr int margineAvviso = 12;     // pixels
 
 QString perLaLettura(const QString &indirizzo) {
-    return indirizzo.size() <= MassimoIndirizzo ? indirizzo : indirizzo.left(MassimoIndirizzo) + u'…';
+    return indirizzo.size() <= massimoIndirizzo ? indirizzo : indirizzo.left(massimoIndirizzo) + u'…';
 }
 
 QString testoIndirizzo(const QString &indirizzo) {
@@ -66,7 +66,7 @@ Browser::Browser(QWidget *padre, const char *nome, const Posto &posto, const Pia
     m_avviso->setFrameStyle(QFrame::NoFrame);
     m_avviso->setTabChangesFocus(true);
     m_avviso->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_avviso->document()->setDocumentMargin(MargineAvviso);
+    m_avviso->document()->setDocumentMargin(margineAvviso);
     m_avviso->setAccessibleName(u"Avviso"_s);
     m_avviso->viewport()->installEventFilter(this);
     m_pila->setSizeConstraint(QLayout::SetNoConstraint);
@@ -142,7 +142,7 @@ void Browser::ricevi(EsitoWeb esito, const QUrl &indirizzo) {
     }
     m_pila->setCurrentWidget(m_vista->widget());
     if (esito == EsitoWeb::Mostrata)
-        Q_EMIT terminata(true);
+        Q_EMIT terminato(true);
 }
 
 void Browser::congeda() {
@@ -160,7 +160,7 @@ void Browser::mostraAvviso(const QString &testo) {
 void Browser::rinuncia(const QString &testo) {
     congeda();
     mostraAvviso(testo);
-    Q_EMIT terminata(false);
+    Q_EMIT terminato(false);
 }
 
 } // namespace zuvora

@@ -30,7 +30,7 @@ public:
 
 Q_SIGNALS:
     // A page, or the text in its place, is shown.
-    void terminata(bool riuscita);
+    void terminato(bool riuscita);
 
 protected:
     bool eventFilter(QObject *oggetto, QEvent *evento) override;

@@ -5,10 +5,12 @@
 #include <QAccessible>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPointer>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <algorithm>
 #include <chrono>
+#include <optional>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,7 +23,38 @@ constexpr int margine = 3; // pixels on each side of the caption
 constexpr auto durataSpunta = 2s;
 constexpr int diametroSpunta = 11; // pixels
 
+constexpr int tutta = 100; // per cent: the regular width of a caption
+
 } // namespace
+
+// Measured when the first of the group is fitted, and once.
+class Button::Gruppo {
+public:
+    explicit Gruppo(const QList<Button *> &bottoni) : m_bottoni(bottoni.begin(), bottoni.end()) {}
+
+    // Per cent of the regular width that all captions take.
+    int larghezza() {
+        if (!m_larghezza)
+            m_larghezza = minima();
+        return *m_larghezza;
+    }
+
+private:
+    int minima() const {
+        int larghezza = tutta;
+        for (const Button *b : m_bottoni) {
+            if (b == nullptr)
+                continue;
+            const int sua = fontAdatto(b->text(), b->m_base, b->spazioDidascalia(), false).stretch();
+            if (sua > 0)
+                larghezza = std::min(larghezza, sua);
+        }
+        return larghezza;
+    }
+
+    const QList<QPointer<Button>> m_bottoni;
+    std::optional<int> m_larghezza;
+};
 
 Button::Button(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto)
     : Controllo(padre, nome, posto), m_base(font()) {
@@ -100,11 +133,16 @@ QSize Button::spazioDidascalia() const {
 }
 
 void Button::adatta() {
-    QFont adatto = fontAdatto(text(), m_base, spazioDidascalia(), false);
-    if (m_stretto < 100)
-        adatto.setStretch(m_stretto);
-    setFont(adatto);
-    const bool troppo = misuraDidascalia(text(), adatto).width() > spazioDidascalia().width();
+    if (!m_disposto)
+        return;
+    QFont adatto = m_base;
+    if (const int comune = m_gruppo ? m_gruppo->larghezza() : tutta; comune < tutta)
+        adatto.setStretch(comune);
+    else
+        adatto = fontAdatto(text(), m_base, spazioDidascalia(), false);
+    if (adatto != font())
+        setFont(adatto);
+    const bool troppo = adatto != m_base && misuraDidascalia(text(), adatto).width() > spazioDidascalia().width();
     if (troppo || m_abbreviato)
         setToolTip(troppo ? QString(text()).remove(u'&').trimmed() : QString());
     m_abbreviato = troppo;
@@ -112,6 +150,7 @@ void Button::adatta() {
 
 void Button::resizeEvent(QResizeEvent *e) {
     Controllo::resizeEvent(e);
+    m_disposto = true;
     adatta();
 }
 
@@ -149,15 +188,9 @@ void Button::dipingiSpunta(QPainter &pittore) const {
 }
 
 void condensaInsieme(const QList<Button *> &gruppo) {
-    int stretto = 100;
+    const auto comune = std::make_shared<Button::Gruppo>(gruppo);
     for (Button *b : gruppo) {
-        b->m_stretto = 100;
-        const int suo = fontAdatto(b->text(), b->m_base, b->spazioDidascalia(), false).stretch();
-        if (suo > 0)
-            stretto = std::min(stretto, suo);
-    }
-    for (Button *b : gruppo) {
-        b->m_stretto = stretto;
+        b->m_gruppo = comune;
         b->adatta();
     }
 }

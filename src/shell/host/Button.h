@@ -4,7 +4,7 @@
 
 #include <QPushButton>
 #include <QTimer>
-#include <initializer_list>
+#include <memory>
 
 namespace zuvora {
 
@@ -39,6 +39,7 @@ protected:
     void resizeEvent(QResizeEvent *e) override;
 
 private:
+    class Gruppo;
     friend void condensaInsieme(const QList<Button *> &gruppo);
     void adatta();
     void dipingiSpunta(QPainter &pittore) const;
@@ -51,10 +52,11 @@ private:
     QColor m_testo;
     QColor m_sfondo;
     Ruolo m_ruolo = Ruolo::Normale;
-    int m_stretto = 100; // per cent of the regular width that the captions of its group take
+    std::shared_ptr<Gruppo> m_gruppo; // whose captions are condensed alike
     bool m_sinistra = false;
     bool m_segnato = false;
     bool m_abbreviato = false;
+    bool m_disposto = false; // the caption is fitted from the first showing on: measuring is what takes time
 };
 
 // Captions that stand together are condensed alike: all as the one that needs it most.

@@ -2,8 +2,16 @@
 
 #include <QByteArray>
 #include <QFont>
+#include <future>
 
 namespace zuvora {
+
+// Begins to read the font system's configuration, beside whatever else the program does to start: it takes as long as
+// the platform's own start, and no text can be measured before. Needs no application.
+std::future<void> avviaCaratteri();
+
+// Begins to list the fonts, while the first form is made; needs the application and its font.
+std::future<void> elencaCaratteri();
 
 // Tahoma 8.25, from the file of the platform where its font system doesn't list it. Loads the font on the first call.
 QFont carattereCasa();

@@ -9,7 +9,7 @@ namespace zuvora {
 EsitoComponenteLettore creaLettore(const QString &cartella, QWidget *padre) {
     const QString cosaManca = u"Filmati e suoni non si possono provare"_s;
     const auto componente =
-        caricaComponente<FabbricaLettore>(cartella, QString::fromLatin1(FileComponenteLettore), cosaManca);
+        caricaComponente<FabbricaLettore>(cartella, QString::fromLatin1(fileComponenteLettore), cosaManca);
     if (componente.fabbrica == nullptr)
         return {nullptr, componente.motivo};
     if (auto lettore = componente.fabbrica->crea(padre))

@@ -5,7 +5,7 @@
 namespace zuvora {
 
 // The file of the component that plays films and sounds; it lies beside the executable.
-inline constexpr const char *FileComponenteLettore = "libzuvora-film.so";
+inline constexpr const char *fileComponenteLettore = "libzuvora-film.so";
 
 struct EsitoComponenteLettore {
     std::unique_ptr<Lettore> lettore; // null when the component can't be used

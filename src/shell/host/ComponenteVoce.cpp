@@ -8,7 +8,7 @@ namespace zuvora {
 EsitoComponenteVoce creaVoce(const QString &cartella) {
     QString motivo;
     auto *fabbrica =
-        qobject_cast<FabbricaVoce *>(radiceComponente(cartella, QString::fromLatin1(FileComponenteVoce), motivo));
+        qobject_cast<FabbricaVoce *>(radiceComponente(cartella, QString::fromLatin1(fileComponenteVoce), motivo));
     if (fabbrica == nullptr)
         return {nullptr, motivo};
     return {fabbrica->crea(), {}};

@@ -5,7 +5,7 @@
 namespace zuvora {
 
 // The file of the component that speaks; it lies beside the executable.
-inline constexpr const char *FileComponenteVoce = "libzuvora-voce.so";
+inline constexpr const char *fileComponenteVoce = "libzuvora-voce.so";
 
 struct EsitoComponenteVoce {
     std::unique_ptr<Voce> voce; // null when the component can't be used

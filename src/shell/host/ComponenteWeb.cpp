@@ -42,7 +42,7 @@ constexpr QStringView cosaManca = u"L'anteprima delle pagine web non è disponib
 EsitoComponenteWeb creaVistaWeb(const QString &cartella, QWidget *padre) {
     preparaContesto();
     const auto componente =
-        caricaComponente<FabbricaVistaWeb>(cartella, QString::fromLatin1(FileComponenteWeb), cosaManca.toString());
+        caricaComponente<FabbricaVistaWeb>(cartella, QString::fromLatin1(fileComponenteWeb), cosaManca.toString());
     if (componente.fabbrica == nullptr)
         return {nullptr, componente.motivo};
     if (auto vista = componente.fabbrica->crea(padre))

@@ -5,7 +5,7 @@
 namespace zuvora {
 
 // The file of the component that shows web pages; it lies beside the executable.
-inline constexpr const char *FileComponenteWeb = "libzuvora-web.so";
+inline constexpr const char *fileComponenteWeb = "libzuvora-web.so";
 
 struct EsitoComponenteWeb {
     std::unique_ptr<VistaWeb> vista; // null when the component can't be used

@@ -95,10 +95,6 @@ void Edit::setSvuotaAppunti(Piattaforma &piattaforma, Svuota quando) {
     m_svuota = quando;
 }
 
-void Edit::setAlFuoco(std::function<void()> azione) {
-    m_alFuoco = std::move(azione);
-}
-
 void Edit::setSolaLettura(const QString &motivo) {
     applicaSolaLettura(*this, motivo);
 }
@@ -141,8 +137,6 @@ void Edit::focusInEvent(QFocusEvent *e) {
         selectAll();
         m_clicDiFuoco = e->reason() == Qt::MouseFocusReason;
     }
-    if (m_alFuoco)
-        m_alFuoco();
 }
 
 void Edit::mousePressEvent(QMouseEvent *e) {

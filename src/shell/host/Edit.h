@@ -29,7 +29,6 @@ public:
     // Text can only be typed: nothing is pasted or dropped.
     void setSoloDigitato();
     void setSvuotaAppunti(Piattaforma &piattaforma, Svuota quando);
-    void setAlFuoco(std::function<void()> azione); // runs when the box gets the focus
     // The box can't be edited, looks so and tells why. An empty reason makes it editable again.
     void setSolaLettura(const QString &motivo);
 
@@ -46,7 +45,6 @@ private:
     QString comeDigitato(QString testo) const;
 
     std::function<bool(QChar)> m_ammesso;
-    std::function<void()> m_alFuoco;
     Piattaforma *m_appunti = nullptr;
     Svuota m_svuota = Svuota::AlFuoco;
     bool m_maiuscole = false;

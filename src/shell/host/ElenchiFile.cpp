@@ -97,7 +97,7 @@ bool DirListBox::setPath(const QString &cartella) {
     m_contenuto = *contenuto;
     disponi();
     if (altra)
-        Q_EMIT cambiata();
+        Q_EMIT cambiato();
     return true;
 }
 

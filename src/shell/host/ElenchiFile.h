@@ -40,7 +40,7 @@ public:
     DirListBox(QWidget *padre, const char *nome, const Posto &posto,
                std::shared_ptr<const SistemaFile> sistema = std::make_shared<SistemaLocale>());
     const QString &Path() const { return m_percorso; } // empty before the first setPath
-    // Goes to a folder; false, and nothing changes, when it is none or doesn't answer. Emits `cambiata` when the folder
+    // Goes to a folder; false, and nothing changes, when it is none or doesn't answer. Emits `cambiato` when the folder
     // is another.
     bool setPath(const QString &cartella);
     void Refresh();
@@ -49,7 +49,7 @@ public:
     const QStringList &file() const { return m_contenuto.file; }
 
 Q_SIGNALS:
-    void cambiata();
+    void cambiato();
 
 protected:
     void keyPressEvent(QKeyEvent *e) override;

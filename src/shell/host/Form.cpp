@@ -18,12 +18,12 @@ namespace {
 // How far a label is from a field, in pixels: beside it on the same line, or right above it. A label elsewhere is no
 // label of the field.
 int distanza(const QRect &etichetta, const QRect &campo) {
-    constexpr int Vicino = 130;
+    constexpr int vicino = 130;
     const bool stessaRiga = etichetta.top() < campo.bottom() && etichetta.bottom() > campo.top();
     if (stessaRiga && etichetta.left() < campo.left())
         return std::max(0, campo.left() - etichetta.right());
     const bool stessaColonna = etichetta.left() < campo.right() && etichetta.right() > campo.left();
-    if (stessaColonna && etichetta.top() < campo.top() && campo.top() - etichetta.bottom() < Vicino)
+    if (stessaColonna && etichetta.top() < campo.top() && campo.top() - etichetta.bottom() < vicino)
         return std::max(0, campo.top() - etichetta.bottom());
     return std::numeric_limits<int>::max();
 }

@@ -38,7 +38,6 @@ public:
         }
         endResetModel();
     }
-    void cambiata(int riga) { Q_EMIT dataChanged(index(riga, 0), index(riga, columnCount() - 1)); }
 
     int rowCount(const QModelIndex &padre = {}) const override { return padre.isValid() ? 0 : m_righe; }
     int columnCount(const QModelIndex &padre = {}) const override {
@@ -133,11 +132,6 @@ void Grid::seleziona(int riga) {
 
 QString Grid::testo(int riga, int colonna) const {
     return m_modello->testo(riga, colonna);
-}
-
-void Grid::ridisegna() {
-    if (Row() >= 0)
-        m_modello->cambiata(Row());
 }
 
 // Where nobody waits for it, Enter goes on to the form and its main action.

@@ -30,7 +30,6 @@ public:
     int Row() const;          // 0-based, -1 without a selected row
     void seleziona(int riga); // and brings it into view; the row becomes the current record
     QString testo(int riga, int colonna) const;
-    void ridisegna(); // after a change of the current record
 
 Q_SIGNALS:
     void cliccato();     // a click on a row, which is the current one by then

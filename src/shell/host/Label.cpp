@@ -64,8 +64,11 @@ void Label::adatta() {
         setPosto({posto().left, posto().top, twipsDa(serve.width()), twipsDa(serve.height())});
         return;
     }
+    if (!m_disposto)
+        return;
     const QFont adatto = fontAdatto(m_caption, m_base, spazioDidascalia(), wordWrap());
-    setFont(adatto);
+    if (adatto != font())
+        setFont(adatto);
     if (!m_abbrevia)
         return;
     const QString corto = abbreviata(m_caption, adatto, spazioDidascalia().width());
@@ -75,6 +78,7 @@ void Label::adatta() {
 
 void Label::resizeEvent(QResizeEvent *e) {
     Controllo::resizeEvent(e);
+    m_disposto = true;
     if (!m_autosize)
         adatta();
 }

@@ -35,6 +35,7 @@ private:
     QFont m_base;
     bool m_autosize = false;
     bool m_abbrevia = false;
+    bool m_disposto = false; // the caption is fitted from the first showing on, as a button's is
 };
 
 // A label that is clicked like a link.

@@ -7,8 +7,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr int Chiudi = 0;
-constexpr int Conferma = 1;
+constexpr int bottoneChiudi = 0;
+constexpr int bottoneConferma = 1;
 
 // A text that needs more than its line keeps its place at the gap between the two: the first grows upwards, the second
 // downwards.
@@ -42,13 +42,15 @@ Tono tonoDi(const QString &riga0) {
     return riga0.contains(fatto) && !riga0.contains(negato) ? Tono::Riuscita : Tono::Rifiuto;
 }
 
-MsgForm::MsgForm(const Ambiente &ambiente_, const QString &riga0, const QString &riga1, bool domanda, QWidget *padre)
-    : Form(ambiente_, "MsgForm", "", {8400, 5040}, padre),
+MsgForm::MsgForm(const Ambiente &contesto, const QString &riga0, const QString &riga1, bool domanda, QWidget *padre)
+    : Form(contesto, "MsgForm", "", {8400, 5040}, padre),
       Image1(this, "Image1", {120, 120, 3480, 4800}, Disegno::SalaAttesa),
       Segno(this, "Segno", {7815, 285, 465, 465}, segnoDi(domanda ? Tono::Domanda : tonoDi(riga0))),
       Label1(this, "Label1", "Messaggio x te  da Zuvora", {3840, 360, 3975, 315}),
       Label2(this, "Label2", {{0, "", {3840, 2040, 4320, 255}}, {1, "", {3840, 2400, 4320, 255}}}),
-      PB1(this, "PB1", {{Conferma, "&Conferma", {6000, 4440, 975, 330}}, {Chiudi, "C&hiudi", {6960, 4440, 975, 330}}}) {
+      PB1(this, "PB1",
+          {{bottoneConferma, "&Conferma", {6000, 4440, 975, 330}},
+           {bottoneChiudi, "C&hiudi", {6960, 4440, 975, 330}}}) {
     QFont titolo = font();
     titolo.setPointSizeF(11);
     titolo.setBold(true);
@@ -59,14 +61,14 @@ MsgForm::MsgForm(const Ambiente &ambiente_, const QString &riga0, const QString 
         label->setVisible(!righe[indice].isEmpty());
         faiPosto(*label, font(), indice == 0);
     }
-    PB1(Conferma).setVisible(domanda);
+    PB1(bottoneConferma).setVisible(domanda);
     setAccessibleName(Label1.Caption());
     setAccessibleDescription(riga0 + QLatin1Char(' ') + riga1);
     alClic(PB1, [this](int indice) {
-        m_risposta = indice == Conferma ? RispostaMessaggio::Conferma : RispostaMessaggio::Chiudi;
+        m_risposta = indice == bottoneConferma ? RispostaMessaggio::Conferma : RispostaMessaggio::Chiudi;
         scarica();
     });
-    PB1(Chiudi).setFocus();
+    PB1(bottoneChiudi).setFocus();
 }
 
 void mostraMessaggio(const Ambiente &ambiente, QWidget *padre, const QString &riga0, const QString &riga1) {

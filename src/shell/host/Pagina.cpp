@@ -6,28 +6,28 @@
 namespace zuvora {
 namespace {
 
-constexpr int LarghezzaPagina = 5535;
-constexpr int LeftAperta = 2880;
-constexpr int TopNascosta = 12000;
+constexpr int larghezzaPagina = 5535;
+constexpr int leftAperta = 2880;
+constexpr int topNascosta = 12000;
 
 } // namespace
 
 Pagina::Pagina(const Apertura &apertura, const char *nome, int altezza, int topAperta)
-    : GroupBox(apertura.padre, nome, "", {LeftAperta, TopNascosta, LarghezzaPagina, altezza}),
+    : GroupBox(apertura.padre, nome, "", {leftAperta, topNascosta, larghezzaPagina, altezza}),
       Schermata(apertura.ambiente, static_cast<QWidget &>(*this)), m_topAperta(topAperta) {
     setAutoFillBackground(true);
     hide();
 }
 
 void Pagina::nascondi() {
-    setTop(TopNascosta);
+    setTop(topNascosta);
     hide();
 }
 
 void Pagina::apri() {
     riempi();
     nominaCampi(this);
-    sposta(LeftAperta, m_topAperta);
+    sposta(leftAperta, m_topAperta);
     raise();
     show();
     ordinaFuochi(*window());

@@ -13,12 +13,6 @@ PictureBox::PictureBox(QWidget *padre, const char *nome, const Posto &posto) : C
 PictureBox::PictureBox(QWidget *padre, const char *nome, const Posto &posto, Disegno disegno)
     : Controllo(padre, nome, posto), m_disegno(disegno) {}
 
-void PictureBox::setDisegno(Disegno disegno) {
-    m_disegno = disegno;
-    m_immagine = {};
-    update();
-}
-
 void PictureBox::setImmagine(const QPixmap &immagine) {
     m_disegno.reset();
     m_immagine = immagine;
@@ -60,11 +54,11 @@ void PictureBox::paintEvent(QPaintEvent *) {
 }
 
 void PictureBox::dipingiTesto(QPainter &pittore) const {
-    constexpr int Margine = 8; // pixels
+    constexpr int margine = 8; // pixels
     QTextOption opzioni(Qt::AlignCenter);
     opzioni.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere); // names of files have no blanks
     pittore.setPen(palette().color(QPalette::PlaceholderText));
-    pittore.drawText(QRectF(rect()).adjusted(Margine, Margine, -Margine, -Margine), m_testo, opzioni);
+    pittore.drawText(QRectF(rect()).adjusted(margine, margine, -margine, -margine), m_testo, opzioni);
 }
 
 void PictureBox::mouseReleaseEvent(QMouseEvent *e) {

@@ -16,7 +16,6 @@ public:
     PictureBox(QWidget *padre, const char *nome, const Posto &posto);
     PictureBox(QWidget *padre, const char *nome, const Posto &posto, Disegno disegno);
 
-    void setDisegno(Disegno disegno);
     void setImmagine(const QPixmap &immagine); // a null one clears the picture
     void setTesto(const QString &testo);       // stands in the control while there is no picture
     const QString &testo() const { return m_testo; }

@@ -24,9 +24,9 @@ SceltaFile::SceltaFile(DriveListBox &dischi, DirListBox &cartelle, FileListBox &
         if (m_cartelle.setPath(m_dischi.Drive()))
             return;
         m_dischi.setDrive(m_cartelle.Path());
-        Q_EMIT nonDisponibile();
+        Q_EMIT rifiutato();
     });
-    connect(&cartelle, &DirListBox::cambiata, this, &SceltaFile::segui);
+    connect(&cartelle, &DirListBox::cambiato, this, &SceltaFile::segui);
     if (!setPath(QDir::currentPath()))
         setPath(QDir::rootPath());
 }

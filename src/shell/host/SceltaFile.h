@@ -15,7 +15,7 @@ public:
     QString percorso() const; // of the chosen file, native form; empty without one
 
 Q_SIGNALS:
-    void nonDisponibile(); // the drive that was picked can't be read; the lists stay as they were
+    void rifiutato(); // the drive that was picked can't be read; the lists stay as they were
 
 private:
     void segui();

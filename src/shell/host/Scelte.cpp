@@ -20,8 +20,10 @@ QSize spazioAccantoAlSegno(const QAbstractButton *b, QStyle::SubElement testo) {
     return {b->width() - r.left(), b->height()};
 }
 
-template <class B> void adattaAccantoAlSegno(B *b) {
-    b->setFont(fontAdatto(b->text(), b->font(), b->spazioDidascalia(), false));
+template <class B> void adattaAccantoAlSegno(B *b, const QFont &base) {
+    const QFont adatto = fontAdatto(b->text(), base, b->spazioDidascalia(), false);
+    if (adatto != b->font())
+        b->setFont(adatto);
 }
 
 void fermaIlTab(QWidget &w, bool ferma) {
@@ -32,8 +34,11 @@ void fermaIlTab(QWidget &w, bool ferma) {
 } // namespace
 
 RadioButton::RadioButton(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto)
-    : Controllo(padre, nome, posto, QString::fromUtf8(didascalia)) {
-    adattaAccantoAlSegno(this);
+    : Controllo(padre, nome, posto, QString::fromUtf8(didascalia)), m_base(font()) {}
+
+void RadioButton::resizeEvent(QResizeEvent *e) {
+    Controllo::resizeEvent(e);
+    adattaAccantoAlSegno(this, m_base);
 }
 
 QSize RadioButton::spazioDidascalia() const {
@@ -73,8 +78,11 @@ void GruppoRadio::fermataDelTab() {
 }
 
 CheckBox::CheckBox(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto)
-    : Controllo(padre, nome, posto, QString::fromUtf8(didascalia)) {
-    adattaAccantoAlSegno(this);
+    : Controllo(padre, nome, posto, QString::fromUtf8(didascalia)), m_base(font()) {}
+
+void CheckBox::resizeEvent(QResizeEvent *e) {
+    Controllo::resizeEvent(e);
+    adattaAccantoAlSegno(this, m_base);
 }
 
 QSize CheckBox::spazioDidascalia() const {

@@ -17,6 +17,12 @@ public:
     RadioButton(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto);
     QString didascaliaMostrata() const override { return text(); }
     QSize spazioDidascalia() const override;
+
+protected:
+    void resizeEvent(QResizeEvent *e) override;
+
+private:
+    QFont m_base;
 };
 
 // The radio buttons of one control array: one is on, or none. Arrays that share a container don't touch one another.
@@ -45,6 +51,12 @@ public:
     CheckBox(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto);
     QString didascaliaMostrata() const override { return text(); }
     QSize spazioDidascalia() const override;
+
+protected:
+    void resizeEvent(QResizeEvent *e) override;
+
+private:
+    QFont m_base;
 };
 
 // A list that opens. The wheel changes nothing unless the box has the focus.

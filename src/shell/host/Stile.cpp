@@ -19,7 +19,7 @@ struct Ruolo {
     QPalette::ColorRole ruolo;
     QColor colore;
 };
-constexpr std::array<Ruolo, 18> Ruoli = {{
+constexpr std::array<Ruolo, 18> ruoli = {{
     {QPalette::Window, tavolozza::sfondo},
     {QPalette::WindowText, tavolozza::testo},
     {QPalette::Base, tavolozza::bianco},
@@ -42,7 +42,7 @@ constexpr std::array<Ruolo, 18> Ruoli = {{
 
 QPalette paletteCasa() {
     QPalette palette(tavolozza::sfondoChiaro, tavolozza::sfondo);
-    for (const Ruolo &r : Ruoli)
+    for (const Ruolo &r : ruoli)
         palette.setColor(r.ruolo, r.colore);
     for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, ruolo, tavolozza::testoSpento);
@@ -58,6 +58,14 @@ void parlaItaliano(QApplication &applicazione) {
         QApplication::installTranslator(traduzione);
 }
 
+// Drawn here: a window asks twice for every size while it comes up.
+QIcon iconaFinestre() {
+    QIcon icona;
+    for (const int lato : {16, 32, 64})
+        icona.addPixmap(immagine(Disegno::Zuvora, {lato, lato}));
+    return icona;
+}
+
 } // namespace
 
 void preparaAspetto(QApplication &applicazione) {
@@ -65,7 +73,7 @@ void preparaAspetto(QApplication &applicazione) {
     QApplication::setStyle(new StileCasa);
     QApplication::setFont(carattereCasa());
     QApplication::setPalette(paletteCasa());
-    applicazione.setWindowIcon(icona(Disegno::Zuvora));
+    applicazione.setWindowIcon(iconaFinestre());
 }
 
 } // namespace zuvora

@@ -8,7 +8,7 @@
 namespace zuvora {
 namespace {
 
-constexpr int StrettoMinimo = 75; // per cent of the regular width
+constexpr int strettoMinimo = 75; // per cent of the regular width
 
 } // namespace
 
@@ -28,8 +28,8 @@ QFont fontAdatto(const QString &testo, const QFont &base, const QSize &spazio, b
     QFont font = base;
     int stretto = 95;
     if (!aCapo && serve.width() > 0)
-        stretto = std::clamp(100 * spazio.width() / serve.width() / 5 * 5, StrettoMinimo, 95);
-    for (; stretto >= StrettoMinimo; stretto -= 5) {
+        stretto = std::clamp(100 * spazio.width() / serve.width() / 5 * 5, strettoMinimo, 95);
+    for (; stretto >= strettoMinimo; stretto -= 5) {
         font.setStretch(stretto);
         const QSize ora = misuraDidascalia(testo, font, aCapo ? spazio.width() : 0);
         if (ora.width() <= spazio.width() && (!aCapo || ora.height() <= spazio.height()))

@@ -8,19 +8,19 @@
 namespace zuvora {
 
 // All places of the program are twips (1/1440 inch), 15 to the pixel on every screen; only the host converts.
-inline constexpr int TwipsPerPixel = 15;
+inline constexpr int twipsPerPixel = 15;
 
 constexpr int pixelDa(int twips) {
-    return twips >= 0 ? (twips + TwipsPerPixel / 2) / TwipsPerPixel : -((-twips + TwipsPerPixel / 2) / TwipsPerPixel);
+    return twips >= 0 ? (twips + twipsPerPixel / 2) / twipsPerPixel : -((-twips + twipsPerPixel / 2) / twipsPerPixel);
 }
 // The same for places that come from data: what lies far outside every screen is cut short, for a painter's own range
 // is not much larger.
 inline int pixelVicino(double twips) {
     constexpr double lontano = 15000; // pixels
-    return static_cast<int>(std::lround(std::clamp(twips / TwipsPerPixel, -lontano, lontano)));
+    return static_cast<int>(std::lround(std::clamp(twips / twipsPerPixel, -lontano, lontano)));
 }
 constexpr int twipsDa(int pixel) {
-    return pixel * TwipsPerPixel;
+    return pixel * twipsPerPixel;
 }
 
 struct Misura {

@@ -8,10 +8,10 @@ using namespace std::chrono_literals;
 namespace zuvora {
 namespace {
 
-constexpr QLatin1StringView Programma{"spd-say"};
-constexpr qsizetype MassimoTesto = 30000; // characters; an argument has a limit
-constexpr auto LimiteAvvio = 10s;
-constexpr auto LimitePerCarattere = 200ms; // slow speech
+constexpr QLatin1StringView nomeProgramma{"spd-say"};
+constexpr qsizetype massimoTesto = 30000; // characters; an argument has a limit
+constexpr auto limiteAvvio = 10s;
+constexpr auto limitePerCarattere = 200ms; // slow speech
 
 } // namespace
 
@@ -29,12 +29,12 @@ VoceSistema::~VoceSistema() {
 
 void VoceSistema::parla(const QString &testo, std::optional<Timbro>) {
     congeda();
-    const QString programma = QStandardPaths::findExecutable(Programma);
+    const QString programma = QStandardPaths::findExecutable(nomeProgramma);
     if (programma.isEmpty()) {
         passa(StatoVoce::Guasto, u"il servizio vocale del sistema (speech-dispatcher) non è installato."_s);
         return;
     }
-    const QString detto = testo.first(std::min(testo.size(), MassimoTesto)).remove(QChar::Null);
+    const QString detto = testo.first(std::min(testo.size(), massimoTesto)).remove(QChar::Null);
     m_processo = new QProcess(this);
     connect(m_processo, &QProcess::started, this, [this] { passa(StatoVoce::Parla, {}); });
     connect(m_processo, &QProcess::finished, this, &VoceSistema::finisci);
@@ -42,7 +42,7 @@ void VoceSistema::parla(const QString &testo, std::optional<Timbro>) {
         if (errore == QProcess::FailedToStart)
             finisci(-1, QProcess::CrashExit);
     });
-    m_limite.start(LimiteAvvio + detto.size() * LimitePerCarattere);
+    m_limite.start(limiteAvvio + detto.size() * limitePerCarattere);
     passa(StatoVoce::Prepara, {});
     m_processo->start(programma, {u"--wait"_s, u"--language"_s, u"it"_s, u"--"_s, detto});
 }
@@ -64,7 +64,7 @@ void VoceSistema::congeda() {
     } else {
         connect(m_processo, &QProcess::finished, m_processo, &QObject::deleteLater);
         m_processo->kill();
-        QProcess::startDetached(Programma, {u"--cancel"_s});
+        QProcess::startDetached(nomeProgramma, {u"--cancel"_s});
     }
     m_processo = nullptr;
 }

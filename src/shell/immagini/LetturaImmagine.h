@@ -39,8 +39,5 @@ QSize misuraImmagine(const QString &percorso);
 // Why the file can't be used as a picture, an Italian sentence, as far as that is told without decoding it: missing, no
 // picture, cut off, too large. Empty when nothing speaks against it.
 QString difettoImmagine(const QString &percorso);
-inline bool pareImmagine(const QString &percorso) {
-    return difettoImmagine(percorso).isEmpty();
-}
 
 } // namespace zuvora

@@ -23,14 +23,6 @@ double Val(const QString &testo) {
     return inizio.hasMatch() ? numeroDi(inizio.captured(1)).value_or(0) : 0;
 }
 
-std::optional<int> interoDi(const Valore &v) {
-    const auto numero = numeroDi(v);
-    const double intero = std::nearbyint(numero.value_or(HUGE_VAL));
-    if (intero < std::numeric_limits<int>::min() || intero > std::numeric_limits<int>::max())
-        return std::nullopt;
-    return static_cast<int>(intero);
-}
-
 std::optional<double> singoloDi(const Valore &v) {
     const auto numero = numeroDi(v);
     return numero && std::abs(*numero) <= std::numeric_limits<float>::max() ? numero : std::nullopt;

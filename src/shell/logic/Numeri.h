@@ -17,8 +17,6 @@ bool eNumerico(QStringView testo);
 // The number that a text begins with, its decimals behind a point; 0 when it begins with none.
 double Val(const QString &testo);
 
-// The number as a whole one, halves to the even neighbour; nothing beyond 32 bits.
-std::optional<int> interoDi(const Valore &v);
 // The number when it fits into single precision.
 std::optional<double> singoloDi(const Valore &v);
 // The number as a save hands it to the store.

@@ -11,7 +11,7 @@ struct Risoluzione {
     int altezza;   // canvas height in twips
     int larghezza; // canvas width in twips
 };
-inline constexpr std::array<Risoluzione, 4> Risoluzioni = {{
+inline constexpr std::array<Risoluzione, 4> risoluzioni = {{
     {u" Risoluzione 1024 x 768 (TV plasma)", 11520, 15360},
     {u" Risoluzione 1366 x 768 (TV LCD)", 11520, 20490},
     {u" Risoluzione 1920x 1080 (TV Full-HD)", 16200, 28800},

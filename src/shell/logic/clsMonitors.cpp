@@ -6,8 +6,8 @@ namespace zuvora {
 namespace {
 
 // The desktop is sampled in cells of this size, at their middle: a smaller monitor may be missed.
-constexpr int PassoX = 640;
-constexpr int PassoY = 480;
+constexpr int passoX = 640;
+constexpr int passoY = 480;
 
 clsMonitor monitorDa(std::int32_t handle, const QRect &area, const QRect &lavoro) {
     clsMonitor m;
@@ -83,9 +83,9 @@ void clsMonitors::Refresh() {
         m_monitors.push_back(monitorDa(0, schermo, schermo));
         return;
     }
-    for (int y = DesktopTop(); y <= DesktopHeight(); y += PassoY) {
-        for (int x = DesktopLeft(); x <= DesktopWidth(); x += PassoX) {
-            const std::int32_t handle = GetMonitorFromXYPoint(x + PassoX / 2, y + PassoY / 2, 0);
+    for (int y = DesktopTop(); y <= DesktopHeight(); y += passoY) {
+        for (int x = DesktopLeft(); x <= DesktopWidth(); x += passoX) {
+            const std::int32_t handle = GetMonitorFromXYPoint(x + passoX / 2, y + passoY / 2, 0);
             if (handle != 0 && !aggiungi(handle))
                 return;
         }

@@ -14,6 +14,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr int istruzioniGiro = 1'000'000; // of the engine's machine
+constexpr int giriMassimi = 100;          // for one row: some seconds, and far beyond what any table of ours takes
+
 // A write over a file size limit must fail, not kill the program.
 void ignoraLimiteFile() {
 #ifdef SIGXFSZ
@@ -85,6 +88,9 @@ void Connessione::apri(Modo modo) {
     if (rc != SQLITE_OK)
         throw errore(rc, Azione::Apertura);
     attendi(m_attesa);
+    // A view that searches for ever would hold the window. Counted, not timed: a wait for a lock is no work.
+    sqlite3_progress_handler(
+        m_db, istruzioniGiro, [](void *giri) { return ++*static_cast<int *>(giri) > giriMassimi ? 1 : 0; }, &m_giri);
     if (const int esito = installaLike(m_db); esito != SQLITE_OK)
         throw errore(esito, Azione::Apertura);
 }
@@ -170,6 +176,7 @@ Istruzione Connessione::preparaUnica(const QString &sql, Azione azione) {
 }
 
 void Connessione::eseguiTutto(const QByteArray &sql) {
+    m_giri = 0;
     if (const int rc = sqlite3_exec(db(), sql.constData(), nullptr, nullptr, nullptr); rc != SQLITE_OK)
         throw errore(rc, Azione::Scrittura);
 }

@@ -66,6 +66,7 @@ private:
     QString m_percorso;  // the file that was opened
     std::chrono::milliseconds m_attesa;
     sqlite3 *m_db = nullptr;
+    int m_giri = 0; // the engine's work on the row under way
     QHash<QByteArray, sqlite3_stmt *> m_pronte;
 };
 

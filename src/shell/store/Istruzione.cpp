@@ -46,6 +46,7 @@ void Istruzione::lega(int posto, const Valore &v) {
 }
 
 bool Istruzione::avanti() {
+    m_c->m_giri = 0;
     const int rc = sqlite3_step(m_s);
     if (rc == SQLITE_ROW)
         return true;

@@ -101,10 +101,6 @@ int Recordset::RecordCount() const {
     return stato().sorgente.quante();
 }
 
-bool Recordset::tagliato() const {
-    return stato().sorgente.tagliata;
-}
-
 bool Recordset::Eof() const {
     const Stato &s = stato();
     return s.sorgente.quante() == 0 || (!s.cancellato && s.posto >= s.sorgente.quante());

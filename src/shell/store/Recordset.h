@@ -50,7 +50,6 @@ public:
     Field operator[](QStringView nome); // Fields().Item(nome)
 
     int RecordCount() const;              // 0 when empty; exact from the start
-    bool tagliato() const;                // the source has more rows than the Data object's limit
     bool Eof() const;                     // behind the last record (also when empty)
     void MoveFirst();                     // 3021 when empty
     void MoveLast();                      // 3021 when empty

@@ -72,7 +72,7 @@ void apriSelect(Connessione &c, const QString &sql, int limite, Sorgente &sorgen
     descrivi(c, i.grezza(), sorgente);
     const int colonne = static_cast<int>(sorgente.colonne.size());
     while (i.avanti()) {
-        if (sorgente.piena(limite))
+        if (sorgente.quante() >= limite)
             return;
         if (sorgente.aChiavi()) {
             sorgente.chiavi.push_back(i.intero(sorgente.colonnaChiave));
@@ -101,7 +101,7 @@ void apriTabella(Connessione &c, const QByteArray &tabella, int limite, Sorgente
     Istruzione righe = c.prepara(
         "SELECT " + sorgente.chiave + " FROM " + nomeSql(tabella) + " ORDER BY " + sorgente.chiave, Azione::Lettura);
     while (righe.avanti()) {
-        if (sorgente.piena(limite))
+        if (sorgente.quante() >= limite)
             return;
         sorgente.chiavi.push_back(righe.intero(0));
     }
@@ -114,11 +114,6 @@ QByteArray Sorgente::elencoColonne() const {
     for (const Colonna &col : colonne)
         elenco += (elenco.isEmpty() ? "" : ",") + nomeSql(col.origine);
     return elenco;
-}
-
-bool Sorgente::piena(int limite) {
-    tagliata = quante() >= limite;
-    return tagliata;
 }
 
 Sorgente apriSorgente(Connessione &c, const QString &testo, int limite) {

@@ -24,14 +24,12 @@ struct Sorgente {
     QByteArray chiave;  // what tells its rows apart, as SQL: the key column or the hidden row number
     std::vector<Colonna> colonne;
     int colonnaChiave = -1; // the column that is the key, -1 when none shows it
-    bool tagliata = false;  // there were more rows than asked for
     std::vector<qint64> chiavi;
     std::vector<Valori> righe; // the picture
 
     bool aChiavi() const { return !tabella.isEmpty(); }
     int quante() const { return static_cast<int>(aChiavi() ? chiavi.size() : righe.size()); }
     QByteArray elencoColonne() const; // for a select on the table
-    bool piena(int limite);           // no further row is taken; asked when there is one
 };
 
 // Takes at most `limite` rows. 3078, 3265 or 3075 when the text doesn't fit the database.

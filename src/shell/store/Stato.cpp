@@ -35,9 +35,10 @@ EngineError Recordset::Stato::senzaRecord(Azione azione) const {
 }
 
 std::optional<Valori> Recordset::Stato::leggiRiga(qint64 chiave) {
-    Istruzione i = connessione.prepara("SELECT " + sorgente.elencoColonne() + " FROM " + nomeSql(sorgente.tabella) +
-                                           " WHERE " + sorgente.chiave + "=?1",
-                                       Azione::Lettura);
+    if (m_selezione.isEmpty())
+        m_selezione = "SELECT " + sorgente.elencoColonne() + " FROM " + nomeSql(sorgente.tabella) + " WHERE " +
+                      sorgente.chiave + "=?1";
+    Istruzione i = connessione.prepara(m_selezione, Azione::Lettura);
     i.lega(1, chiave);
     if (!i.avanti())
         return std::nullopt;

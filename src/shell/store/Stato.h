@@ -42,6 +42,7 @@ private:
     void aggiorna(const QList<int> &colonne);
     void inserisci(const QList<int> &colonne);
 
+    QByteArray m_selezione; // of one row by its key; made once, for a layout asks for 70
     std::optional<Valori> m_riga;
     // The rows around the last one that a list asked for; an empty row is one that is gone.
     int m_inizioFinestra = 0;
