@@ -39,7 +39,7 @@ public:
         EXPECT_TRUE(conferme.empty() && salvataggi.empty() && file.empty()) << "answers left over";
     }
     void avvisa(QWidget *, const QString &testo) override { avvisi << testo; }
-    bool conferma(QWidget *, const QString &testo) override {
+    bool conferma(QWidget *, const QString &testo, bool) override {
         avvisi << testo;
         return prendi(conferme).value_or(false);
     }
@@ -175,6 +175,14 @@ TEST_F(Finestra, AnnullaERipristinaOgniCosa) {
     for (int passi = 0; passi < 5; ++passi)
         premi("Ripristina");
     EXPECT_FALSE(trova<QToolButton>("Ripristina").isEnabled());
+    EXPECT_EQ(salvati().size(), 9);
+    premi("AggiungiTesto");
+    auto &testo = trova<QPlainTextEdit>("ValoreTesto"); // its own undo is for what is being typed
+    testo.setFocus();
+    QTest::keyClicks(&testo, u"x"_s);
+    QTest::keyClick(&testo, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(testo.isEnabled()); // the text object is still there
+    QTest::keyClick(&testo, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(salvati().size(), 9);
 }
 

@@ -259,7 +259,8 @@ void DesignerEtichetta::stampaProva() {
     if (nomi.isEmpty()) {
         if (m_mondo.domande.conferma(this,
                                      (motivo.isEmpty() ? u"Su questa macchina non c'è nessuna stampante."_s : motivo) +
-                                         u"\n\nEsportare il biglietto in PDF ?"_s))
+                                         u"\n\nEsportare il biglietto in PDF ?"_s,
+                                     true))
             esportaPdf();
         return;
     }

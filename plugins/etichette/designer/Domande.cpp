@@ -23,12 +23,12 @@ void DomandeQt::avvisa(QWidget *padre, const QString &testo) {
     box.exec();
 }
 
-bool DomandeQt::conferma(QWidget *padre, const QString &testo) {
+bool DomandeQt::conferma(QWidget *padre, const QString &testo, bool sicura) {
     QMessageBox box(QMessageBox::Question, titolo, testo, QMessageBox::NoButton, padre);
-    const QPushButton *si = box.addButton(u"&Sì"_s, QMessageBox::YesRole);
+    QPushButton *si = box.addButton(u"&Sì"_s, QMessageBox::YesRole);
     QPushButton *no = box.addButton(u"&No"_s, QMessageBox::NoRole);
-    box.setDefaultButton(no);
-    box.setEscapeButton(no);
+    box.setDefaultButton(sicura ? si : no);
+    box.setEscapeButton(sicura ? si : no);
     box.exec();
     return box.clickedButton() == si;
 }

@@ -14,8 +14,8 @@ public:
 
     virtual ~Domande() = default;
     virtual void avvisa(QWidget *padre, const QString &testo) = 0;
-    // Yes and no; the safe answer is no.
-    virtual bool conferma(QWidget *padre, const QString &testo) = 0;
+    // Yes and no; `sicura` is the answer that loses nothing, and the one of Enter and Esc.
+    virtual bool conferma(QWidget *padre, const QString &testo, bool sicura) = 0;
     // Save, leave unsaved, or stay.
     virtual Risposta salvare(QWidget *padre, const QString &testo) = 0;
     virtual std::optional<QString> apriFile(QWidget *padre, const QString &titolo, const QString &filtro) = 0;
@@ -26,7 +26,7 @@ public:
 class DomandeQt : public Domande {
 public:
     void avvisa(QWidget *padre, const QString &testo) override;
-    bool conferma(QWidget *padre, const QString &testo) override;
+    bool conferma(QWidget *padre, const QString &testo, bool sicura) override;
     Risposta salvare(QWidget *padre, const QString &testo) override;
     std::optional<QString> apriFile(QWidget *padre, const QString &titolo, const QString &filtro) override;
     std::optional<QString> salvaFile(QWidget *padre, const QString &titolo, const QString &proposto,

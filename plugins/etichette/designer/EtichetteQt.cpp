@@ -52,7 +52,8 @@ int EtichetteQt::disegna(QWidget *finestra, const QString &titolo, const QString
             // What can't be read is somebody's work: it is replaced only when the user says so, and then at a save.
             if (!m_domande.conferma(finestra,
                                     u"%1 non può essere aperto.\n%2\n\nDisegnare un biglietto nuovo al suo posto ? "
-                                    "Il file resta com'è finché il nuovo non viene salvato."_s.arg(file, letta.motivo)))
+                                    "Il file resta com'è finché il nuovo non viene salvato."_s.arg(file, letta.motivo),
+                                    false))
                 return fallito;
         } else {
             etichetta = *letta.etichetta;
@@ -72,7 +73,8 @@ int EtichetteQt::disegna(QWidget *finestra, const QString &titolo, const QString
     if (const auto lasciata = bozza.lasciata()) {
         if (m_domande.conferma(finestra,
                                u"L'ultima volta il biglietto non è stato chiuso in ordine.\nRiprendere le modifiche "
-                               "che non erano state salvate ?"_s))
+                               "che non erano state salvate ?"_s,
+                               true))
             designer.recupera(*lasciata);
         else
             bozza.togli();

@@ -5,6 +5,7 @@
 
 #include <QFontDatabase>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -74,6 +75,8 @@ PannelloProprieta::PannelloProprieta(Progetto &progetto, QWidget *padre) : QWidg
     fuori->addWidget(scorre);
     connect(&progetto, &Progetto::cambiato, this, &PannelloProprieta::mostra);
     connect(&progetto, &Progetto::sceltiCambiati, this, &PannelloProprieta::mostra);
+    for (auto *campo : findChildren<QWidget *>())
+        campo->installEventFilter(this);
     mostra();
 }
 
@@ -276,6 +279,23 @@ void PannelloProprieta::mostraUno(const Oggetto &o) {
                                                                    : m_condizione->findText(o.condizione.variabile));
     m_seVuota->setCurrentIndex(o.condizione.seVuota ? 1 : 0);
     m_bloccato->setChecked(o.bloccato);
+}
+
+// A box in which nothing is being typed leaves the keys of undo and redo to the ticket.
+bool PannelloProprieta::eventFilter(QObject *o, QEvent *e) {
+    if (e->type() == QEvent::ShortcutOverride) {
+        const auto *tasto = static_cast<QKeyEvent *>(e);
+        const auto *testo = qobject_cast<QPlainTextEdit *>(o);
+        const auto *riga =
+            qobject_cast<QAbstractSpinBox *>(o) != nullptr ? o->findChild<QLineEdit *>() : qobject_cast<QLineEdit *>(o);
+        const bool scritto =
+            (testo != nullptr && testo->document()->isModified()) || (riga != nullptr && riga->isModified());
+        if (!scritto && (tasto->matches(QKeySequence::Undo) || tasto->matches(QKeySequence::Redo))) {
+            e->ignore();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(o, e);
 }
 
 bool PannelloProprieta::sempre(const QWidget *campo) const {

@@ -29,6 +29,9 @@ public:
 Q_SIGNALS:
     void immagineChiesta();
 
+protected:
+    bool eventFilter(QObject *o, QEvent *e) override;
+
 private:
     struct Riga {
         QWidget *campo;
