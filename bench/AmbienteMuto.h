@@ -12,7 +12,9 @@ using namespace zuvora;
 class NessunDialogo final : public Dialoghi {
 public:
     void messaggio(QWidget *, Icona, const QString &, const QString &) override {}
+    int scegli(QWidget *, const Scelta &scelta) override { return scelta.sicuro; }
     std::optional<QString> apriFile(QWidget *, const RichiestaFile &) override { return {}; }
+    std::optional<QString> salvaFile(QWidget *, const RichiestaFile &) override { return {}; }
     std::optional<QString> scegliCartella(QWidget *, const QString &, const QString &) override { return {}; }
     std::optional<FontScelto> scegliFont(QWidget *, const std::optional<FontScelto> &) override { return {}; }
     std::optional<int> scegliColore(QWidget *, int) override { return {}; }

@@ -5,6 +5,7 @@
 #include "installer/Guasto.h"
 #include "installer/Percorsi.h"
 
+#include "shell/logic/Percorsi.h"
 #include "shell/store/Database.h"
 #include "shell/store/EngineError.h"
 
@@ -57,7 +58,7 @@ void creaArchivio(const Archivio &archivio, const QString &file, const Destinazi
         Database db = Database::crea(file);
         riempiTutto(db, archivio, destinazione);
     } catch (const EngineError &errore) {
-        rilancia(errore, file, destinazione.cartella + u'/' + archivio.file);
+        rilancia(errore, file, percorsoIn(destinazione.cartella, archivio.file));
     }
 }
 

@@ -5,6 +5,8 @@
 #include "installer/Guasto.h"
 #include "installer/Interruzione.h"
 
+#include "shell/logic/Percorsi.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -43,7 +45,7 @@ QStringList avanzi(const QString &cartella) {
         QFile elenco(preparazione + fileElenco);
         const QStringList spostate =
             elenco.open(QIODevice::ReadOnly) ? QString::fromUtf8(elenco.readAll()).split(u'\n') : QStringList();
-        const bool intera = !esiste(preparazione + u'/' + archivioZuvora.file);
+        const bool intera = !esiste(percorsoIn(preparazione, archivioZuvora.file));
         for (const QString &nome : spostate)
             if (!intera && !nome.isEmpty() && !nome.contains(u'/') && !esiste(preparazione + u'/' + nome))
                 trovati += nome;
@@ -119,8 +121,8 @@ void Cantiere::disfa() {
 void Cantiere::pubblica() {
     QStringList tutte = voci(preparazione());
     // The settings database makes a folder an installation: it comes last.
-    tutte.removeOne(archivioZuvora.file);
-    tutte += archivioZuvora.file;
+    tutte.removeOne(archivioZuvora.file.toString());
+    tutte += archivioZuvora.file.toString();
     scriviNuovo(preparazione() + fileElenco, tutte.join(u'\n').toUtf8());
     sincronizzaTutto(preparazione());
     for (const QString &voce : tutte) {

@@ -1,5 +1,7 @@
 #include "installer/Contenuto.h"
 
+#include "shell/store/NomiFile.h"
+
 #include <QFile>
 #include <array>
 
@@ -40,11 +42,10 @@ const std::array tabelleTotem{
     Tabella{"DatiDaStampareIMP"_L1, "DatiDaStampareIMP"_L1, 1, senzaLimite, true},
 };
 
-constexpr std::array cartelle{"ZuvoraDecorazioni"_L1, "ZuvoraSfondiHD"_L1, "Suoni"_L1};
-constexpr std::array testi{"FraseTTS.txt"_L1, "th19.rtf"_L1, "Totem/Ticket.lbl"_L1};
-constexpr std::array necessari{"FraseTTS.txt"_L1, "th19.rtf"_L1, "ZuvoraSfondiHD/FH_grigio_8post_.jpg"_L1,
-                               "ZuvoraDecorazioni/Cornici/stondata.gif"_L1};
-constexpr std::array categorie{"Cornici"_L1, "Banner"_L1, "Elementi"_L1};
+constexpr std::array cartelle{nomi::decorazioni, nomi::sfondi, nomi::suoni};
+constexpr std::array testi{nomi::frase, nomi::aiutoVoce, nomi::bigliettoNuovo};
+constexpr std::array necessari{nomi::frase, nomi::aiutoVoce, nomi::sfondoBase, nomi::corniceLibera};
+constexpr std::array categorie{nomi::cornici, nomi::banner, nomi::elementi};
 
 QByteArray leggi(const QString &nome) {
     QFile file(u":/zuvora-installa/"_s + nome);
@@ -52,24 +53,24 @@ QByteArray leggi(const QString &nome) {
 }
 } // namespace
 
-const Archivio archivioZuvora{"Zuvora.mdb"_L1, "zuvora"_L1, tabelleZuvora};
-const Archivio archivioTotem{"Totem/TotemZuvora.mdb"_L1, "totem"_L1, tabelleTotem};
+const Archivio archivioZuvora{nomi::archivio, "zuvora"_L1, tabelleZuvora};
+const Archivio archivioTotem{nomi::archivioTotemNuovo, "totem"_L1, tabelleTotem};
 
-std::span<const QLatin1StringView> cartelleDiFile() {
+std::span<const QStringView> cartelleDiFile() {
     return cartelle;
 }
 
-std::span<const QLatin1StringView> fileDiTesto() {
+std::span<const QStringView> fileDiTesto() {
     return testi;
 }
 
-std::span<const QLatin1StringView> fileNecessari() {
+std::span<const QStringView> fileNecessari() {
     return necessari;
 }
 
-QLatin1StringView cartellaDecorazioni(int tipo) {
+QStringView cartellaDecorazioni(int tipo) {
     const bool noto = tipo >= 1 && tipo <= static_cast<int>(categorie.size());
-    return noto ? categorie[static_cast<std::size_t>(tipo - 1)] : QLatin1StringView();
+    return noto ? categorie[static_cast<std::size_t>(tipo - 1)] : QStringView();
 }
 
 QByteArray schemaDi(const Archivio &archivio) {
@@ -87,8 +88,8 @@ QByteArray improntePredefinite() {
     return leggi(u"impronte.txt"_s);
 }
 
-QByteArray testoDi(QLatin1StringView file) {
-    return leggi(file);
+QByteArray testoDi(QStringView file) {
+    return leggi(file.toString());
 }
 
 } // namespace zuvora::installa

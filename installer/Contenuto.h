@@ -15,7 +15,7 @@ struct Tabella {
 };
 
 struct Archivio {
-    QLatin1StringView file;   // as the installation has it at first, below its folder
+    QStringView file;         // as the installation has it at first, below its folder
     QLatin1StringView schema; // file of the schema, without ".sql"
     std::span<const Tabella> tabelle;
 };
@@ -28,18 +28,18 @@ extern const Archivio archivioZuvora;
 extern const Archivio archivioTotem;
 
 // Folders of pictures and sounds, which lie beside the tool as they lie in an installation.
-std::span<const QLatin1StringView> cartelleDiFile();
+std::span<const QStringView> cartelleDiFile();
 // Small files that are written beside the program.
-std::span<const QLatin1StringView> fileDiTesto();
+std::span<const QStringView> fileDiTesto();
 // What the programs look for in an installation whatever the rows say.
-std::span<const QLatin1StringView> fileNecessari();
-// Subfolder of ZuvoraDecorazioni for a Tipo (1 to 3); empty for any other.
-QLatin1StringView cartellaDecorazioni(int tipo);
+std::span<const QStringView> fileNecessari();
+// Folder of the decorations of a Tipo (1 to 3), below the installation's; empty for any other.
+QStringView cartellaDecorazioni(int tipo);
 
 // Text and rows that come with the tool. A missing one is empty.
 QByteArray schemaDi(const Archivio &archivio);
 QByteArray righeDi(QLatin1StringView righe, bool esempio = false);
-QByteArray testoDi(QLatin1StringView file);
+QByteArray testoDi(QStringView file);
 // "SHA-256 name" of each picture, sound and text that the product brings, a line each.
 QByteArray improntePredefinite();
 

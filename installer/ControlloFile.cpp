@@ -1,5 +1,6 @@
 #include "installer/ControlloFile.h"
 
+#include "shell/immagini/LetturaImmagine.h"
 #include "shell/logic/Percorsi.h"
 
 #include <QFileInfo>
@@ -18,9 +19,10 @@ QString difettoDi(const QString &scritto, Atteso atteso) {
     const QFileInfo info(esame.percorso);
     if (!info.isReadable())
         return u"mancano i permessi per leggere %1"_s.arg(scritto);
-    if (atteso == Atteso::Immagine && info.size() == 0)
+    if ((atteso == Atteso::NonVuoto || atteso == Atteso::Immagine) && info.size() == 0)
         return u"il file %1 è vuoto"_s.arg(scritto);
-    return {};
+    const QString motivo = atteso == Atteso::Immagine ? difettoImmagine(esame.percorso) : QString();
+    return motivo.isEmpty() ? QString() : u"%1: %2"_s.arg(scritto, motivo);
 }
 
 } // namespace zuvora::installa

@@ -15,6 +15,7 @@ struct Campo {
 constexpr std::array campi{
     Campo{"Configurazione"_L1, "MisuraFormWH"_L1, u"1, 2, 3, 4", u"da 1 a 4"},
     Campo{"Configurazione"_L1, "qualelayout"_L1, u"1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 99", u"da 1 a 10, o 99"},
+    Campo{"ConfigurazioneTotem"_L1, "RisoluzioneTotem"_L1, u"0, 1, 2, 3", u"da 0 a 3"},
 };
 } // namespace
 

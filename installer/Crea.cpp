@@ -9,6 +9,7 @@
 #include "installer/Programma.h"
 
 #include "shell/logic/IndirizzoWeb.h"
+#include "shell/logic/Percorsi.h"
 #include "shell/store/EngineError.h"
 
 #include <QCoreApplication>
@@ -28,16 +29,17 @@ void copiaProgramma(const QString &origine, const QString &destinazione) {
 }
 
 void copiaFile(const QString &origine, const QString &destinazione) {
-    for (const QLatin1StringView cartella : cartelleDiFile()) {
-        const QString da = origine + u'/' + cartella;
+    for (const QStringView cartella : cartelleDiFile()) {
+        const QString da = percorsoIn(origine, cartella);
         if (!QFileInfo(da).isDir())
             throw Guasto{u"Nella cartella %1 manca la cartella %2, che va copiata nell'installazione."_s.arg(
                 nativo(origine), cartella)};
-        copia(da, destinazione + u'/' + cartella);
+        copia(da, percorsoIn(destinazione, cartella));
     }
-    for (const QLatin1StringView file : fileDiTesto()) {
-        creaCartella(QFileInfo(destinazione + u'/' + file).path());
-        scriviNuovo(destinazione + u'/' + file, testoDi(file));
+    for (const QStringView file : fileDiTesto()) {
+        const QString dove = percorsoIn(destinazione, file);
+        creaCartella(QFileInfo(dove).path());
+        scriviNuovo(dove, testoDi(file));
     }
 }
 
@@ -48,7 +50,7 @@ void prepara(const QString &destinazione, const QString &cartella, const Opzioni
     const QString notizie =
         opzioni.notizie.isEmpty() ? QString() : indirizzoWeb(opzioni.notizie)->toString(QUrl::FullyEncoded);
     for (const Archivio *archivio : {&archivioTotem, &archivioZuvora}) {
-        const QString file = destinazione + u'/' + archivio->file;
+        const QString file = percorsoIn(destinazione, archivio->file);
         creaCartella(QFileInfo(file).path());
         creaArchivio(*archivio, file, {cartella, opzioni.esempio, notizie});
     }

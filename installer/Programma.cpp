@@ -5,6 +5,7 @@
 #include "installer/Guasto.h"
 
 #include "pannello/logic/Versione.h"
+#include "shell/logic/Percorsi.h"
 #include "shell/store/Database.h"
 #include "shell/store/EngineError.h"
 
@@ -20,9 +21,10 @@ constexpr auto prefissoVersione = "Versione "_L1;
 
 // Data of a later program must not be opened with this one.
 void rifiutaDatiPiuNuovi(const QString &cartella) {
-    const QString file = cartella + u'/' + archivioZuvora.file;
+    const QString file = percorsoIn(cartella, archivioZuvora.file);
     if (!QFileInfo(file).isFile())
-        throw Guasto{u"Nella cartella %1 non c'è un'installazione: manca Zuvora.mdb."_s.arg(nativo(cartella))};
+        throw Guasto{
+            u"Nella cartella %1 non c'è un'installazione: manca %2."_s.arg(nativo(cartella), archivioZuvora.file)};
     Database db = Database::apriInLettura(file);
     const auto righe = db.leggiTesti(u"SELECT Numero FROM Versione"_s);
     const QString etichetta = righe.isEmpty() ? QString() : righe.first().first();

@@ -73,8 +73,8 @@ void controllaCatalogo(ControlloArchivio &zuvora, Database &db, const QString &c
     QSet<QString> presenti;
     for (const QStringList &riga : db.leggiTesti(u"SELECT ID, File, Tipo FROM Decorazioni ORDER BY ID"_s)) {
         presenti += riga.at(0);
-        const QLatin1StringView categoria = cartellaDecorazioni(riga.at(2).toInt());
-        const QString file = u"%1/ZuvoraDecorazioni/%2/%3"_s.arg(cartella, categoria, riga.at(1));
+        const QStringView categoria = cartellaDecorazioni(riga.at(2).toInt());
+        const QString file = u"%1/%2/%3"_s.arg(cartella, categoria, riga.at(1));
         if (categoria.isEmpty())
             zuvora.segnala(u"tabella Decorazioni, ID %1: il Tipo non è una categoria"_s.arg(riga.at(0)));
         else if (const QString difetto = difettoDi(nativo(file), Atteso::Immagine); !difetto.isEmpty())

@@ -5,6 +5,8 @@
 #include "installer/ControlloValori.h"
 #include "installer/Riferimenti.h"
 
+#include "shell/logic/Percorsi.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -33,21 +35,21 @@ Rapporto verificaInstallazione(const QString &cartella) {
     if (cartella.isEmpty() || !QFileInfo(base).isDir())
         return {{u"La cartella %1 non esiste."_s.arg(QDir::toNativeSeparators(cartella))}, {}};
 
-    ControlloArchivio zuvora(archivioZuvora, base + u'/' + archivioZuvora.file);
+    ControlloArchivio zuvora(archivioZuvora, percorsoIn(base, archivioZuvora.file));
     zuvora.controlla();
     controllaValori(zuvora);
     controllaRiferimenti(zuvora, base);
     const auto totem = archivioDelTotem(zuvora, base);
     Rapporto rapporto = zuvora.rapporto();
-    controllaScrittura(rapporto, base + u'/' + archivioZuvora.file);
+    controllaScrittura(rapporto, percorsoIn(base, archivioZuvora.file));
     if (totem) {
         ControlloArchivio kiosk(archivioTotem, *totem);
         kiosk.controlla();
         rapporto += kiosk.rapporto();
         controllaScrittura(rapporto, *totem);
     }
-    for (const QLatin1StringView file : fileNecessari())
-        if (const QString difetto = difettoDi(base + u'/' + file, Atteso::Immagine); !difetto.isEmpty())
+    for (const QStringView file : fileNecessari())
+        if (const QString difetto = difettoDi(percorsoIn(base, file), Atteso::NonVuoto); !difetto.isEmpty())
             rapporto.difetti += u"Nell'installazione %1"_s.arg(difetto);
     controllaProgramma(rapporto, base);
     return rapporto;

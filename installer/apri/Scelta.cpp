@@ -1,6 +1,8 @@
 #include "installer/apri/Scelta.h"
 
 #include "shell/logic/FileAtomico.h"
+#include "shell/logic/Percorsi.h"
+#include "shell/store/NomiFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -43,7 +45,7 @@ QString Scelta::ricorda(const QString &cartella) const {
 }
 
 bool eInstallazione(const QString &cartella) {
-    return !cartella.isEmpty() && QFileInfo(cartella + u"/Zuvora.mdb"_s).isFile() &&
+    return !cartella.isEmpty() && QFileInfo(percorsoIn(cartella, nomi::archivio)).isFile() &&
            QFileInfo(cartella + u"/zuvora"_s).isExecutable();
 }
 

@@ -4,6 +4,7 @@
 #include "installer/File.h"
 #include "installer/importa/PercorsiVecchi.h"
 
+#include "shell/logic/Percorsi.h"
 #include "shell/logic/TestoAnsi.h"
 #include "shell/store/NomiFile.h"
 
@@ -50,9 +51,9 @@ int prendiAlbero(const QString &da, const QString &a) {
 
 QStringList prendiCartella(const QString &vecchia, const QString &destinazione, const PercorsiVecchi &percorsi) {
     QStringList note;
-    for (const QLatin1StringView cartella : cartelleDiFile())
-        if (const QString da = trovato(vecchia, QString(cartella)); !da.isEmpty())
-            if (const int presi = prendiAlbero(da, destinazione + u'/' + cartella); presi > 0)
+    for (const QStringView cartella : cartelleDiFile())
+        if (const QString da = trovato(vecchia, cartella.toString()); !da.isEmpty())
+            if (const int presi = prendiAlbero(da, percorsoIn(destinazione, cartella)); presi > 0)
                 note << u"Dalla vecchia cartella %1: %2 file."_s.arg(cartella).arg(presi);
     QStringList playlist;
     for (const QString &voce : QDir(vecchia).entryList(QDir::Files)) {

@@ -11,6 +11,7 @@
 #include "installer/importa/Travaso.h"
 
 #include "pannello/logic/Versione.h"
+#include "shell/logic/Percorsi.h"
 #include "shell/store/EngineError.h"
 
 #include <QDir>
@@ -63,7 +64,7 @@ void racconta(const Resoconto &r, const Progresso &progresso) {
 
 void importaTotem(const OpzioniImporta &o, const QString &preparazione, const QString &cartella,
                   const Progresso &progresso) {
-    const QString file = preparazione + u'/' + archivioTotem.file;
+    const QString file = percorsoIn(preparazione, archivioTotem.file);
     creaCartella(QFileInfo(file).path());
     if (o.totem.isEmpty()) {
         creaArchivio(archivioTotem, file, {cartella, false, {}});
@@ -85,7 +86,7 @@ void importa(const OpzioniImporta &o, const QString &cartella, const Progresso &
     const QString dove = cantiere.preparazione();
     preparaCorredo(dove, o.crea);
     importaTotem(o, dove, cartella, progresso);
-    Travaso travaso(archivioZuvora, dove + u'/' + archivioZuvora.file);
+    Travaso travaso(archivioZuvora, percorsoIn(dove, archivioZuvora.file));
     travasa(o.archivio, o.lettore, travaso, cartella, progresso);
     lasciaAllAggiornamento(travaso);
     PercorsiVecchi percorsi(cartella, dove);

@@ -42,7 +42,7 @@ TEST_F(ProvaPagine, TheTickerKeepsItsLines) {
     QTest::keyClicks(&testo, u"tre"_s);
     clic(aperta.pagina, "salva6");
     EXPECT_EQ(riga(u"StringaScorrevole"_s), u"uno\r\ndue\r\ntre"_s);
-    EXPECT_TRUE(trova<Button>(aperta.pagina, "salva6").conSpunta());
+    EXPECT_TRUE(conSpunta(trova<Button>(aperta.pagina, "salva6")));
     testo.setText({});
     clic(aperta.pagina, "salva6");
     EXPECT_EQ(riga(u"StringaScorrevole"_s), QString());
@@ -92,7 +92,7 @@ TEST_F(ProvaPagine, ALockedDatabaseKeepsWhatWasTyped) {
     }
     EXPECT_TRUE(i.dialoghi.unicoMessaggio().contains(u"Zuvora.mdb"_s));
     EXPECT_EQ(testo.text(), u"da non perdere"_s);
-    EXPECT_FALSE(trova<Button>(aperta.pagina, "salva6").conSpunta());
+    EXPECT_FALSE(conSpunta(trova<Button>(aperta.pagina, "salva6")));
     EXPECT_EQ(riga(u"StringaScorrevole"_s), prima);
 }
 

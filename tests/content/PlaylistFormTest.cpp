@@ -39,8 +39,8 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(manca)");
     }
     // Opens a form and waits for the check of the files that it lists.
-    template <class F> std::unique_ptr<F> apri(const Percorsi &percorsi = Percorsi()) {
-        auto form = std::make_unique<F>(i.ambiente, nullptr, percorsi);
+    template <class F> std::unique_ptr<F> apri() {
+        auto form = std::make_unique<F>(i.ambiente, nullptr);
         form->show();
         return form;
     }
@@ -71,7 +71,7 @@ TEST_F(ProvaPlaylistForm, BuildsSavesAndFindsItAgain) {
     clic(*form, "command1");
     clic(*form, "Command10");
     clic(*form, "Command6");
-    EXPECT_TRUE(trova<Button>(*form, "Command6").conSpunta());
+    EXPECT_TRUE(conSpunta(trova<Button>(*form, "Command6")));
     const QByteArray righe = (foto(u"a.jpg"_s) + u"\r\n"_s + foto(u"b.jpg"_s) + u"\r\n"_s + foto(u"a.jpg"_s) +
                               u"\r\n"_s + foto(u"b.jpg"_s) + u"\r\n"_s + foto(u"c.jpg"_s) + u"\r\n"_s)
                                  .toLatin1();
@@ -155,7 +155,8 @@ TEST_F(ProvaPlaylistForm, ASilentDiskDoesNotStallTheWindow) {
     sistema->muta = u"/mnt/nas"_s;
     QElapsedTimer apertura;
     apertura.start();
-    auto form = apri<ImpostaFoto>(Percorsi(sistema));
+    i.ambiente.percorsi = Percorsi(sistema);
+    auto form = apri<ImpostaFoto>();
     EXPECT_EQ(lista(*form).ListCount(), 2);
     scegli(lista(*form), 0); // its preview is asked for, and never comes
     EXPECT_LT(apertura.elapsed(), 1500);

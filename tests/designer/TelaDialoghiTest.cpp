@@ -105,7 +105,7 @@ TEST(Pagine, IlFontSceltoEIlTestoArrivanoAlTitolo) {
         EXPECT_EQ(testo.text().size(), 50);
         testo.setFocus();
         QTest::keyClick(&testo, Qt::Key_Return); // applies, and the form stays
-        EXPECT_TRUE(trova<Button>(form2, "Btn(0)").conSpunta());
+        EXPECT_TRUE(conSpunta(trova<Button>(form2, "Btn(0)")));
         trova<QLineEdit>(form2, "Testo999").setText(u"non applicato"_s);
         clicca(form2, "Btn(1)");
     });

@@ -98,7 +98,7 @@ TEST(Schermi, PosizioneESecondoSchermo) {
     clicca(*tela.form, "Btn(15)");
     EXPECT_EQ(tela.installazione.righe(u"SELECT MisuraFormLeft, MisuraFormTop FROM Configurazione"_s),
               QStringList(u"19215|450"_s));
-    EXPECT_TRUE(trova<Button>(*tela.form, "Btn(15)").conSpunta());
+    EXPECT_TRUE(conSpunta(trova<Button>(*tela.form, "Btn(15)")));
     QTest::keyClick(tela.form.get(), Qt::Key_Escape);
     EXPECT_EQ(tela.form->pos(), QPoint(0, 30));
     tela.installazione.piattaforma.monitors.monitor = {QRect(0, 0, 1280, 800), QRect(1280, 0, 1920, 1080)};
@@ -140,17 +140,22 @@ TEST(Schermi, RotellaETastoCentraleScorronoUnaTelaPiuGrande) {
     EXPECT_EQ(tela.form->pos(), QPoint(-90, -90));
     ruota(tela, QPoint(1915, 700), {0, -1200});
     EXPECT_EQ(tela.form->pos(), QPoint(-90, -280)); // no further than the canvas reaches
-    const QPoint presa = tela.rettangolo("IM1").center();
-    const QPoint sulloSchermo = tela.form->mapToGlobal(presa);
-    tela.premi(presa, Qt::MiddleButton);
-    tela.muovi(tela.form->mapFromGlobal(sulloSchermo + QPoint(40, 20)));
-    EXPECT_EQ(tela.form->pos(), QPoint(-50, -260));
-    tela.rilascia(presa, Qt::MiddleButton);
-    tela.muovi(presa);
-    EXPECT_EQ(tela.form->pos(), QPoint(-50, -260));
+    for (const char *nome : {"IM1", "SSPanel1", "Image2", "Btn(17)"}) {
+        tela.form->move(-90, -280);
+        const QPoint presa = tela.rettangolo(nome).bottomRight() - QPoint(3, 3);
+        const QPoint sulloSchermo = tela.form->mapToGlobal(presa);
+        tela.premi(presa, Qt::MiddleButton);
+        tela.muovi(tela.form->mapFromGlobal(sulloSchermo + QPoint(40, 20)));
+        EXPECT_EQ(tela.form->pos(), QPoint(-50, -260)) << nome;
+        tela.rilascia(presa, Qt::MiddleButton);
+        tela.muovi(presa);
+        EXPECT_EQ(tela.form->pos(), QPoint(-50, -260)) << nome;
+    }
+    ruota(tela, tela.rettangolo("SSPanel1").bottomRight() - QPoint(3, 3), {0, -120});
+    EXPECT_EQ(tela.form->pos(), QPoint(-50, -280));
     tela.installazione.piattaforma.monitors.monitor = {QRect(0, 0, 1920, 1080)};
-    ruota(tela, presa, {0, 120}); // the canvas fits
-    EXPECT_EQ(tela.form->pos(), QPoint(-50, -260));
+    ruota(tela, tela.rettangolo("IM1").center(), {0, 120}); // the canvas fits
+    EXPECT_EQ(tela.form->pos(), QPoint(-50, -280));
 }
 
 TEST(Tela, SalvaERiapreComeLasciata) {

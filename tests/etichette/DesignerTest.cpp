@@ -3,6 +3,7 @@
 #include "etichette/designer/EtichetteQt.h"
 #include "etichette/designer/Foglio.h"
 #include "etichette/logic/FileEtichetta.h"
+#include "kit/FintiDialoghi.h"
 #include "shell/logic/FileAtomico.h"
 #include "store/Ostacoli.h"
 
@@ -19,7 +20,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
-#include <deque>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -28,41 +28,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-class FinteDomande : public Domande {
-public:
-    QStringList avvisi;
-    std::deque<bool> conferme;
-    std::deque<Risposta> salvataggi;
-    std::deque<QString> file;
-
-    ~FinteDomande() override {
-        EXPECT_TRUE(conferme.empty() && salvataggi.empty() && file.empty()) << "answers left over";
-    }
-    void avvisa(QWidget *, const QString &testo) override { avvisi << testo; }
-    bool conferma(QWidget *, const QString &testo, bool) override {
-        avvisi << testo;
-        return prendi(conferme).value_or(false);
-    }
-    Risposta salvare(QWidget *, const QString &) override { return prendi(salvataggi).value_or(Risposta::Annulla); }
-    std::optional<QString> apriFile(QWidget *, const QString &, const QString &) override { return prendi(file); }
-    std::optional<QString> salvaFile(QWidget *, const QString &, const QString &, const QString &) override {
-        return prendi(file);
-    }
-
-private:
-    template <class T> std::optional<T> prendi(std::deque<T> &coda) {
-        EXPECT_FALSE(coda.empty()) << "a question came without an answer";
-        if (coda.empty())
-            return std::nullopt;
-        T prima = coda.front();
-        coda.pop_front();
-        return prima;
-    }
-};
-
 struct Finestra : testing::Test {
     QTemporaryDir cartella;
-    FinteDomande domande;
+    FintiDialoghi dialoghi;
     QStringList stampanti;
     QString stampato;
     QString ticket = cartella.filePath(u"Ticket.lbl"_s);
@@ -71,7 +39,7 @@ struct Finestra : testing::Test {
     std::unique_ptr<DesignerEtichetta> designer;
 
     DesignerEtichetta &apri(const Etichetta &e = {}) {
-        DesignerEtichetta::Mondo mondo{domande,
+        DesignerEtichetta::Mondo mondo{dialoghi,
                                        [this] {
                                            return Stampanti{stampanti, {}};
                                        },
@@ -232,16 +200,14 @@ TEST_F(Finestra, UnaVariabileSiTrascinaSulFoglio) {
 
 TEST_F(Finestra, ChiudereChiedeDelleModifiche) {
     const struct {
-        Domande::Risposta risposta;
+        int risposta; // save, leave unsaved, stay
         bool aperta;
         bool scritto;
-    } casi[] = {{Domande::Risposta::Annulla, true, false},
-                {Domande::Risposta::No, false, false},
-                {Domande::Risposta::Si, false, true}};
+    } casi[] = {{2, true, false}, {1, false, false}, {0, false, true}};
     for (const auto &caso : casi) {
         apri();
         premi("AggiungiTesto");
-        domande.salvataggi.push_back(caso.risposta);
+        dialoghi.scelte.push_back(caso.risposta);
         designer->close();
         EXPECT_EQ(designer->isVisible(), caso.aperta);
         EXPECT_EQ(QFile::exists(ticket), caso.scritto);
@@ -280,17 +246,15 @@ TEST_F(Finestra, UnSalvataggioFallitoLasciaTuttoQui) {
             const auto ostacolo = ostacola();
             premi("Salva");
         }
-        ASSERT_EQ(domande.avvisi.size(), 1);
-        EXPECT_TRUE(domande.avvisi[0].contains(u"non è stato salvato"_s) &&
-                    domande.avvisi[0].contains(QString::fromUtf16(parola)))
-            << domande.avvisi[0].toStdString();
+        const QString messaggio = dialoghi.unicoMessaggio();
+        EXPECT_TRUE(messaggio.contains(u"non è stato salvato"_s) && messaggio.contains(QString::fromUtf16(parola)))
+            << messaggio.toStdString();
         EXPECT_TRUE(!QFile::exists(totem) || leggiFile(ticket).contenuto == prima);
-        domande.file.push_back(altrove);
+        dialoghi.file.push_back(altrove);
         premi("SalvaCopia");
         EXPECT_EQ(leggiEtichetta(altrove).etichetta->oggetti.size(), 1);
         EXPECT_TRUE(designer->windowTitle().endsWith(u'*')); // the ticket itself is still unsaved
-        domande.avvisi.clear();
-        domande.salvataggi.push_back(Domande::Risposta::No);
+        dialoghi.scelte.push_back(1);
         designer->close();
     }
 }
@@ -338,14 +302,14 @@ TEST_F(Finestra, LeImmaginiSonoControllatePrima) {
     file.write("non sono un'immagine");
     file.close();
     for (const QString &percorso : {falsa, cartella.path(), cartella.filePath(u"manca.png"_s)}) {
-        domande.file.push_back(percorso);
+        dialoghi.file.push_back(percorso);
         premi("AggiungiImmagine");
     }
-    EXPECT_EQ(domande.avvisi.size(), 3);
+    EXPECT_EQ(dialoghi.prendiBox().size(), 3U);
     QImage vera(40, 30, QImage::Format_RGB32);
     vera.fill(Qt::black);
     ASSERT_TRUE(vera.save(cartella.filePath(u"vera.png"_s)));
-    domande.file.push_back(cartella.filePath(u"vera.png"_s));
+    dialoghi.file.push_back(cartella.filePath(u"vera.png"_s));
     premi("AggiungiImmagine");
     EXPECT_FALSE(salvati().last().immagine.isEmpty());
 }
@@ -357,27 +321,26 @@ TEST_F(Finestra, LeImmaginiOstiliNonFermanoIlDesigner) {
     QFile vuota(cartella.filePath(u"enorme.png"_s));
     ASSERT_TRUE(vuota.open(QIODevice::WriteOnly));
     ASSERT_TRUE(vuota.resize(3LL * 1024 * 1024 * 1024)); // no disk: a hole
-    for (const QString &percorso : {pipe, vuota.fileName()}) {
-        domande.file.push_back(percorso);
+    for (const auto &[percorso, motivo] :
+         {std::pair(pipe, u"Non è un file"_s), {vuota.fileName(), u"troppo grande"_s}}) {
+        dialoghi.file.push_back(percorso);
         premi("AggiungiImmagine");
+        EXPECT_TRUE(dialoghi.unicoMessaggio().contains(motivo));
     }
-    ASSERT_EQ(domande.avvisi.size(), 2);
-    EXPECT_TRUE(domande.avvisi[0].contains(u"Non è un file"_s)) << domande.avvisi[0].toStdString();
-    EXPECT_TRUE(domande.avvisi[1].contains(u"troppo grande"_s)) << domande.avvisi[1].toStdString();
     QImage vasta(20000, 20000, QImage::Format_Mono);
     vasta.fill(0);
     ASSERT_TRUE(vasta.save(cartella.filePath(u"vasta.png"_s)));
-    domande.file.push_back(cartella.filePath(u"vasta.png"_s));
+    dialoghi.file.push_back(cartella.filePath(u"vasta.png"_s));
     premi("AggiungiImmagine");
     EXPECT_EQ(QImage::fromData(salvati().last().immagine).size(), QSize(1600, 1600));
 }
 
 TEST_F(Finestra, SenzaStampantiLoDice) {
     apri();
-    domande.conferme.push_back(true);
-    domande.file.push_back(cartella.filePath(u"prova.pdf"_s));
+    dialoghi.scelte.push_back(0);
+    dialoghi.file.push_back(cartella.filePath(u"prova.pdf"_s));
     premi("StampaProva");
-    EXPECT_TRUE(domande.avvisi[0].contains(u"nessuna stampante"_s));
+    EXPECT_TRUE(dialoghi.domande.last().contains(u"nessuna stampante"_s));
     EXPECT_TRUE(leggiFile(cartella.filePath(u"prova.pdf"_s)).contenuto.startsWith("%PDF"));
     stampanti << u"Zebra"_s;
     QTimer::singleShot(0, [] {
@@ -409,12 +372,12 @@ TEST_F(Finestra, UnFileDiAltriSiSostituisceSoloSeLoSiVuole) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(R"({"programma":"zuvora-biglietto","versione":99})");
     file.close();
-    EtichetteQt etichette(domande);
+    EtichetteQt etichette(dialoghi);
     etichette.LlDefineVariableStart();
     etichette.LlDefineVariableExt(u"Numero"_s, u"1"_s, TipoEtichetta::Numero);
-    domande.conferme.push_back(false);
+    dialoghi.scelte.push_back(1); // no
     EXPECT_NE(etichette.LlDefineLayout(nullptr, u"Impostazione Modulo"_s, 1, ticket), 0);
-    EXPECT_TRUE(domande.avvisi.last().contains(u"più recente"_s));
+    EXPECT_TRUE(dialoghi.domande.last().contains(u"più recente"_s));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.readAll().contains("99"));
 }

@@ -17,12 +17,14 @@ using zuvora::installa::Esito;
 using zuvora::installa::verificaInstallazione;
 
 namespace {
+constexpr const char *puntino = "P1 1 1 0\n"; // a picture
+
 class Copia : public Banco {
 protected:
     // An installation with a picture, a playlist and a row of the user, saved.
     void SetUp() override {
         sala = impianto(true);
-        scrivi(u"impianto/ZuvoraDecorazioni/Elementi/mia.png"_s, "immagine");
+        scrivi(u"impianto/ZuvoraDecorazioni/Elementi/mia.png"_s, puntino);
         scrivi(u"impianto/mia.zvi"_s, (sala + u"/Immagini/foto.jpg\r\n/altrove/foto.jpg\r\n"_s).toLatin1());
         sql(sala + u"/Zuvora.mdb"_s, u"UPDATE Layout7 SET PercorsoImmagine = '%1/ZuvoraDecorazioni/Elementi/mia.png' "
                                      "WHERE rowid = 40; UPDATE Configurazione SET Nominativo = 'L''ATRIO'"_s.arg(sala));
@@ -97,7 +99,7 @@ TEST_F(Copia, SopraSalvaPrimaQuellaCheCE) {
     const Esito esito = ripristina(sala, true);
     ASSERT_TRUE(esito.riuscito) << qPrintable(esito.messaggio);
     EXPECT_EQ(vale(sala, nominativo), u"L'ATRIO"_s);
-    EXPECT_EQ(leggi(sala + u"/ZuvoraDecorazioni/Elementi/mia.png"_s), "immagine");
+    EXPECT_EQ(leggi(sala + u"/ZuvoraDecorazioni/Elementi/mia.png"_s), puntino);
     EXPECT_EQ(verificaInstallazione(sala).difetti, QStringList());
 
     const QStringList prima = QDir(sala).entryList({u"prima-del-ripristino-*.zuvora"_s});
@@ -125,7 +127,7 @@ TEST_F(Copia, UnaCopiaGuastaEPrimaRifiutataENullaCambia) {
     ASSERT_TRUE(salva().riuscito);
     const QByteArray sana = leggi(copia);
     QList<QByteArray> guaste{sana.left(sana.size() / 2), sana.left(sana.size() - 1), {}, "non una copia"};
-    for (const qsizetype dove : {sana.size() / 3, sana.size() / 2, sana.size() - 40}) {
+    for (const qsizetype dove : {sana.size() / 3, sana.size() / 2, sana.size() - sana.size() / 8}) {
         QByteArray cambiata = sana;
         cambiata[dove] = static_cast<char>(cambiata[dove] ^ 1);
         guaste += cambiata;

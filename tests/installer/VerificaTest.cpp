@@ -80,6 +80,14 @@ const Caso casi[] = {
     {"sfondo_del_totem",
      [](const QString &i) { sql(impostazioni(i), u"UPDATE ConfigurazioneTotem SET SfondoTotem = '/nessuno.jpg'"_s); },
      "tabella ConfigurazioneTotem, riga 1: manca il file /nessuno.jpg"},
+    {"sfondo_illeggibile",
+     [](const QString &i) {
+         sql(impostazioni(i), u"UPDATE ConfigurazioneTotem SET SfondoTotem = '%1/FraseTTS.txt'"_s.arg(i));
+     },
+     "/FraseTTS.txt: Il file non è un'immagine leggibile."},
+    {"schermo_del_totem",
+     [](const QString &i) { sql(impostazioni(i), u"UPDATE ConfigurazioneTotem SET RisoluzioneTotem = 4"_s); },
+     "RisoluzioneTotem vale 4"},
     {"versione_precedente",
      [](const QString &i) {
          sql(impostazioni(i), u"UPDATE Versione SET Numero = 'Versione 3.1.9';"

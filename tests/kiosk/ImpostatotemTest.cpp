@@ -50,7 +50,7 @@ TEST_F(ProvaImpostatotem, SavesWhatTheBoxesHoldAndShowsItAgain) {
     EXPECT_EQ(riga(u"RisoluzioneTotem"_s), u"1"_s) << "nothing is stored before the save";
     QTest::keyClick(&casella("FE2"), Qt::Key_Return);
     EXPECT_EQ(riga(u"RisoluzioneTotem, TitoloTotem, FontSize, FontItalicData"_s), u"2|L'ora d'oro|24|1"_s);
-    EXPECT_TRUE(trova<Button>(form(), "SiSalva").conSpunta());
+    EXPECT_TRUE(conSpunta(trova<Button>(form(), "SiSalva")));
     riapri();
     EXPECT_TRUE(trova<RadioButton>(form(), "RT(2)").isChecked());
     EXPECT_EQ(trova<Label>(form(), "Label2").Caption(), u"2"_s);

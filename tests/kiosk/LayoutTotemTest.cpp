@@ -112,7 +112,8 @@ TEST_F(ProvaLayoutTotem, ABackgroundThatNeverAnswersCountsAsOutOfReach) {
     const auto sistema = std::make_shared<FintoSistema>();
     sistema->muta = u"/lontano"_s;
     sfondo(u"/lontano/x.jpg"_s);
-    LayoutTotem form(i.ambiente, richiesta(3), nullptr, Percorsi(sistema));
+    i.ambiente.percorsi = Percorsi(sistema);
+    LayoutTotem form(i.ambiente, richiesta(3), nullptr);
     EXPECT_EQ(visibili(form), 3);
     EXPECT_TRUE(avviso(form).contains(u"non è raggiungibile"_s));
     sistema->risveglia();

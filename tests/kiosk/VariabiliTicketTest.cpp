@@ -23,6 +23,8 @@ TEST(VariabileTicket, TakesItsTypeFromTheValue) {
         {u"TEXT"_s, u"152"_s, u"152"_s, TipoEtichetta::Testo},
         {u""_s, u"libero"_s, u"libero"_s, TipoEtichetta::Testo},
         {u"CURRENCY"_s, 9.9, u"9.9"_s, TipoEtichetta::Testo},
+        {u"DECIMAL(9,2)"_s, 9.9, u"9.9"_s, TipoEtichetta::Testo},
+        {u"BYTE"_s, qlonglong{5}, u"5"_s, TipoEtichetta::Testo},
         {u"DATE"_s, u"2013-10-03"_s, u"41550"_s, TipoEtichetta::Data},
         {u"DATETIME"_s, u"2013-10-03 12:00:00"_s, u"41550.5"_s, TipoEtichetta::Data},
         {u"DATETIME"_s, u"18:00:00"_s, u"0.75"_s, TipoEtichetta::Data},

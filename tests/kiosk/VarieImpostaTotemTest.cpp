@@ -21,7 +21,8 @@ const QString nonRaggiungibile = u"Percorso TOTEM non impostato o TOTEM non ragg
 // Notes the calls in their order.
 class FinteEtichette : public Etichette {
 public:
-    explicit FinteEtichette(QStringList &chiamate) : m_chiamate(chiamate) {}
+    FinteEtichette(QStringList &chiamate, const std::function<void()> &durante)
+        : m_chiamate(chiamate), m_durante(durante) {}
     void LlDefineVariableStart() override { m_chiamate << u"Start"_s; }
     int LlDefineVariableExt(const QString &nome, const QString &contenuto, TipoEtichetta tipo) override {
         m_chiamate << u"%1=%2 %3"_s.arg(nome, contenuto).arg(static_cast<int>(tipo), 0, 16);
@@ -29,11 +30,13 @@ public:
     }
     int LlDefineLayout(QWidget *finestra, const QString &titolo, int tipo, const QString &file) override {
         m_chiamate << u"%1: %2 %3 %4"_s.arg(finestra->objectName(), titolo).arg(tipo).arg(file);
+        m_durante();
         return 0;
     }
 
 private:
     QStringList &m_chiamate;
+    const std::function<void()> &m_durante; // what happens while the designer is open
 };
 
 class ProvaVarie : public testing::Test {
@@ -84,7 +87,8 @@ TEST_F(ProvaVarie, AKioskThatNeverAnswersCountsAsMissing) {
     const auto sistema = std::make_shared<FintoSistema>();
     sistema->muta = u"/lontano"_s;
     percorso(u"/lontano/Totem"_s);
-    VarieImpostaTotem form(i.ambiente, nullptr, Percorsi(sistema));
+    i.ambiente.percorsi = Percorsi(sistema);
+    VarieImpostaTotem form(i.ambiente, nullptr);
     QElapsedTimer orologio;
     orologio.start();
     form.mostraModale();
@@ -130,14 +134,29 @@ TEST_F(ProvaVarie, AKioskThatGoesAwayIsNoticedOnTheReturn) {
     EXPECT_EQ(i.dialoghi.unicoMessaggio(), nonRaggiungibile);
 }
 
+TEST_F(ProvaVarie, AKioskThatGoesAwayBeforeTheClickClosesTheForm) {
+    for (const char *bottone : {"PB1(2)", "PB1(3)"}) {
+        VarieImpostaTotem form(i.ambiente, nullptr);
+        guida.quando("VarieImpostaTotem", [&](QWidget &w) {
+            aspettaProva(w);
+            EXPECT_TRUE(QFile::rename(totem(), totem() + u"x"_s));
+            QTest::mouseClick(&trova<QWidget>(w, bottone), Qt::LeftButton);
+        });
+        form.mostraModale();
+        EXPECT_EQ(i.dialoghi.unicoMessaggio(), nonRaggiungibile) << bottone;
+        ASSERT_TRUE(QFile::rename(totem() + u"x"_s, totem()));
+    }
+}
+
 TEST_F(ProvaVarie, TheTicketDesignerGetsItsCallsInOrder) {
     QStringList chiamate;
-    VarieImpostaTotem form(i.ambiente, nullptr, Percorsi(), [&]() -> EsitoComponenteEtichette {
-        return {std::make_unique<FinteEtichette>(chiamate), {}};
+    std::function<void()> durante = [] {};
+    VarieImpostaTotem form(i.ambiente, nullptr, [&]() -> EsitoComponenteEtichette {
+        return {std::make_unique<FinteEtichette>(chiamate, durante), {}};
     });
     form.show();
-    aspettaProva(form);
     for (int volta = 0; volta < 2; ++volta) {
+        aspettaProva(form);
         chiamate.clear();
         QTest::mouseClick(&trova<QWidget>(form, "PB1(2)"), Qt::LeftButton);
         ASSERT_EQ(chiamate.size(), 12) << chiamate.join(u'\n').toStdString();
@@ -146,6 +165,11 @@ TEST_F(ProvaVarie, TheTicketDesignerGetsItsCallsInOrder) {
         EXPECT_EQ(chiamate.at(4), u"Data=41550 4000002"_s);
         EXPECT_EQ(chiamate.last(), u"VarieImpostaTotem: Impostazione Modulo 1 "_s + i.file(u"Totem/Ticket.lbl"_s));
     }
+    aspettaProva(form);
+    durante = [this] { EXPECT_TRUE(QFile::rename(totem(), totem() + u"x"_s)); };
+    QTest::mouseClick(&trova<QWidget>(form, "PB1(2)"), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !form.isVisible(); })) << "gone on the return from the designer";
+    EXPECT_EQ(i.dialoghi.unicoMessaggio(), nonRaggiungibile);
 }
 
 TEST_F(ProvaVarie, WithoutTheDesignerASentenceSaysSo) {
@@ -245,7 +269,8 @@ TEST_F(ProvaImpostazione, AFullDiskIsTold) {
 TEST_F(ProvaImpostazione, AKioskThatFallsSilentIsToldInTime) {
     const auto sistema = std::make_shared<FintoSistema>();
     sistema->albero[totem()] = Specie::File;
-    form = std::make_unique<Impostazione>(i.ambiente, i.file(u"Totem"_s), nullptr, Percorsi(sistema));
+    i.ambiente.percorsi = Percorsi(sistema);
+    form = std::make_unique<Impostazione>(i.ambiente, i.file(u"Totem"_s), nullptr);
     form->show();
     sistema->muta = totem();
     scrivi("Modifnr(1)", "9");

@@ -21,12 +21,15 @@ public:
     std::deque<std::optional<QString>> cartelle;
     std::deque<std::optional<FontScelto>> font;
     std::deque<std::optional<int>> colori;
+    std::deque<int> scelte;                   // index of the button that answers
     std::vector<RichiestaFile> richiesteFile; // as they came
     QStringList primeCartelle;
+    QStringList domande;                 // the questions asked
     std::optional<FontScelto> primoFont; // of the last request
 
     ~FintiDialoghi() override {
-        EXPECT_TRUE(file.empty() && cartelle.empty() && font.empty() && colori.empty()) << "answers left over";
+        EXPECT_TRUE(file.empty() && cartelle.empty() && font.empty() && colori.empty() && scelte.empty())
+            << "answers left over";
         for (const Box &box : m_box)
             ADD_FAILURE() << "unexpected message: " << box.testo.toStdString();
     }
@@ -41,6 +44,13 @@ public:
 
     void messaggio(QWidget *, Icona icona, const QString &titolo, const QString &testo) override {
         m_box.push_back({icona, titolo, testo});
+    }
+    int scegli(QWidget *, const Scelta &scelta) override {
+        domande << scelta.testo;
+        return prossima(scelte, scelta.sicuro);
+    }
+    std::optional<QString> salvaFile(QWidget *padre, const RichiestaFile &richiesta) override {
+        return apriFile(padre, richiesta);
     }
     std::optional<QString> apriFile(QWidget *, const RichiestaFile &richiesta) override {
         richiesteFile.push_back(richiesta);
@@ -57,8 +67,7 @@ public:
     std::optional<int> scegliColore(QWidget *, int) override { return prossima(colori); }
 
 private:
-    template <class T> std::optional<T> prossima(std::deque<std::optional<T>> &coda) {
-        std::optional<T> risposta;
+    template <class T> T prossima(std::deque<T> &coda, T risposta = {}) {
         if (coda.empty()) {
             ADD_FAILURE() << "a dialog came without an answer";
         } else {

@@ -1,12 +1,13 @@
 #include "library/forms/Elementi.h"
+#include "kit/FintoSistema.h"
 #include "kit/InstallazioneProva.h"
 #include "library/Premi.h"
-#include "shell/host/AnteprimaImmagine.h"
 #include "shell/host/Attesa.h"
 #include "shell/host/Form.h"
 #include "shell/host/Grid.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
@@ -54,7 +55,7 @@ TEST_F(ProvaElementi, AggiungeLaRigaPoiCopiaESceglieLaNuova) {
               QStringList{u"1|la mia età d'oro.bmp|2"_s});
     EXPECT_TRUE(QFile::exists(i.file(u"ZuvoraDecorazioni/Banner/la mia età d'oro.bmp"_s)));
     EXPECT_EQ(grid(form).testo(grid(form).Row(), 0), u"la mia età d'oro.bmp"_s);
-    EXPECT_EQ(trova<AnteprimaImmagine>(form, "Image1").stato(), AnteprimaImmagine::Stato::Mostrata);
+    EXPECT_EQ(anteprimaFinita(form).stato(), AnteprimaImmagine::Stato::Mostrata);
     const RichiestaFile &richiesta = i.dialoghi.richiesteFile.front();
     EXPECT_EQ(richiesta.titolo, u"Selezionare il file da inserire in Decorazioni"_s);
     EXPECT_EQ(richiesta.filtro, u"(*.bmp;*.jpg;*.gif)|*.bmp;*.jpg;*.gif"_s);
@@ -92,7 +93,7 @@ TEST_F(ProvaElementi, CopiaFallitaLasciaLaRiga) {
     Elementi form(i.ambiente, nullptr);
     EXPECT_TRUE(aggiungi(form, origine).startsWith(u"Controllare la procedura ed eseguirla nuovamente !"_s));
     EXPECT_EQ(i.valore(u"SELECT File FROM Decorazioni WHERE ID > 171"_s).toString(), u"y.bmp"_s);
-    EXPECT_EQ(trova<AnteprimaImmagine>(form, "Image1").testo(), u"File non trovato.\ny.bmp"_s);
+    EXPECT_EQ(anteprimaFinita(form).testo(), u"File non trovato.\ny.bmp"_s);
 }
 
 TEST_F(ProvaElementi, AnnullatoOIllegibileNonScrive) {
@@ -168,6 +169,20 @@ TEST_F(ProvaElementi, CategoriaVuota) {
     EXPECT_EQ(grid(form).Rows(), 1);
 }
 
+TEST_F(ProvaElementi, UnDiscoMutoNonFermaLaForm) {
+    const auto sistema = std::make_shared<FintoSistema>();
+    sistema->muta = i.cartella();
+    i.ambiente.percorsi = Percorsi(sistema);
+    QElapsedTimer tempo;
+    tempo.start();
+    Elementi form(i.ambiente, nullptr);
+    form.show();
+    grid(form).seleziona(1);
+    EXPECT_LT(tempo.elapsed(), 1500);
+    EXPECT_TRUE(anteprimaFinita(form).testo().startsWith(u"La cartella non risponde."_s));
+    sistema->risveglia();
+}
+
 TEST_F(ProvaElementi, Aspetto) {
     Elementi form(i.ambiente, nullptr);
     form.show();
@@ -176,7 +191,7 @@ TEST_F(ProvaElementi, Aspetto) {
     fotografa(form);
     Guida guida;
     guida.quando("AnteprimaImmagini", [](QWidget &w) {
-        EXPECT_EQ(trova<AnteprimaImmagine>(w, "Image1").stato(), AnteprimaImmagine::Stato::Mostrata);
+        EXPECT_EQ(anteprimaFinita(w).stato(), AnteprimaImmagine::Stato::Mostrata);
         fotografa(w);
         w.close();
     });

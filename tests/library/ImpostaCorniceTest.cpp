@@ -92,7 +92,7 @@ TEST_F(ProvaCornice, IlFileMancanteOIllegibileNonSiApplica) {
         i.esegui(u"UPDATE Decorazioni SET File='%1' WHERE ID=1"_s.arg(QString::fromUtf8(caso.file)));
         ImpostaCornice form(i.ambiente, 1, nullptr);
         const QString motivo = QString::fromUtf8(caso.motivo);
-        EXPECT_EQ(trova<AnteprimaImmagine>(form, "Image1").testo(), motivo + u'\n' + QString::fromUtf8(caso.file));
+        EXPECT_EQ(anteprimaFinita(form).testo(), motivo + u'\n' + QString::fromUtf8(caso.file));
         EXPECT_EQ(premi(form, "Btn(0)"), u"Impossibile caricare l'immagine scelta !\n"_s + motivo);
         EXPECT_FALSE(form.applicata());
     }

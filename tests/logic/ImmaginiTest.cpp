@@ -95,8 +95,8 @@ TEST_F(Immagini, LaFotocameraGirataSiRaddrizza) {
     EXPECT_EQ(misuraImmagine(percorso), QSize(80, 120));
     EXPECT_EQ(leggiImmagine(percorso, {1000, 1000}).size(), QSize(80, 120));
     EXPECT_EQ(leggiImmagine(percorso, {40, 40}).size(), QSize(26, 40));
-    EXPECT_EQ(leggiRitaglio(percorso, {50, 100}).size(), QSize(50, 100));
-    EXPECT_EQ(leggiRitaglio(metti(jpeg()), {50, 1000}).size(), QSize(50, 80));
+    EXPECT_EQ(leggiRitaglio(percorso, {50, 100}).immagine.size(), QSize(50, 100));
+    EXPECT_EQ(leggiRitaglio(metti(jpeg()), {50, 1000}).immagine.size(), QSize(50, 80));
 }
 
 TEST_F(Immagini, LeGrandiSiRiduconoDiOgniGenere) {
@@ -126,10 +126,29 @@ TEST_F(Immagini, IlMotivoSiDiceAParole) {
         EXPECT_EQ(leggi(percorso, stanza).motivo, motivo);
         EXPECT_TRUE(misuraImmagine(percorso).isEmpty());
     }
-    QByteArray vasta = codifica(foto(), "bmp");
-    vasta.replace(18, 8, QByteArray::fromHex("983A0000 983A0000")); // 15000 x 15000
-    EXPECT_EQ(difettoImmagine(metti(vasta)), u"L'immagine è troppo grande (15000 x 15000 punti)."_s);
+    QByteArray nonBmp = codifica(foto(), "bmp");
+    nonBmp[28] = 5; // bits a point
+    EXPECT_EQ(difettoImmagine(metti(nonBmp)), u"Il file non è un'immagine leggibile."_s);
     EXPECT_EQ(difettoImmagine(metti("testo")), u"Il file non è un'immagine leggibile."_s);
+}
+
+TEST_F(Immagini, QuelleTroppoGrandiNonSonoIllegibili) {
+    const auto bmp = [](const char *misura) {
+        return codifica(foto(), "bmp").replace(18, 8, QByteArray::fromHex(misura));
+    };
+    const auto png = [](const char *testa) {
+        return "\x89PNG\r\n\x1a\n" + QByteArray::fromHex("0000000D") + QByteArray::fromHex(testa) +
+               QByteArray::fromHex("00000000 49444154 35AF061E 00000000 49454E44 AE426082");
+    };
+    for (const auto &[byte, misura, ridotta] : std::initializer_list<std::tuple<QByteArray, QString, bool>>{
+             {bmp("983A0000 983A0000"), u"15000 x 15000"_s, false},
+             {bmp("409C0000 30750000"), u"40000 x 30000"_s, false}, // the reader tells no size of the next two
+             {png("49484452 0010C8E0 00000004 0802000000 0FE884EB"), u"1100000 x 4"_s, false},
+             {png("49484452 00004E20 00004E20 0802000000 6C12D16E"), u"20000 x 20000"_s, true}}) {
+        const QString motivo = u"L'immagine è troppo grande (%1 punti)."_s.arg(misura);
+        EXPECT_EQ(difettoImmagine(metti(byte)), ridotta ? QString() : motivo) << misura.toStdString();
+        EXPECT_EQ(leggiRitaglio(metti(byte), stanza).motivo, motivo);
+    }
 }
 
 TEST_F(Immagini, LaLetturaSiVedeESiAnnulla) {

@@ -1,7 +1,9 @@
 #include "kit/InstallazioneProva.h"
 #include "shell/host/CarattereCasa.h"
+#include "shell/host/Label.h"
 
 #include <QFontMetricsF>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace zuvora {
@@ -22,6 +24,25 @@ TEST(CarattereCasa, LAltezzaDellaRigaEQuellaPerCuiSonoFattiIPosti) {
     grassetto.setBold(true);
     EXPECT_GT(QFontMetricsF(grassetto).horizontalAdvance(QStringLiteral("Zuvora")),
               QFontMetricsF(font).horizontalAdvance(QStringLiteral("Zuvora")) * 1.1);
+}
+
+TEST(CarattereCasa, IlGrassettoESpessoAOgniMisura) {
+    preparaApplicazione();
+    Label etichetta(nullptr, "Label1", "HIH", {0, 0, 15000, 4500});
+    const auto inchiostro = [&](int misura, bool grassetto) {
+        QFont font = carattereCasa();
+        font.setPixelSize(misura);
+        font.setBold(grassetto);
+        etichetta.setFontBase(font);
+        const QImage vista = etichetta.grab().toImage().convertToFormat(QImage::Format_Grayscale8);
+        qint64 nero = 0;
+        for (int y = 0; y < vista.height(); ++y)
+            nero += std::count_if(vista.constScanLine(y), vista.constScanLine(y) + vista.width(),
+                                  [](uchar grigio) { return grigio < 128; });
+        return double(nero);
+    };
+    for (const int misura : {30, 60, 70, 200})
+        EXPECT_GT(inchiostro(misura, true), 1.2 * inchiostro(misura, false)) << misura;
 }
 
 TEST(CarattereCasa, UnFileCheNonEUnCarattereRestaComEra) {

@@ -1,8 +1,11 @@
+#include "kit/FintoSistema.h"
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
+#include "shell/disegni/Tavolozza.h"
 #include "shell/host/ColorPicker.h"
 #include "shell/host/Form.h"
 #include "shell/host/Grid.h"
+#include "shell/host/ListBox.h"
 #include "shell/host/QtDialoghi.h"
 #include "shell/host/QtPiattaforma.h"
 #include "shell/host/Rete.h"
@@ -13,11 +16,17 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QHelpEvent>
 #include <QListView>
+#include <QProgressBar>
 #include <QSignalSpy>
+#include <QSlider>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
+#include <cmath>
 #include <sys/stat.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -48,18 +57,114 @@ TEST(Filtri, IlDialogoMostraLaDescrizioneEFiltraSenzaMaiuscole) {
     }
     QString mostrato;
     QStringList elenco;
-    QTimer::singleShot(0, [&] {
-        auto *dialogo = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        ASSERT_NE(dialogo, nullptr);
-        mostrato = dialogo->findChild<QComboBox *>(u"fileTypeCombo"_s)->currentText();
-        const auto *vista = dialogo->findChild<QListView *>(u"listView"_s);
+    Guida guida;
+    guida.quando("QFileDialog", [&](QWidget &dialogo) {
+        mostrato = dialogo.findChild<QComboBox *>(u"fileTypeCombo"_s)->currentText();
+        const auto *vista = dialogo.findChild<QListView *>(u"listView"_s);
         EXPECT_TRUE(QTest::qWaitFor([&] { return vista->model()->rowCount(vista->rootIndex()) == 1; }));
         elenco << vista->model()->index(0, 0, vista->rootIndex()).data().toString();
-        dialogo->reject();
+        dialogo.close();
     });
     QtDialoghi().apriFile(nullptr, {{}, u"File Suono (*.wav) )|*.wav"_s, cartella.path()});
     EXPECT_EQ(mostrato, u"File Suono (*.wav) )"_s);
     EXPECT_EQ(elenco, QStringList{u"campana.WAV"_s});
+}
+
+TEST(Filtri, IlDialogoNonSiApreDoveIlDiscoTace) {
+    const InstallazioneProva prova;
+    const QTemporaryDir cartella;
+    const auto sistema = std::make_shared<FintoSistema>();
+    sistema->albero = {{QDir::currentPath(), Specie::Cartella}};
+    sistema->muta = cartella.path();
+    QString aperta;
+    QtDialoghi dialoghi{Percorsi(sistema)};
+    for (const auto &apri : {std::function([&] {
+                                 dialoghi.apriFile(nullptr, {{}, {}, cartella.path()});
+                             }),
+                             std::function([&] {
+                                 dialoghi.salvaFile(nullptr, {{}, {}, cartella.path(), u"x"_s});
+                             }),
+                             std::function([&] { dialoghi.scegliCartella(nullptr, {}, cartella.path()); })}) {
+        Guida guida;
+        guida.quando("QFileDialog", [&](QWidget &w) {
+            aperta = static_cast<QFileDialog &>(w).directory().path();
+            w.close();
+        });
+        apri();
+        EXPECT_EQ(aperta, QDir::currentPath());
+    }
+    sistema->risveglia();
+}
+
+double contrasto(const QColor &a, const QColor &b) {
+    const auto luce = [](const QColor &c) {
+        const auto lineare = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+        return 0.2126 * lineare(c.redF()) + 0.7152 * lineare(c.greenF()) + 0.0722 * lineare(c.blueF()) + 0.05;
+    };
+    return std::max(luce(a), luce(b)) / std::min(luce(a), luce(b));
+}
+
+TEST(Stile, ITestiSiLeggono) {
+    preparaApplicazione();
+    using P = QPalette;
+    const QPalette colori = QApplication::palette();
+    for (const auto &[testo, fondo] : {std::pair(P::WindowText, P::Window),
+                                       {P::Text, P::Base},
+                                       {P::Text, P::AlternateBase},
+                                       {P::ButtonText, P::Button},
+                                       {P::HighlightedText, P::Highlight},
+                                       {P::PlaceholderText, P::Base},
+                                       {P::ToolTipText, P::ToolTipBase},
+                                       {P::Link, P::Window}})
+        for (const auto gruppo : {P::Active, P::Inactive, P::Disabled})
+            EXPECT_GE(contrasto(colori.color(gruppo, testo), colori.color(gruppo, fondo)), 4.5)
+                << testo << ' ' << gruppo;
+}
+
+// Whether or not they can be used: the edge at the left of a control, half its height down.
+TEST(Stile, IBordiSiVedono) {
+    InstallazioneProva prova;
+    QWidget finestra;
+    finestra.resize(300, 500);
+    QList<QWidget *> tutti;
+    const auto metti = [&](QWidget *w) {
+        w->setGeometry(20, 10 + 30 * int(tutti.size()), 100, 24);
+        tutti << w;
+    };
+    const Posto posto{0, 0, 1500, 360};
+    const auto bottone = [&](Ruolo ruolo) {
+        auto *b = new Button(&finestra, "b", "b", posto);
+        b->setRuolo(ruolo);
+        return b;
+    };
+    metti(bottone(Ruolo::Normale));
+    metti(bottone(Ruolo::Principale));
+    metti(bottone(Ruolo::Distruttivo));
+    auto *lettura = new Edit(&finestra, "e", posto);
+    lettura->setReadOnly(true);
+    metti(lettura);
+    metti(new Edit(&finestra, "e", posto));
+    metti(new CheckBox(&finestra, "c", "c", posto));
+    metti(new RadioButton(&finestra, "r", "r", posto));
+    metti(new ComboBox(&finestra, "s", posto));
+    metti(new GroupBox(&finestra, "g", "", posto));
+    metti(new ListBox(&finestra, "l", posto));
+    metti(new ColorPicker(&finestra, "p", posto, prova.dialoghi));
+    metti(new QSpinBox(&finestra));
+    metti(new QSlider(Qt::Horizontal, &finestra));
+    metti(new QProgressBar(&finestra));
+    for (const bool acceso : {true, false}) {
+        for (QWidget *w : std::as_const(tutti))
+            w->setEnabled(acceso);
+        const QImage vista = finestra.grab().toImage();
+        for (const QWidget *w : std::as_const(tutti)) {
+            double visto = 0;
+            for (int x = 0; x < 6; ++x)
+                visto = std::max(visto, contrasto(vista.pixelColor(w->geometry().center() - QPoint(50 - x, 0)),
+                                                  vista.pixelColor(2, 2)));
+            EXPECT_GE(visto, 3) << w->metaObject()->className() << w->y() << (acceso ? "" : ", off");
+        }
+    }
 }
 
 class FormProva : public Form {
@@ -102,6 +207,36 @@ TEST_F(ConForm, DidascaliaLungaSiStringeENonSiTaglia) {
     EXPECT_TRUE(stretta() && didascalieTagliate(form).isEmpty());
     form.Lungo.setCaption(u"Una didascalia che in nessun modo può stare in così poco spazio"_s);
     EXPECT_EQ(didascalieTagliate(form), QStringList{u"Btn(1)"_s});
+}
+
+TEST_F(ConForm, IlDisegnoStaPrimaDellaDidascaliaSeEntra) {
+    form.Lungo.allineaASinistra();
+    form.Lungo.setDisegno(Disegno::Campana);
+    const auto dipinto = [&] {
+        const QImage vista = form.Lungo.grab({0, 0, 20, 20}).toImage();
+        for (int x = 0; x < vista.width(); ++x)
+            if (vista.pixelColor(x, vista.height() / 2) == tavolozza::evidenza)
+                return true;
+        return false;
+    };
+    form.Lungo.setCaption(u"Breve"_s);
+    EXPECT_TRUE(QTest::qWaitFor(dipinto));
+    form.Lungo.setCaption(u"Una didascalia piuttosto lunga"_s);
+    EXPECT_FALSE(dipinto());
+}
+
+TEST_F(ConForm, UnaVoceTagliataSiLeggeNelSuggerimento) {
+    ListBox lista(&form, "lista", {120, 2000, 1500, 1500});
+    const QString lunga = u"/media/archivio/<b>immagini della sala d'attesa</b>.jpg"_s;
+    lista.setVoci({u"breve"_s, lunga});
+    form.show();
+    for (const auto &[riga, atteso] : {std::pair(1, u"<qt>"_s + lunga.toHtmlEscaped() + u"</qt>"_s), {0, QString()}}) {
+        const QPoint punto = lista.visualItemRect(lista.item(riga)).center();
+        QHelpEvent evento(QEvent::ToolTip, punto, lista.viewport()->mapToGlobal(punto));
+        QApplication::sendEvent(lista.viewport(), &evento);
+        EXPECT_TRUE(QTest::qWaitFor([&, testo = atteso] { return QToolTip::text() == testo; })) << riga;
+    }
+    EXPECT_EQ(lista.visualItemRect(lista.item(1)).width(), lista.viewport()->width());
 }
 
 TEST_F(ConForm, UnErroreNonGestitoDiventaUnMessaggio) {
@@ -219,35 +354,37 @@ TEST(DialogoFile, UnFileCheNonRispondeNonLoFerma) {
     ASSERT_EQ(mkfifo(QFile::encodeName(prova.file(u"tubo.jpg"_s)).constData(), 0600), 0);
     QtDialoghi dialoghi;
     bool visto = false;
-    QTimer::singleShot(0, [&] {
-        auto *dialogo = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        ASSERT_NE(dialogo, nullptr);
-        auto *lista = dialogo->findChild<QListView *>();
+    Guida guida;
+    guida.quando("QFileDialog", [&](QWidget &dialogo) {
+        auto *lista = dialogo.findChild<QListView *>();
         visto = QTest::qWaitFor([&] { return lista->model()->rowCount(lista->rootIndex()) > 0; });
-        fotografa(*dialogo, u"Dialogo file"_s);
-        dialogo->reject();
+        fotografa(dialogo, u"Dialogo file"_s);
+        dialogo.close();
     });
     EXPECT_EQ(dialoghi.apriFile(nullptr, {u"Prova"_s, u"Immagini|*.jpg"_s, prova.cartella()}), std::nullopt);
     EXPECT_TRUE(visto);
 }
 
-TEST(DialogoFont, SenzaBarratoNeSottolineato) {
+TEST(DialogoFont, CominciaDalFontDatoSenzaBarratoNeSottolineato) {
     preparaApplicazione();
     QtDialoghi dialoghi;
-    QTimer::singleShot(0, [&] {
-        auto *dialogo = qobject_cast<QFontDialog *>(QApplication::activeModalWidget());
-        ASSERT_NE(dialogo, nullptr);
-        const auto caselle = dialogo->findChildren<QCheckBox *>();
-        EXPECT_FALSE(caselle.isEmpty());
-        for (const QCheckBox *casella : caselle)
-            EXPECT_FALSE(casella->isVisible());
-        fotografa(*dialogo, u"Dialogo font"_s);
-        dialogo->accept();
-    });
-    const auto scelto = dialoghi.scegliFont(nullptr, FontScelto{u"Tahoma"_s, 14, true, false});
-    ASSERT_TRUE(scelto.has_value());
-    EXPECT_EQ(scelto->misura, 14);
-    EXPECT_TRUE(scelto->grassetto);
+    for (const QString &nome : {u"Tahoma"_s, u"Arial"_s}) { // the machine has another one for the second
+        QTimer::singleShot(0, [&] {
+            auto *dialogo = qobject_cast<QFontDialog *>(QApplication::activeModalWidget());
+            ASSERT_NE(dialogo, nullptr);
+            const auto caselle = dialogo->findChildren<QCheckBox *>();
+            EXPECT_FALSE(caselle.isEmpty());
+            for (const QCheckBox *casella : caselle)
+                EXPECT_FALSE(casella->isVisible());
+            fotografa(*dialogo, u"Dialogo font"_s);
+            dialogo->accept();
+        });
+        const auto scelto = dialoghi.scegliFont(nullptr, FontScelto{nome, 14, true, false});
+        ASSERT_TRUE(scelto.has_value());
+        EXPECT_EQ(scelto->nome, nome);
+        EXPECT_EQ(scelto->misura, 14);
+        EXPECT_TRUE(scelto->grassetto);
+    }
 }
 
 TEST(Istanza, UnaSolaPerMacchinaELiberaDopoLaFine) {

@@ -88,11 +88,31 @@ TEST_F(Pagine, INumeriDegliSchermiApronoIlSito) {
     for (const char *numero : {"Label1(3)", "Label1(4)"})
         QTest::mouseClick(&trova<QWidget>(pagina, numero), Qt::LeftButton);
     EXPECT_EQ(prova.piattaforma.aperti.size(), 2);
-    EXPECT_FALSE(trova<Button>(pagina, "PosSchermo(1)").conSpunta());
-    clicca(pagina, "PosSchermo(1)");
-    EXPECT_TRUE(trova<Button>(pagina, "PosSchermo(1)").conSpunta()) << "a save that says nothing shows a tick";
-    EXPECT_EQ(trova<Button>(pagina, "PosSchermo(1)").accessibleDescription(), u"Salvato"_s);
-    EXPECT_EQ(trova<Button>(pagina, "PosSchermo(1)").Caption(), u"Secondo Schermo"_s);
+}
+
+TEST_F(Pagine, ChiSalvaInSilenzioMostraUnaSpunta) {
+    const struct {
+        const char *voce;
+        const char *pagina;
+        const char *controllo;
+    } casi[] = {{"Position", "BoxImpostazioni(4)", "PosSchermo(1)"}, {"PB1(9)", "BoxImpostazioni(0)", "RB1(1)"},
+                {"PushButton1", "BoxImpostazioni(8)", "CheckBox1"},  {"PB1(10)", "BoxImpostazioni(1)", "PosSS(3)"},
+                {"PB1(10)", "BoxImpostazioni(1)", "SaveIP"},         {"IlMenu", nullptr, "cbAutoaccensioneFE"}};
+    QWidget *ultimo = nullptr;
+    for (const auto &caso : casi) {
+        clicca(pannello, caso.voce);
+        ultimo = &trova<QWidget>(caso.pagina ? trova<QWidget>(pannello, caso.pagina) : pannello, caso.controllo);
+        EXPECT_FALSE(conSpunta(*ultimo)) << caso.controllo;
+        clicca(pannello, caso.controllo);
+        EXPECT_TRUE(conSpunta(*ultimo)) << caso.controllo;
+        EXPECT_EQ(ultimo->accessibleDescription(), u"Salvato"_s) << caso.controllo;
+    }
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !conSpunta(*ultimo); }));
+    EXPECT_EQ(ultimo->accessibleDescription(), QString());
+    prova.esegui(u"CREATE TRIGGER pieno BEFORE UPDATE ON Configurazione BEGIN SELECT RAISE(ABORT,'no'); END"_s);
+    clicca(pannello, "cbAutoaccensioneFE");
+    EXPECT_FALSE(prova.dialoghi.unicoMessaggio().isEmpty());
+    EXPECT_FALSE(conSpunta(*ultimo)) << "nothing was saved";
 }
 
 struct CasoPagina {

@@ -71,7 +71,7 @@ void DesignerEtichetta::primaRiga(QBoxLayout &riga) {
     });
     bottone(riga, "Controlla", u"Controlla"_s, u"Che cosa non verrà stampato come si vede"_s, [this] {
         const QStringList avvisi = controlla(m_progetto.etichetta(), m_valori);
-        m_mondo.domande.avvisa(this, avvisi.isEmpty() ? u"Nessun problema trovato."_s : avvisi.mid(0, 20).join(u'\n'));
+        avvisa(avvisi.isEmpty() ? u"Nessun problema trovato."_s : avvisi.mid(0, 20).join(u'\n'));
     });
     riga.addStretch();
     auto *record = new QSpinBox(this);

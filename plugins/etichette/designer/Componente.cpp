@@ -2,8 +2,8 @@
 
 namespace zuvora {
 
-std::unique_ptr<Etichette> FabbricaEtichetteQt::crea() {
-    return std::make_unique<EtichetteQt>(m_domande);
+std::unique_ptr<Etichette> FabbricaEtichetteQt::crea(Dialoghi &dialoghi) {
+    return std::make_unique<EtichetteQt>(dialoghi);
 }
 
 } // namespace zuvora

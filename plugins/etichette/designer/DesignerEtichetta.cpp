@@ -4,9 +4,9 @@
 #include "etichette/designer/Finestre.h"
 #include "etichette/designer/Foglio.h"
 #include "etichette/designer/PannelloProprieta.h"
-#include "etichette/designer/Scrittura.h"
 #include "etichette/logic/FileEtichetta.h"
 #include "shell/immagini/LetturaImmagine.h"
+#include "shell/logic/Domanda.h"
 #include "shell/logic/FileAtomico.h"
 
 #include <QApplication>
@@ -14,10 +14,12 @@
 #include <QBuffer>
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QLabel>
 #include <QListWidget>
 #include <QMimeData>
 #include <QScreen>
+#include <chrono>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -28,8 +30,32 @@ constexpr QSize latoImmagine(1600, 1600);       // points; a roll of 80 mm has 6
 constexpr qint64 immagineIntatta = 1024 * 1024; // bytes
 constexpr int bozzaDopo = 2000;                 // milliseconds
 constexpr int avvisiDopo = 150;
-const QString filtroImmagini = u"Immagini (*.png *.jpg *.jpeg *.bmp *.gif *.webp *.svg)"_s;
+constexpr std::chrono::seconds attesaCartella{20}; // of a kiosk's folder on the network
+const QString filtroImmagini = u"Immagini|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.webp;*.svg"_s;
 const QString tipoAppunti = u"application/x-zuvora-biglietto"_s;
+constexpr std::chrono::seconds attesaImmagine{20};
+
+struct ImmaginePresa {
+    QByteArray contenuto;
+    QString motivo; // why there is none
+};
+
+// The picture goes into the ticket: its own file when that is small, else what a ticket printer can show of it.
+ImmaginePresa prendiImmagine(const QString &percorso) {
+    const ImmagineLetta letta = leggi(percorso, latoImmagine);
+    if (letta.immagine.isNull())
+        return {{}, letta.motivo};
+    const QSize misura = misuraImmagine(percorso);
+    const bool piccola = misura.isValid() && misura == misura.boundedTo(latoImmagine);
+    if (FileLetto file = leggiFile(percorso, immagineIntatta); piccola && file.motivo.isEmpty())
+        return {file.contenuto, {}};
+    QByteArray ridotta;
+    QBuffer buffer(&ridotta);
+    buffer.open(QIODevice::WriteOnly);
+    if (!letta.immagine.save(&buffer, "PNG") || ridotta.size() > immagineMassima)
+        return {{}, u"Anche ridotta è troppo grande per un biglietto."_s};
+    return {ridotta, {}};
+}
 
 // What is dragged out of it is the variable's name.
 class ElencoVariabili : public QListWidget {
@@ -80,10 +106,6 @@ DesignerEtichetta::DesignerEtichetta(const Etichetta &etichetta, const Valori &v
     m_orologio.setSingleShot(true);
     m_orologio.setInterval(bozzaDopo);
     connect(&m_orologio, &QTimer::timeout, this, &DesignerEtichetta::scriviBozza);
-    connect(&m_scritturaBozza, &QFutureWatcherBase::finished, this, [this] {
-        if (const QString motivo = m_scritturaBozza.result(); !motivo.isEmpty() && !m_progetto.pila().isClean())
-            di(u"La copia di sicurezza non è stata scritta. "_s + motivo);
-    });
     m_attesaAvvisi.setSingleShot(true);
     m_attesaAvvisi.setInterval(avvisiDopo);
     connect(&m_attesaAvvisi, &QTimer::timeout, this, &DesignerEtichetta::mostraAvvisi);
@@ -163,29 +185,18 @@ void DesignerEtichetta::aggiungiVariabile(const QString &nome, const std::option
     m_foglio->setFocus();
 }
 
-// The picture goes into the ticket: its own file when that is small, else what a ticket printer can show of it.
 std::optional<QByteArray> DesignerEtichetta::chiediImmagine() {
-    const auto percorso = m_mondo.domande.apriFile(this, u"Scelta immagine"_s, filtroImmagini);
+    const auto percorso = m_mondo.dialoghi.apriFile(this, {u"Scelta immagine"_s, filtroImmagini});
     if (!percorso)
         return std::nullopt;
-    const ImmagineLetta letta = leggi(*percorso, latoImmagine);
-    if (letta.immagine.isNull()) {
-        m_mondo.domande.avvisa(this, u"L'immagine non è stata presa. "_s + letta.motivo);
-        return std::nullopt;
-    }
-    const QSize misura = misuraImmagine(*percorso);
-    const bool piccola = misura.isValid() && misura == misura.boundedTo(latoImmagine);
-    if (FileLetto file = leggiFile(*percorso, immagineIntatta); piccola && file.motivo.isEmpty())
-        return file.contenuto;
-    QByteArray ridotta;
-    QBuffer buffer(&ridotta);
-    buffer.open(QIODevice::WriteOnly);
-    if (!letta.immagine.save(&buffer, "PNG") || ridotta.size() > immagineMassima) {
-        m_mondo.domande.avvisa(this,
-                               u"L'immagine non è stata presa: anche ridotta è troppo grande per un biglietto."_s);
-        return std::nullopt;
-    }
-    return ridotta;
+    // A disk that doesn't answer must not hold the window up.
+    const ImmaginePresa presa =
+        chiediEAspetta<ImmaginePresa>([percorso = *percorso] { return prendiImmagine(percorso); }, attesaImmagine)
+            .value_or(ImmaginePresa{{}, u"Il file non risponde."_s});
+    if (presa.motivo.isEmpty())
+        return presa.contenuto;
+    avvisa(u"L'immagine non è stata presa. "_s + presa.motivo);
+    return std::nullopt;
 }
 
 void DesignerEtichetta::aggiungiImmagine() {
@@ -204,12 +215,28 @@ void DesignerEtichetta::scegliImmagine() {
         m_progetto.cambia(u"Immagine"_s, [&](Oggetto &o) { o.immagine = *file; });
 }
 
+// Beside the window, which a folder that doesn't answer must not hold up. What was saved or left meanwhile goes again.
 void DesignerEtichetta::scriviBozza() {
-    if (m_scritturaBozza.isRunning())
+    if (m_bozzaInCorso)
         m_orologio.start(); // one at a time: the last must be the last
-    else if (!m_progetto.pila().isClean())
-        m_scritturaBozza.setFuture(avviaScrittura(m_bozza.percorso(), m_progetto.etichetta(),
-                                                  m_bozzaSuperata = std::make_shared<std::atomic<bool>>(false)));
+    if (m_bozzaInCorso || m_progetto.pila().isClean())
+        return;
+    m_bozzaInCorso = true;
+    m_bozzaSuperata = std::make_shared<std::atomic<bool>>(false);
+    chiedi<QString>(
+        [bozza = m_bozza, etichetta = m_progetto.etichetta(), superata = m_bozzaSuperata] {
+            const QString motivo = scriviEtichetta(bozza.percorso(), etichetta);
+            if (*superata)
+                bozza.togli();
+            return motivo;
+        },
+        *this,
+        [this](const std::optional<QString> &motivo) {
+            m_bozzaInCorso = false;
+            if (motivo != QString() && !m_progetto.pila().isClean())
+                di(u"La copia di sicurezza non è stata scritta. "_s + motivo.value_or(u"La cartella non risponde."_s));
+        },
+        attesaCartella);
 }
 
 void DesignerEtichetta::togliBozza() {
@@ -219,12 +246,14 @@ void DesignerEtichetta::togliBozza() {
 }
 
 bool DesignerEtichetta::salvaIn(const QString &file) {
-    const QString motivo = scriviAspettando(this, file, m_progetto.etichetta());
+    const auto scrittura = chiediEAspetta<QString>(
+        [file, etichetta = m_progetto.etichetta()] { return scriviEtichetta(file, etichetta); }, attesaCartella);
+    const QString motivo =
+        scrittura.value_or(u"La cartella non risponde: non si sa se il biglietto sia stato scritto."_s);
     if (motivo.isEmpty())
         return true;
-    m_mondo.domande.avvisa(this,
-                           u"Il biglietto non è stato salvato in %1.\n%2\n\nQuello che è disegnato resta qui: si può "
-                           "salvare una copia altrove."_s.arg(file, motivo));
+    avvisa(u"Il biglietto non è stato salvato in %1.\n%2\n\nQuello che è disegnato resta qui: si può "
+           "salvare una copia altrove."_s.arg(file, motivo));
     return false;
 }
 
@@ -238,18 +267,19 @@ bool DesignerEtichetta::salva() {
 }
 
 void DesignerEtichetta::salvaCopia() {
-    const auto file = m_mondo.domande.salvaFile(this, u"Salva una copia"_s, m_file, u"Biglietti (*.lbl)"_s);
+    const auto file = m_mondo.dialoghi.salvaFile(
+        this, {u"Salva una copia"_s, u"Biglietti|*.lbl"_s, QFileInfo(m_file).path(), QFileInfo(m_file).fileName()});
     if (file && salvaIn(*file))
         di(u"Copia salvata: "_s + *file);
 }
 
 void DesignerEtichetta::esportaPdf() {
-    const auto file = m_mondo.domande.salvaFile(this, u"Esporta in PDF"_s, u"Ticket.pdf"_s, u"PDF (*.pdf)"_s);
+    const auto file = m_mondo.dialoghi.salvaFile(this, {u"Esporta in PDF"_s, u"PDF|*.pdf"_s, {}, u"Ticket.pdf"_s});
     if (!file)
         return;
     const EsitoStampa esito = scriviPdf(*file, m_progetto.etichetta(), m_valori);
     if (!esito.motivo.isEmpty())
-        m_mondo.domande.avvisa(this, u"Il PDF non è stato scritto. "_s + esito.motivo);
+        avvisa(u"Il PDF non è stato scritto. "_s + esito.motivo);
     else
         di(u"PDF scritto: "_s + *file);
 }
@@ -257,10 +287,10 @@ void DesignerEtichetta::esportaPdf() {
 void DesignerEtichetta::stampaProva() {
     const auto [nomi, motivo] = m_mondo.stampanti();
     if (nomi.isEmpty()) {
-        if (m_mondo.domande.conferma(this,
-                                     (motivo.isEmpty() ? u"Su questa macchina non c'è nessuna stampante."_s : motivo) +
-                                         u"\n\nEsportare il biglietto in PDF ?"_s,
-                                     true))
+        const QString testo = motivo.isEmpty() ? u"Su questa macchina non c'è nessuna stampante."_s : motivo;
+        if (m_mondo.dialoghi.scegli(
+                this,
+                {titoloMessaggi(), testo + u"\n\nEsportare il biglietto in PDF ?"_s, {u"&Sì"_s, u"&No"_s}, 0, 1}) == 0)
             esportaPdf();
         return;
     }
@@ -275,18 +305,22 @@ void DesignerEtichetta::stampaProva() {
     if (rifiuto.isEmpty())
         di(u"Biglietto consegnato alla stampante %1."_s.arg(richiesta->stampante));
     else
-        m_mondo.domande.avvisa(this, rifiuto);
+        avvisa(rifiuto);
+}
+
+void DesignerEtichetta::avvisa(const QString &testo) {
+    m_mondo.dialoghi.messaggio(this, Dialoghi::Icona::Informazione, titoloMessaggi(), testo);
 }
 
 void DesignerEtichetta::mostraRecord(int n) {
     m_valori = m_primo;
     if (n > 1) {
-        const auto lettura = avvia<std::optional<Valori>>([record = m_mondo.record, n] { return record(n); });
-        const bool risposto = attendi(this, QFuture<void>(lettura));
-        const auto altri = risposto ? lettura.result() : std::nullopt;
+        const auto lettura =
+            chiediEAspetta<std::optional<Valori>>([record = m_mondo.record, n] { return record(n); }, attesaCartella);
+        const auto altri = lettura.value_or(std::nullopt);
         if (!altri) {
-            di(risposto ? u"Il record %1 non c'è: si vedono i contenuti del primo."_s.arg(n)
-                        : u"La cartella non risponde: si vedono i contenuti del primo record."_s);
+            di(lettura ? u"Il record %1 non c'è: si vedono i contenuti del primo."_s.arg(n)
+                       : u"La cartella non risponde: si vedono i contenuti del primo record."_s);
             m_foglio->setValori(m_primo);
             return;
         }
@@ -344,8 +378,13 @@ void DesignerEtichetta::closeEvent(QCloseEvent *e) {
     if (QWidget *campo = focusWidget(); campo != nullptr && campo != m_foglio)
         campo->clearFocus(); // applies what is being typed
     if (!m_progetto.pila().isClean()) {
-        const auto risposta = m_mondo.domande.salvare(this, u"Il biglietto è stato modificato. Salvarlo ?"_s);
-        if (risposta == Domande::Risposta::Annulla || (risposta == Domande::Risposta::Si && !salva())) {
+        enum : int { Salva, NonSalvare, Annulla };
+        const int risposta = m_mondo.dialoghi.scegli(this, {titoloMessaggi(),
+                                                            u"Il biglietto è stato modificato. Salvarlo ?"_s,
+                                                            {u"&Salva"_s, u"&Non salvare"_s, u"&Annulla"_s},
+                                                            Salva,
+                                                            Annulla});
+        if (risposta == Annulla || (risposta == Salva && !salva())) {
             e->ignore();
             return;
         }

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "etichette/biglietto/Stampante.h"
-#include "etichette/designer/Domande.h"
 #include "etichette/logic/Bozza.h"
 #include "etichette/logic/Progetto.h"
 #include "etichette/logic/Valori.h"
+#include "shell/host/Dialoghi.h"
 
 #include <QDialog>
-#include <QFutureWatcher>
 #include <QTimer>
 #include <atomic>
 #include <functional>
@@ -31,7 +30,7 @@ class DesignerEtichetta : public QDialog {
 public:
     // What the designer has of the outside: tests give doubles.
     struct Mondo {
-        Domande &domande;
+        Dialoghi &dialoghi;
         std::function<Stampanti()> stampanti;
         // The Italian reason, empty when the printer has the ticket.
         std::function<QString(const QString &stampante, const Etichetta &, const Valori &)> stampa;
@@ -70,6 +69,7 @@ private:
     void salvaCopia();
     void esportaPdf();
     void stampaProva();
+    void avvisa(const QString &testo);
     void mostraRecord(int n);
     void mostraStato();
     void mostraAvvisi();
@@ -86,7 +86,7 @@ private:
     QString m_file;
     Mondo m_mondo;
     Bozza m_bozza;
-    QFutureWatcher<QString> m_scritturaBozza;
+    bool m_bozzaInCorso = false;
     std::shared_ptr<std::atomic<bool>> m_bozzaSuperata;
     QTimer m_orologio;     // writes the draft a moment after the last change
     QTimer m_attesaAvvisi; // and tells what will not print well: a look at every object is not for each key

@@ -4,6 +4,7 @@
 #include "etichette/biglietto/Stampante.h"
 #include "etichette/designer/DesignerEtichetta.h"
 #include "etichette/logic/FileEtichetta.h"
+#include "shell/host/Dialoghi.h"
 
 #include <QFileInfo>
 
@@ -14,6 +15,8 @@ namespace {
 
 constexpr int riuscito = 0;
 constexpr int fallito = -1;
+constexpr int sicuroSi = 0;
+constexpr int sicuroNo = 1;
 
 QString stampaProva(const QString &stampante, const Etichetta &e, const Valori &valori) {
     return stampa(stampante, e, valori).motivo;
@@ -39,9 +42,15 @@ int EtichetteQt::LlDefineLayout(QWidget *finestra, const QString &titolo, int /*
     try {
         return disegna(finestra, titolo, file);
     } catch (const std::exception &e) {
-        m_domande.avvisa(finestra, u"Il biglietto non può essere aperto. (%1)"_s.arg(QString::fromUtf8(e.what())));
+        m_dialoghi.messaggio(finestra, Dialoghi::Icona::Critica, titoloMessaggi(),
+                             u"Il biglietto non può essere aperto. (%1)"_s.arg(QString::fromUtf8(e.what())));
         return fallito;
     }
+}
+
+// `sicuro`: the answer that loses nothing, and the one of Enter and Esc.
+bool EtichetteQt::conferma(QWidget *finestra, const QString &testo, int sicuro) {
+    return m_dialoghi.scegli(finestra, {titoloMessaggi(), testo, {u"&Sì"_s, u"&No"_s}, sicuro, sicuro}) == 0;
 }
 
 int EtichetteQt::disegna(QWidget *finestra, const QString &titolo, const QString &file) {
@@ -50,10 +59,10 @@ int EtichetteQt::disegna(QWidget *finestra, const QString &titolo, const QString
         const EtichettaLetta letta = leggiEtichetta(file);
         if (!letta.etichetta) {
             // What can't be read is somebody's work: it is replaced only when the user says so, and then at a save.
-            if (!m_domande.conferma(finestra,
-                                    u"%1 non può essere aperto.\n%2\n\nDisegnare un biglietto nuovo al suo posto ? "
-                                    "Il file resta com'è finché il nuovo non viene salvato."_s.arg(file, letta.motivo),
-                                    false))
+            if (!conferma(finestra,
+                          u"%1 non può essere aperto.\n%2\n\nDisegnare un biglietto nuovo al suo posto ? "
+                          "Il file resta com'è finché il nuovo non viene salvato."_s.arg(file, letta.motivo),
+                          sicuroNo))
                 return fallito;
         } else {
             etichetta = *letta.etichetta;
@@ -66,15 +75,15 @@ int EtichetteQt::disegna(QWidget *finestra, const QString &titolo, const QString
     if (vuoti)
         for (Variabile &v : esempio)
             v.testo = v.nome;
-    DesignerEtichetta::Mondo mondo{m_domande, stampanti, stampaProva,
+    DesignerEtichetta::Mondo mondo{m_dialoghi, stampanti, stampaProva,
                                    [cartella = QFileInfo(file).path()](int n) { return recordDi(cartella, n); }};
     DesignerEtichetta designer(etichetta, Valori(esempio), titolo, file, std::move(mondo), finestra);
     const Bozza bozza(file);
     if (const auto lasciata = bozza.lasciata()) {
-        if (m_domande.conferma(finestra,
-                               u"L'ultima volta il biglietto non è stato chiuso in ordine.\nRiprendere le modifiche "
-                               "che non erano state salvate ?"_s,
-                               true))
+        if (conferma(finestra,
+                     u"L'ultima volta il biglietto non è stato chiuso in ordine.\nRiprendere le modifiche "
+                     "che non erano state salvate ?"_s,
+                     sicuroSi))
             designer.recupera(*lasciata);
         else
             bozza.togli();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "etichette/designer/Domande.h"
 #include "etichette/logic/Valori.h"
 #include "shell/host/Etichette.h"
 
@@ -9,16 +8,17 @@ namespace zuvora {
 // The ticket designer behind its three operations.
 class EtichetteQt : public Etichette {
 public:
-    explicit EtichetteQt(Domande &domande) : m_domande(domande) {}
+    explicit EtichetteQt(Dialoghi &dialoghi) : m_dialoghi(dialoghi) {}
 
     void LlDefineVariableStart() override;
     int LlDefineVariableExt(const QString &nome, const QString &contenuto, TipoEtichetta tipo) override;
     int LlDefineLayout(QWidget *finestra, const QString &titolo, int tipoProgetto, const QString &file) override;
 
 private:
+    bool conferma(QWidget *finestra, const QString &testo, int sicuro);
     int disegna(QWidget *finestra, const QString &titolo, const QString &file);
 
-    Domande &m_domande;
+    Dialoghi &m_dialoghi;
     QList<Variabile> m_variabili;
 };
 

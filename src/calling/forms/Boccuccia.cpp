@@ -73,9 +73,9 @@ void Boccuccia::disponi() {
 }
 
 void Boccuccia::leggi() {
-    const QString percorso = m_percorsi.unisci(cartella(), nomi::frase);
+    const QString percorso = ambiente().percorsi.unisci(cartella(), nomi::frase);
     const FileLetto file = leggiFile(percorso, massimoFrase);
-    if (!file.motivo.isEmpty() && m_percorsi.esamina(percorso).specie != Specie::Manca)
+    if (!file.motivo.isEmpty() && ambiente().percorsi.esamina(percorso).specie != Specie::Manca)
         m_avviso = file.motivo;
     const FraseTTS letta = interpretaFrase(file.contenuto);
     Frase.setText(letta.frase);
@@ -86,7 +86,7 @@ void Boccuccia::leggi() {
 }
 
 void Boccuccia::leggiGuida() {
-    const FileLetto file = leggiFile(m_percorsi.unisci(cartella(), nomi::aiutoVoce), massimoGuida);
+    const FileLetto file = leggiFile(ambiente().percorsi.unisci(cartella(), nomi::aiutoVoce), massimoGuida);
     if (file.motivo.isEmpty())
         RT2.mostra(leggiRtf(file.contenuto));
     else
@@ -110,7 +110,7 @@ void Boccuccia::salva() {
                          acceso(!VociPS(0).isChecked())};
     QString motivo = motivoNonSalvabile(frase.frase);
     if (const auto record = componiFrase(frase); motivo.isEmpty() && record)
-        motivo = scriviFile(m_percorsi.unisci(cartella(), nomi::frase), *record);
+        motivo = scriviFile(ambiente().percorsi.unisci(cartella(), nomi::frase), *record);
     if (motivo.isEmpty())
         ctButton2(1).spunta();
     else
@@ -144,7 +144,7 @@ void Boccuccia::prova() {
 void Boccuccia::parlaProgramma() {
     EsitoComponenteVoce esito = creaVoce(ambiente().piattaforma.cartellaEseguibile());
     if (esito.voce == nullptr) {
-        Stato.setCaption(u"Lettura non riuscita: "_s + esito.motivo);
+        Stato.setCaption(esito.motivo.simplified());
         return;
     }
     std::optional<Timbro> timbro;

@@ -3,7 +3,6 @@
 #include "calling/forms/TestoFormattato.h"
 #include "shell/host/Form.h"
 #include "shell/host/Voce.h"
-#include "shell/logic/Percorsi.h"
 
 namespace zuvora {
 
@@ -28,7 +27,6 @@ private:
     void mostraVoci();
     void cambiaGuida();
 
-    Percorsi m_percorsi;
     QString m_avviso; // to be told once the form stands
     std::unique_ptr<Voce> m_voce;
     std::unique_ptr<Voce> VoceSistema;

@@ -82,6 +82,7 @@ void GruppoPostazioni::imposta(int Index) {
         }
         throw;
     }
+    m_linee[std::size_t(Index / 2)]->tipi(Index).spunta();
 }
 
 } // namespace zuvora

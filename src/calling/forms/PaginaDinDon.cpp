@@ -29,7 +29,8 @@ void PaginaDinDon::nuovo() {
     const auto scelto = ambiente().dialoghi.apriFile(this, {{}, u"File Suono (*.wav) )|*.wav"_s, {}});
     if (!scelto)
         return;
-    const QString percorso = percorsoSuono(m_percorsi.conUnita(*scelto), ambiente().piattaforma.nomeMacchina());
+    const QString percorso =
+        percorsoSuono(ambiente().percorsi.conUnita(*scelto), ambiente().piattaforma.nomeMacchina());
     aggiungiSuono(zuvora::apri(Data3, cartella(), sorgenteSuoni.toString()), percorso);
     Data3.Refresh();
 }
@@ -53,7 +54,7 @@ void PaginaDinDon::prova() {
     if (vuoto())
         return;
     const QString motivo =
-        provaSuono(ambiente().piattaforma.cartellaEseguibile(), m_percorsi, suonoCorrente(Data3.Recordset()));
+        provaSuono(ambiente().piattaforma.cartellaEseguibile(), ambiente().percorsi, suonoCorrente(Data3.Recordset()));
     if (!motivo.isEmpty())
         avvisa(u"Il suono non si può provare !"_s, motivo);
 }
@@ -66,6 +67,7 @@ void PaginaDinDon::salvaUso() {
         CheckBox1.setChecked(!usato); // the box goes on telling what is stored
         throw;
     }
+    CheckBox1.spunta();
 }
 
 } // namespace zuvora

@@ -2,7 +2,6 @@
 
 #include "shell/host/Grid.h"
 #include "shell/host/Pagina.h"
-#include "shell/logic/Percorsi.h"
 #include "shell/store/Data.h"
 
 namespace zuvora {
@@ -21,7 +20,6 @@ private:
     void prova();
     void salvaUso();
 
-    Percorsi m_percorsi;
     Data Data3;
     Grid gridDD{this, "gridDD", {120, 240, 5295, 3900}, {{"Percorso del suono di DinDon", "DinDon", 0}}};
     Schiera<Button> btnDD{this,

@@ -26,10 +26,10 @@ Posto entro(const Posto &posto, const Misura &interno) {
 
 } // namespace
 
-FormPlaylist::FormPlaylist(const Ambiente &contesto, const AspettoPlaylist &a, QWidget *padre,
-                           const Percorsi &percorsiUsati)
-    : Form(contesto, a.nome, a.didascalia, a.interno, padre), m_tipo(*a.tipo), m_percorsi(percorsiUsati),
-      m_controllo([percorsiUsati](const QString &percorso) { return vocePresente(percorsiUsati, percorso); }),
+FormPlaylist::FormPlaylist(const Ambiente &contesto, const AspettoPlaylist &a, QWidget *padre)
+    : Form(contesto, a.nome, a.didascalia, a.interno, padre), m_tipo(*a.tipo),
+      m_controllo(
+          [percorsi = ambiente().percorsi](const QString &percorso) { return vocePresente(percorsi, percorso); }),
       Label1_0(this, "Label1(0)", a.attiva, a.Label1_0), Label1_1(this, "Label1(1)", "", entro(a.Label1_1, a.interno)),
       Label1_5(this, "Label1(5)", "Disco / Cartelle", {120, 750, 1185, 255}),
       Drive1(this, "Drive1", {1320, 720, 1935, 315}), Dir1(this, "Dir1", a.Dir1), File1(this, "File1", a.File1),

@@ -6,7 +6,6 @@
 #include "shell/host/Form.h"
 #include "shell/host/ListBox.h"
 #include "shell/host/SceltaFile.h"
-#include "shell/logic/Percorsi.h"
 
 #include <optional>
 
@@ -16,7 +15,7 @@ namespace zuvora {
 // it is saved.
 class FormPlaylist : public Form {
 public:
-    FormPlaylist(const Ambiente &ambiente, const AspettoPlaylist &aspetto, QWidget *padre, const Percorsi &percorsi);
+    FormPlaylist(const Ambiente &ambiente, const AspettoPlaylist &aspetto, QWidget *padre);
 
 protected:
     // A file of File1, or an entry of List2, was clicked.
@@ -26,7 +25,6 @@ protected:
     virtual bool chiediTempo(std::optional<double> & /*tempo*/) { return true; }
 
     void ElencaPlaylist();
-    const Percorsi &percorsi() const { return m_percorsi; }
     bool haVoci() const { return List2.ListCount() > 0; }
     QString voceScelta() const { return List2.List(List2.ListIndex()); } // empty without one
 
@@ -49,7 +47,6 @@ private:
     QString PlaylistAperta;
     QString FileSelezionato;
     QString m_illeggibile; // the playlist that could not be read: a save must not cover it
-    Percorsi m_percorsi;
     ControlloPlaylist m_controllo;
 
     Label Label1_0;

@@ -12,8 +12,7 @@ constexpr int massimeCifre = 2;
 
 } // namespace
 
-ImpostaFoto::ImpostaFoto(const Ambiente &contesto, QWidget *padre, const Percorsi &percorsi)
-    : FormPlaylist(contesto, aspettoFoto, padre, percorsi) {
+ImpostaFoto::ImpostaFoto(const Ambiente &contesto, QWidget *padre) : FormPlaylist(contesto, aspettoFoto, padre) {
     text1.setFiltro(soloCifre);
     bottoneDi(text1, Command89); // the one that stores the time
     text1.setMaxLength(massimeCifre);
@@ -41,18 +40,9 @@ void ImpostaFoto::clicVoce(const QString &percorso) {
     mostra(percorso, true);
 }
 
-// A path on a disk that doesn't answer must not hold the form up: it is asked for first.
 void ImpostaFoto::mostra(const QString &percorso, bool tace) {
-    m_chiesta = percorso;
-    percorsi().chiedi(percorso, *this, [this, percorso, tace](const Percorsi::Esame &esame) {
-        if (percorso != m_chiesta)
-            return;
-        m_tace = tace;
-        if (esame.specie != Specie::Manca)
-            Image1.mostra(esame.percorso);
-        else
-            Image1.svuota(tace ? QString() : u"File non trovato"_s);
-    });
+    m_tace = tace;
+    Image1.mostra(percorso);
 }
 
 bool ImpostaFoto::chiediTempo(std::optional<double> &tempo) {

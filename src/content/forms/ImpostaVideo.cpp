@@ -4,8 +4,7 @@
 
 namespace zuvora {
 
-ImpostaVideo::ImpostaVideo(const Ambiente &contesto, QWidget *padre, const Percorsi &percorsi)
-    : FormPlaylist(contesto, aspettoVideo, padre, percorsi) {
+ImpostaVideo::ImpostaVideo(const Ambiente &contesto, QWidget *padre) : FormPlaylist(contesto, aspettoVideo, padre) {
     alClic(PushButton1, [this] { anteprimaCartella(); });
     alClic(PushButton2, [this] { anteprimaPlaylist(); });
     ElencaPlaylist();
@@ -21,8 +20,8 @@ void ImpostaVideo::anteprimaPlaylist() {
         return;
     // The entry may name the file in another case, or as other machines see it. A missing one opens an empty form.
     const QString voce = voceScelta();
-    const Percorsi::Esame esame = percorsi().chiediEAspetta(voce);
-    const QString film = esame.percorso.isEmpty() ? percorsi().nativo(voce).value_or(voce) : esame.percorso;
+    const Percorsi::Esame esame = ambiente().percorsi.chiediEAspetta(voce);
+    const QString film = esame.percorso.isEmpty() ? ambiente().percorsi.nativo(voce).value_or(voce) : esame.percorso;
     AnteprimaVideo(ambiente(), film, this).mostraModale();
 }
 

@@ -7,7 +7,7 @@ namespace zuvora {
 // Playlists of films.
 class ImpostaVideo : public FormPlaylist {
 public:
-    ImpostaVideo(const Ambiente &ambiente, QWidget *padre, const Percorsi &percorsi = Percorsi());
+    ImpostaVideo(const Ambiente &ambiente, QWidget *padre);
 
 private:
     void anteprimaCartella();

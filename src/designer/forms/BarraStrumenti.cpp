@@ -110,13 +110,11 @@ QLabel *creaDidascalia(QWidget *form) {
 
 } // namespace
 
-BarraStrumenti::BarraStrumenti(QWidget *form, Bersaglio::Gestore striscia, Bersaglio::Gestore presa)
-    : QWidget(form), GroupBox2(this, "GroupBox2", "", postoGruppo),
+BarraStrumenti::BarraStrumenti(QWidget *form, Gestore striscia, Gestore presa, Gestore altrove)
+    : Bersaglio(form, u"SSPanel1"_s, std::move(altrove)), GroupBox2(this, "GroupBox2", "", postoGruppo),
       Btn("Btn", indiciBottoni(),
           [this](int indice, const char *nome) { return creaBottone(&GroupBox2, indice, nome); }),
       m_didascalia(creaDidascalia(form)) {
-    setObjectName(u"SSPanel1"_s);
-    setAttribute(Qt::WA_NoMousePropagation);
     setAccessibleName(u"Strumenti"_s);
     auto *Image2 = new Bersaglio(this, u"Image2"_s, std::move(striscia));
     Image2->setGeometry(rettangoloTela(strisciaStrumenti));

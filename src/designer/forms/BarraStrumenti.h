@@ -9,12 +9,12 @@ namespace zuvora {
 
 // The toolbox SSPanel1 that floats over the canvas: its buttons, the strip Image2 that drags it and the grip Image3
 // that moves the whole form. Beside it stands the form's caption, which has no frame to stand in.
-class BarraStrumenti : public QWidget {
+class BarraStrumenti : public Bersaglio {
     GroupBox GroupBox2;
 
 public:
-    // The handlers of the strip and of the grip get the mouse events there.
-    BarraStrumenti(QWidget *form, Bersaglio::Gestore striscia, Bersaglio::Gestore presa);
+    // The handlers of the strip and of the grip get the mouse events there, `altrove` those that no button takes.
+    BarraStrumenti(QWidget *form, Gestore striscia, Gestore presa, Gestore altrove);
 
     Schiera<Button> Btn;
 

@@ -26,7 +26,8 @@ Form1::Form1(const Ambiente &contesto, DisplayLayout &layout, ImmaginiQt &immagi
       m_elementi(this, layout, [this](int posto, Fase fase, QMouseEvent &e) { mouseElemento(posto, fase, e); }),
       SSPanel1(
           this, [this](Fase fase, QMouseEvent &e) { mouseStriscia(fase, e); },
-          [this](Fase fase, QMouseEvent &e) { mousePresa(fase, e); }) {
+          [this](Fase fase, QMouseEvent &e) { mousePresa(fase, e); },
+          [this](Fase fase, QMouseEvent &e) { mouseStrumenti(fase, e); }) {
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -57,7 +58,7 @@ void Form1::attivata() {
     setFocus();
     if (!m_avviso.isEmpty())
         QTimer::singleShot(0, this, [this] {
-            ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, u"Zuvora-Messaggio"_s, m_avviso);
+            ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, titoloMessaggi(), m_avviso);
         });
     valori().PercorsoTG.clear();
     proteggi([this] { vai(leggiPosizioneFinestra(cartella())); });

@@ -46,6 +46,7 @@ private:
     void mouseManiglia(int indice, Fase fase, const QMouseEvent &evento);
     void mouseStriscia(Fase fase, const QMouseEvent &evento);
     void mousePresa(Fase fase, const QMouseEvent &evento);
+    void mouseStrumenti(Fase fase, const QMouseEvent &evento);
     void premi(int posto, Qt::MouseButton bottone, QPoint cursore);
     void esegui(AzionePressione azione, int posto, QPoint cursore);
     void segui(QPoint cursore);

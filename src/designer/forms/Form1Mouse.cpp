@@ -177,8 +177,16 @@ void Form1::disponiManiglie() {
 void Form1::mouseStriscia(Fase fase, const QMouseEvent &evento) {
     if (fase == Fase::Premuto && evento.button() == Qt::LeftButton)
         m_trascinamento.prendiStrumenti(SSPanel1.posto(), cursoreDi(evento));
-    else if (fase != Fase::Premuto)
+    else
+        mouseStrumenti(fase, evento);
+}
+
+// The middle button moves a canvas larger than its screen from the toolbox too.
+void Form1::mouseStrumenti(Fase fase, const QMouseEvent &evento) {
+    if (fase != Fase::Premuto)
         mouseElemento(postoTela, fase, evento);
+    else if (evento.button() == Qt::MiddleButton && fermo())
+        m_trascinamento.prendiFinestra(pos(), cursoreDi(evento));
 }
 
 // The platform moves the form as by a title bar; where it can't, the form follows the mouse by itself.

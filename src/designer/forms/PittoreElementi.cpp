@@ -4,15 +4,12 @@
 #include "shell/disegni/Disegni.h"
 #include "shell/disegni/Tavolozza.h"
 #include "shell/host/ColorPicker.h"
+#include "shell/host/Grassetto.h"
 #include "shell/host/Twips.h"
 
 #include <QPainter>
-#include <QRawFont>
 #include <QRegularExpression>
-#include <QTextLayout>
-#include <QtEndian>
 #include <algorithm>
-#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -43,40 +40,6 @@ Qt::Alignment allineamentoQt(Allineamento a) {
     return Qt::AlignLeft;
 }
 
-// A face that is asked to be bold and isn't: the font system thickens its small letters only.
-bool grassettoApparente(const QFont &font) {
-    constexpr int posizionePeso = 4; // of the weight in the font's table OS/2
-    const QByteArray tabella = font.bold() ? QRawFont::fromFont(font).fontTable("OS/2") : QByteArray();
-    return tabella.size() >= posizionePeso + 2 &&
-           qFromBigEndian<quint16>(tabella.constData() + posizionePeso) < QFont::Bold;
-}
-
-// Text in letters that are thickened here, for one weight at every size. Lines stand as in any other text.
-void scriviIspessito(QPainter &p, const QRect &r, Qt::Alignment allineamento, bool aCapo, QString testo) {
-    constexpr double tratto = 1.0 / 24; // of the letter's height, as the font system does
-    const double spessore = p.font().pointSizeF() * puntiPerPollice / 72 * tratto;
-    testo.replace(u'\n', aCapo ? QChar(QChar::LineSeparator) : u' ');
-    QTextLayout righe(testo, p.font(), p.device());
-    QTextOption opzioni(allineamento);
-    opzioni.setWrapMode(aCapo ? QTextOption::WordWrap : QTextOption::NoWrap);
-    righe.setTextOption(opzioni);
-    QTextCharFormat formato;
-    formato.setForeground(p.pen().color());
-    formato.setTextOutline(QPen(p.pen().color(), spessore, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    righe.setFormats({{0, static_cast<int>(testo.size()), formato}});
-    const double interlinea = QFontMetricsF(p.font(), p.device()).leading();
-    double alto = -interlinea;
-    righe.beginLayout();
-    for (QTextLine riga = righe.createLine(); riga.isValid(); riga = righe.createLine()) {
-        riga.setLineWidth(r.width());
-        alto = std::ceil(alto + interlinea);
-        riga.setPosition({0, alto});
-        alto += riga.height();
-    }
-    righe.endLayout();
-    righe.draw(&p, r.topLeft() + QPointF(spessore / 2, -spessore / 2)); // it grows from its lower left
-}
-
 void etichetta(QPainter &p, const LayoutElement &e, const QRect &r, bool trasparente) {
     if (r.isEmpty())
         return;
@@ -91,12 +54,9 @@ void etichetta(QPainter &p, const LayoutElement &e, const QRect &r, bool traspar
     const QString testo = visibile(e.didascalia, r, QFontMetricsF(p.font(), p.device()));
     const bool aCapo = e.tipo != TipoElemento::Text2; // the ticker runs in one line, the labels wrap in their place
     const Qt::Alignment allineamento = allineamentoQt(e.allineamento);
-    if (grassettoApparente(p.font()))
-        scriviIspessito(p, r, allineamento, aCapo, testo);
-    else
-        p.drawText(
-            r, int(allineamento | Qt::AlignTop) | (aCapo ? Qt::TextWordWrap : Qt::TextSingleLine) | Qt::TextExpandTabs,
-            testo);
+    scriviTesto(p, r,
+                int(allineamento | Qt::AlignTop) | (aCapo ? Qt::TextWordWrap : Qt::TextSingleLine) | Qt::TextExpandTabs,
+                testo);
     p.restore();
 }
 

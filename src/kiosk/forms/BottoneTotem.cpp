@@ -1,5 +1,7 @@
 #include "kiosk/forms/BottoneTotem.h"
 
+#include "shell/host/Grassetto.h"
+
 #include <QFontMetrics>
 #include <QPaintEvent>
 #include <QPainter>
@@ -118,7 +120,7 @@ void BottoneTotem::dipingiFronte(QPainter &pittore, QSize misura) const {
     const QFont mostrato = fontPer(misura);
     pittore.setFont(mostrato);
     pittore.setPen(m_colore);
-    pittore.drawText(spazio(misura), entra(mostrato, aParole, misura) ? aParole : ovunque, m_caption.trimmed());
+    scriviTesto(pittore, spazio(misura), entra(mostrato, aParole, misura) ? aParole : ovunque, m_caption.trimmed());
 }
 
 } // namespace zuvora

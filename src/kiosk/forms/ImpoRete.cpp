@@ -14,9 +14,8 @@ const QString daImpostare = u"Percorso da impostare!"_s;
 
 } // namespace
 
-ImpoRete::ImpoRete(const Ambiente &contesto, QWidget *padre, Percorsi percorsi)
-    : Form(contesto, "ImpoRete", "Impostazione Percorso di Rete Server del Totem", {7215, 1905}, padre),
-      m_percorsi(std::move(percorsi)) {
+ImpoRete::ImpoRete(const Ambiente &contesto, QWidget *padre)
+    : Form(contesto, "ImpoRete", "Impostazione Percorso di Rete Server del Totem", {7215, 1905}, padre) {
     alClic(cbt(1), [this] { ScegliCartellaTotem(); });
     alClic(cbt(2), [this] { confermaPercorso(); });
     alClic(cbt(0), [this] { scarica(); });
@@ -33,7 +32,7 @@ void ImpoRete::attivata() {
 
 void ImpoRete::ScegliCartellaTotem() {
     // The dialog would hang on a folder that doesn't answer.
-    const auto attuale = m_percorsi.chiediEAspetta(txtshortcutdir.Caption());
+    const auto attuale = ambiente().percorsi.chiediEAspetta(txtshortcutdir.Caption());
     const QString prima = attuale.specie == Specie::Cartella ? attuale.percorso : QString();
     if (const auto scelta = ambiente().dialoghi.scegliCartella(this, u"Selezionare la cartella"_s, prima))
         txtshortcutdir.setCaption(*scelta);
@@ -48,8 +47,8 @@ void ImpoRete::confermaPercorso() {
     scarica();
 }
 
-std::optional<QString> chiediPercorsoTotem(const Ambiente &ambiente, QWidget *padre, const Percorsi &percorsi) {
-    ImpoRete form(ambiente, padre, percorsi);
+std::optional<QString> chiediPercorsoTotem(const Ambiente &ambiente, QWidget *padre) {
+    ImpoRete form(ambiente, padre);
     form.mostraModale();
     return form.confermato();
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "shell/host/Form.h"
-#include "shell/logic/Percorsi.h"
 
 #include <optional>
 
@@ -10,7 +9,7 @@ namespace zuvora {
 // Picks the kiosk's folder. It stores nothing: the caller takes what was confirmed.
 class ImpoRete : public Form {
 public:
-    ImpoRete(const Ambiente &ambiente, QWidget *padre, Percorsi percorsi = Percorsi());
+    ImpoRete(const Ambiente &ambiente, QWidget *padre);
     const std::optional<QString> &confermato() const { return m_confermato; } // nothing when it was closed otherwise
 
 protected:
@@ -20,7 +19,6 @@ private:
     void ScegliCartellaTotem();
     void confermaPercorso();
 
-    Percorsi m_percorsi;
     std::optional<QString> m_confermato;
 
     Label Label1{this, "Label1", "Percorso archivi", {120, 240, 6975, 255}};
@@ -33,6 +31,6 @@ private:
 };
 
 // Shows it; what was confirmed, or nothing.
-std::optional<QString> chiediPercorsoTotem(const Ambiente &ambiente, QWidget *padre, const Percorsi &percorsi);
+std::optional<QString> chiediPercorsoTotem(const Ambiente &ambiente, QWidget *padre);
 
 } // namespace zuvora

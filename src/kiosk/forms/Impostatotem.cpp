@@ -21,10 +21,9 @@ const QString perPulsante = u"Pulsante"_s;
 
 } // namespace
 
-Impostatotem::Impostatotem(const Ambiente &contesto, Misura &anteprima, QWidget *padre, Percorsi percorsi)
+Impostatotem::Impostatotem(const Ambiente &contesto, Misura &anteprima, QWidget *padre)
     : Form(contesto, "Impostatotem", "Imposta schermata del Totem", {7215, 7575}, padre), m_riga(cartella()),
-      m_lettura(std::async(std::launch::async, [this] { m_riga.carica(); })), m_percorsi(std::move(percorsi)),
-      m_anteprima(anteprima),
+      m_lettura(std::async(std::launch::async, [this] { m_riga.carica(); })), m_anteprima(anteprima),
       m_titolo(&GroupBox3,
                {"FontTitolo", "MisuraTitolo", "Check1Titolo", "Check2Titolo", "ColoreTitolo", "CP1Titolo", "PBTitolo"},
                u"del titolo"_s, 600, contesto.dialoghi),
@@ -135,7 +134,7 @@ ContenutoTotem Impostatotem::contenuto() {
 void Impostatotem::attivata() {
     if (std::exchange(m_guastoDetto, true) || !m_riga.guasto())
         return;
-    ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Critica, u"Zuvora-Messaggio"_s,
+    ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Critica, titoloMessaggi(),
                                   u"Le impostazioni del Totem non sono state lette per intero.\n\n"_s +
                                       m_riga.guasto()->frase());
 }
@@ -150,7 +149,7 @@ void Impostatotem::salva() {
 }
 
 void Impostatotem::scegliPercorso() {
-    if (const auto percorso = chiediPercorsoTotem(ambiente(), this, m_percorsi))
+    if (const auto percorso = chiediPercorsoTotem(ambiente(), this))
         PRT.setText(*percorso);
 }
 
@@ -182,7 +181,7 @@ void Impostatotem::apriAnteprima() {
     richiesta.testoVisibile = TestoVisibile.isChecked();
     richiesta.dataVisibile = DataVisibile.isChecked();
     richiesta.finestra = m_anteprima.width > 0 ? m_anteprima : finestraMinima;
-    LayoutTotem anteprima(ambiente(), richiesta, this, m_percorsi);
+    LayoutTotem anteprima(ambiente(), richiesta, this);
     Combo1.setListIndex(Combo1.ListCount() - 1);
     anteprima.mostraModale();
 }

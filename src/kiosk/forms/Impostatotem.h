@@ -6,7 +6,6 @@
 #include "shell/host/Form.h"
 #include "shell/host/ListBox.h"
 #include "shell/host/PictureBox.h"
-#include "shell/logic/Percorsi.h"
 
 #include <future>
 
@@ -17,7 +16,7 @@ class Impostatotem : public Form {
 public:
     // `anteprima` is the size of the last preview since the program started, 0 x 0 before the first; kept by the
     // opener.
-    Impostatotem(const Ambiente &ambiente, Misura &anteprima, QWidget *padre, Percorsi percorsi = Percorsi());
+    Impostatotem(const Ambiente &ambiente, Misura &anteprima, QWidget *padre);
 
 protected:
     void attivata() override;
@@ -44,7 +43,6 @@ private:
 
     RigaTotem m_riga;
     std::future<void> m_lettura; // of the row, while the controls are made
-    Percorsi m_percorsi;
     bool m_guastoDetto = false;
     QString BersaglioFont; // "Titolo", "LaData" or "Pulsante": the group that the font dialog serves
     Misura &m_anteprima;   // AnteprimaLarghezza, AnteprimaAltezza

@@ -12,7 +12,6 @@ namespace {
 
 constexpr int primaRiga = 480; // twips
 constexpr int passoRighe = 360;
-constexpr int scartoNomi = 45; // brings the names to the height of the texts in the boxes
 const QString titoloConferma = u"Conferma"_s;
 
 // The n-th line's place in a column.
@@ -39,9 +38,9 @@ ColonnaServizi testi(const Schiera<Edit> &caselle) {
 
 } // namespace
 
-Impostazione::Impostazione(const Ambiente &contesto, const QString &cartellaTotem, QWidget *padre, Percorsi percorsi)
+Impostazione::Impostazione(const Ambiente &contesto, const QString &cartellaTotem, QWidget *padre)
     : Form(contesto, "Impostazione", "Impostazione", {6975, 8175}, padre), m_cartellaTotem(cartellaTotem),
-      m_percorsi(std::move(percorsi)), Label2(colonna<Label>(this, "Label2", {120, scartoNomi, 2655, 255})),
+      Label2(colonna<Label>(this, "Label2", {120, 0, 2655, 285})),
       Modifnr(colonna<Edit>(this, "Modifnr", {2880, 0, 975, 285})),
       Na1(colonna<Button>(this, "Na1", {3930, 0, 855, 285}, "Esegui")),
       NumIniz(colonna<Edit>(this, "NumIniz", {5040, 0, 855, 285})) {
@@ -55,6 +54,7 @@ Impostazione::Impostazione(const Ambiente &contesto, const QString &cartellaTote
         bottoneDi(NumIniz(i), Salvain);
     }
     alClic(Na1, [this](int servizio) { modificaNumero(servizio); });
+    Salvain.setAccessibleName(u"Esegui, tutti i numeri iniziali"_s);
     alClic(Salvain, [this] { impostaIniziali(); });
     alClic(PB1_0, [this] { scarica(); });
     leggi();
@@ -64,7 +64,7 @@ Impostazione::Impostazione(const Ambiente &contesto, const QString &cartellaTote
 // meanwhile.
 template <class F> void Impostazione::conTotem(F lavoro) {
     const AttesaTotem attesa(m_occupata);
-    const std::function<bool()> domanda = [lavoro, percorsi = m_percorsi, cartellaTotem = m_cartellaTotem] {
+    const std::function<bool()> domanda = [lavoro, percorsi = ambiente().percorsi, cartellaTotem = m_cartellaTotem] {
         lavoro(fileTotem(percorsi, cartellaTotem, nomi::archivioTotem));
         return true;
     };
@@ -82,6 +82,7 @@ void Impostazione::leggi() {
         const auto posto = static_cast<std::size_t>(i - 1);
         const QString servizio = nomi[posto].isEmpty() ? u"Riga %1"_s.arg(i) : nomi[posto];
         Label2(i).setCaption(nomi[posto]);
+        Label2(i).setAlignment(Qt::AlignLeft | Qt::AlignVCenter); // as the texts in the boxes stand
         Modifnr(i).setText((*numeri)[0][posto]);
         NumIniz(i).setText((*numeri)[1][posto]);
         Modifnr(i).setAccessibleName(u"Numero attuale, "_s + servizio);

@@ -2,7 +2,6 @@
 
 #include "kiosk/logic/Numerazione.h"
 #include "shell/host/Form.h"
-#include "shell/logic/Percorsi.h"
 
 namespace zuvora {
 
@@ -10,8 +9,7 @@ namespace zuvora {
 class Impostazione : public Form {
 public:
     // `cartellaTotem` is the kiosk's folder as the row has it.
-    Impostazione(const Ambiente &ambiente, const QString &cartellaTotem, QWidget *padre,
-                 Percorsi percorsi = Percorsi());
+    Impostazione(const Ambiente &ambiente, const QString &cartellaTotem, QWidget *padre);
 
 protected:
     bool puoScaricarsi() override { return !m_occupata; }
@@ -23,7 +21,6 @@ private:
     void impostaIniziali();
 
     QString m_cartellaTotem;
-    Percorsi m_percorsi;
     bool m_occupata = false; // the kiosk is being asked
 
     Label Label1_0{this, "Label1(0)", "Servizio", {120, 120, 2655, 255}};

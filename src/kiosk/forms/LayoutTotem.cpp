@@ -45,11 +45,9 @@ void scrivi(Label &etichetta, const QString &testo, const StileTotem &stile) {
 
 } // namespace
 
-LayoutTotem::LayoutTotem(const Ambiente &contesto, const RichiestaAnteprima &richiesta, QWidget *padre,
-                         Percorsi percorsi)
+LayoutTotem::LayoutTotem(const Ambiente &contesto, const RichiestaAnteprima &richiesta, QWidget *padre)
     : Form(contesto, "LayoutTotem", "Impostazione Layout Totem", richiesta.finestra, padre), m_richiesta(richiesta),
-      m_aspetto(leggiAspetto(cartella())), m_percorsi(std::move(percorsi)),
-      Bottone("Bottone", 1, serviziMassimi, [this](int i, const char *nome) {
+      m_aspetto(leggiAspetto(cartella())), Bottone("Bottone", 1, serviziMassimi, [this](int i, const char *nome) {
           return std::make_unique<BottoneTotem>(this, nome, u"Pulsante %1"_s.arg(i), fuoriVista);
       }) {
     for (const auto &[indice, bottone] : Bottone)
@@ -99,8 +97,9 @@ void LayoutTotem::DisponiPulsanti(int schermo) {
 
 // False when the picture ends the arrangement. `intanto` runs while it is being decoded.
 bool LayoutTotem::mostraSfondo(const std::function<void()> &intanto) {
-    const SfondoTotem sfondo = leggiSfondo(m_percorsi, m_aspetto.sfondo, pixelDa(m_richiesta.finestra), intanto);
-    avverti(fraseSfondo(sfondo.esito, m_aspetto.sfondo));
+    const SfondoTotem sfondo =
+        leggiSfondo(ambiente().percorsi, m_aspetto.sfondo, pixelDa(m_richiesta.finestra), intanto);
+    avverti(fraseSfondo(sfondo, m_aspetto.sfondo));
     m_sfondo = QPixmap::fromImage(sfondo.immagine);
     m_sfondo.setDevicePixelRatio(1);
     return !fermaDisposizione(sfondo.esito);
@@ -131,7 +130,8 @@ void LayoutTotem::componiPulsanti() {
             bottone->componi();
     }
     if (!m_aspetto.rifiutati.isEmpty())
-        avverti(u"Non sono numeri, e valgono quelli consueti: "_s + m_aspetto.rifiutati.join(u", "_s) + u'.');
+        avverti(u"Valori che non si possono usare, e valgono quelli consueti: "_s + m_aspetto.rifiutati.join(u", "_s) +
+                u'.');
 }
 
 void LayoutTotem::avverti(const QString &frase) {

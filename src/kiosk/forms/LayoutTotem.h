@@ -4,7 +4,6 @@
 #include "kiosk/logic/Aspetto.h"
 #include "kiosk/logic/Disposizione.h"
 #include "shell/host/Form.h"
-#include "shell/logic/Percorsi.h"
 
 #include <QPixmap>
 #include <optional>
@@ -23,8 +22,7 @@ struct RichiestaAnteprima {
 // The preview of the kiosk's screen. It stores nothing, and its buttons do nothing.
 class LayoutTotem : public Form {
 public:
-    LayoutTotem(const Ambiente &ambiente, const RichiestaAnteprima &richiesta, QWidget *padre,
-                Percorsi percorsi = Percorsi());
+    LayoutTotem(const Ambiente &ambiente, const RichiestaAnteprima &richiesta, QWidget *padre);
 
 protected:
     void keyPressEvent(QKeyEvent *e) override;
@@ -44,7 +42,6 @@ private:
 
     RichiestaAnteprima m_richiesta;
     AspettoTotem m_aspetto;
-    Percorsi m_percorsi;
     QPixmap m_sfondo; // at its own size from the top left corner
     QStringList m_avvisi;
     QPoint m_presa; // of the press that moves the window, within its frame

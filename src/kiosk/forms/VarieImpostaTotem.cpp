@@ -14,16 +14,16 @@ namespace zuvora {
 namespace {
 
 constexpr int progettoEtichetta = 1;
-const QString titoloMessaggi = u"Zuvora-Messaggio"_s;
 
 } // namespace
 
-VarieImpostaTotem::VarieImpostaTotem(const Ambiente &contesto, QWidget *padre, Percorsi percorsi,
-                                     ApriEtichette etichette)
+VarieImpostaTotem::VarieImpostaTotem(const Ambiente &contesto, QWidget *padre, ApriEtichette etichette)
     : Form(contesto, "VarieImpostaTotem", "Varie impostazioni del Totem....", {6015, 2265}, padre),
-      m_apriEtichette(std::move(etichette)), m_percorsi(std::move(percorsi)) {
+      m_apriEtichette(std::move(etichette)) {
     if (!m_apriEtichette)
-        m_apriEtichette = [this] { return creaEtichette(ambiente().piattaforma.cartellaEseguibile()); };
+        m_apriEtichette = [this] {
+            return creaEtichette(ambiente().piattaforma.cartellaEseguibile(), ambiente().dialoghi);
+        };
     PRT.setText(leggiRiga(cartella(), tabellaTotem.toString()).testo(colonna(CampoTotem::PercorsoReteTotem).nome));
     PRT.setSolaLettura(u"Il percorso si cambia in Imposta schermata Totem."_s);
     PRT.setFocusPolicy(Qt::ClickFocus);
@@ -35,7 +35,7 @@ VarieImpostaTotem::VarieImpostaTotem(const Ambiente &contesto, QWidget *padre, P
 void VarieImpostaTotem::attivata() {
     m_inProva = true;
     Label2.setCaption(u"Verifica del Totem in corso..."_s);
-    provaTotem(m_percorsi, PRT.text(), *this, [this, prova = ++m_prova](bool raggiungibile) {
+    provaTotem(ambiente().percorsi, PRT.text(), *this, [this, prova = ++m_prova](bool raggiungibile) {
         if (prova == m_prova)
             proteggi([&] { concludiProva(raggiungibile); });
     });
@@ -46,7 +46,7 @@ void VarieImpostaTotem::concludiProva(bool raggiungibile) {
     Label2.setCaption({});
     const auto azione = std::exchange(m_dopoLaProva, nullptr);
     if (!raggiungibile) {
-        ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, titoloMessaggi,
+        ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, titoloMessaggi(),
                                       u"Percorso TOTEM non impostato o TOTEM non raggiungibile !"_s);
         scarica();
     } else if (azione) {
@@ -54,11 +54,21 @@ void VarieImpostaTotem::concludiProva(bool raggiungibile) {
     }
 }
 
-void VarieImpostaTotem::conTotem(std::function<void()> azione) {
+void VarieImpostaTotem::conTotem(const std::function<void()> &azione) {
+    const auto sorvegliata = [this, azione] {
+        try {
+            azione();
+        } catch (const EngineError &e) {
+            if (!percorsoMancante(e.numero()))
+                throw;
+            m_dopoLaProva = [e] { throw e; }; // told when the kiosk turns out to be there
+            attivata();
+        }
+    };
     if (m_inProva)
-        m_dopoLaProva = std::move(azione);
+        m_dopoLaProva = sorvegliata;
     else
-        azione();
+        sorvegliata();
 }
 
 void VarieImpostaTotem::ImpostaStampa() {
@@ -69,7 +79,7 @@ void VarieImpostaTotem::ImpostaStampa() {
     Ticket ticket;
     {
         const AttesaTotem attesa(m_occupata);
-        const std::function<Ticket()> lettura = [percorsi = m_percorsi, cartellaTotem = PRT.text()] {
+        const std::function<Ticket()> lettura = [percorsi = ambiente().percorsi, cartellaTotem = PRT.text()] {
             return Ticket{variabiliTicket(fileTotem(percorsi, cartellaTotem, nomi::archivioTotem)),
                           fileTotem(percorsi, cartellaTotem, nomi::biglietto)};
         };
@@ -79,13 +89,14 @@ void VarieImpostaTotem::ImpostaStampa() {
         auto [etichette, motivo] = m_apriEtichette();
         LL9 = std::move(etichette);
         if (LL9 == nullptr) {
-            ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, titoloMessaggi, motivo);
+            ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, titoloMessaggi(), motivo);
             return;
         }
     }
     LL9->LlDefineVariableStart();
     DefinisciVariabiliTicket(ticket.variabili);
     LL9->LlDefineLayout(this, u"Impostazione Modulo"_s, progettoEtichetta, ticket.file);
+    attivata(); // the designer is no form of the program's, but the return from it is one
 }
 
 void VarieImpostaTotem::DefinisciVariabiliTicket(const QList<VariabileTicket> &variabili) {
@@ -94,7 +105,7 @@ void VarieImpostaTotem::DefinisciVariabiliTicket(const QList<VariabileTicket> &v
 }
 
 void VarieImpostaTotem::apriNumerazione() {
-    Impostazione(ambiente(), PRT.text(), this, m_percorsi).mostraModale();
+    Impostazione(ambiente(), PRT.text(), this).mostraModale();
 }
 
 } // namespace zuvora

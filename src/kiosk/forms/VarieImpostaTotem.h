@@ -3,7 +3,6 @@
 #include "kiosk/logic/VariabiliTicket.h"
 #include "shell/host/ComponenteEtichette.h"
 #include "shell/host/Form.h"
-#include "shell/logic/Percorsi.h"
 
 #include <functional>
 
@@ -17,8 +16,7 @@ using ApriEtichette = std::function<EsitoComponenteEtichette()>;
 class VarieImpostaTotem : public Form {
 public:
     // Without `etichette` the component beside the executable serves.
-    VarieImpostaTotem(const Ambiente &ambiente, QWidget *padre, Percorsi percorsi = Percorsi(),
-                      ApriEtichette etichette = {});
+    VarieImpostaTotem(const Ambiente &ambiente, QWidget *padre, ApriEtichette etichette = {});
 
 protected:
     void attivata() override;
@@ -26,15 +24,14 @@ protected:
 
 private:
     void concludiProva(bool raggiungibile);
-    // Now, or once the test under way has passed.
-    void conTotem(std::function<void()> azione);
+    // Now, or once the test under way has passed. A kiosk that went away since the test is tested again.
+    void conTotem(const std::function<void()> &azione);
     void ImpostaStampa();
     void DefinisciVariabiliTicket(const QList<VariabileTicket> &variabili);
     void apriNumerazione();
 
     ApriEtichette m_apriEtichette;
     std::unique_ptr<Etichette> LL9;
-    Percorsi m_percorsi;
     int m_prova = 0;         // number of the test under way or last done
     bool m_inProva = true;   // nothing is done before the first test has passed
     bool m_occupata = false; // the kiosk is being asked

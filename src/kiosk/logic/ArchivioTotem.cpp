@@ -26,13 +26,17 @@ QString fileTotem(const Percorsi &percorsi, const QString &cartellaTotem, QStrin
     return esame.percorso.isEmpty() ? percorsi.nativo(scritto).value_or(scritto) : esame.percorso;
 }
 
+bool percorsoMancante(Errore numero) {
+    return numero == Errore::PercorsoNonTrovato || numero == Errore::PercorsoNonValido ||
+           numero == Errore::FileNonTrovato;
+}
+
 bool totemRaggiungibile(const QString &archivio) {
     try {
         Database totem = Database::OpenDatabase(archivio, attesaSblocco);
         totem.Execute(u"Select * from [DatiDaStampareIMP]"_s);
     } catch (const EngineError &e) {
-        return e.numero() != Errore::PercorsoNonValido && e.numero() != Errore::FileNonTrovato &&
-               e.numero() != Errore::PercorsoNonTrovato;
+        return !percorsoMancante(e.numero());
     }
     return true;
 }

@@ -14,6 +14,9 @@ class Percorsi;
 // The native path of a file in the kiosk's folder, whether it is there or not. Asks the disk, and may block.
 QString fileTotem(const Percorsi &percorsi, const QString &cartellaTotem, QStringView nome);
 
+// True for the failures that mean a database's folder or file isn't there.
+bool percorsoMancante(Errore numero);
+
 // Whether the kiosk's database can be opened: false when its folder or file is missing. Any other failure (locked,
 // damaged, foreign) counts as reached: the forms that use the file tell it. Blocks as long as the disk does.
 bool totemRaggiungibile(const QString &archivio);

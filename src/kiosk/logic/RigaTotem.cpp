@@ -1,5 +1,6 @@
 #include "kiosk/logic/RigaTotem.h"
 
+#include "kiosk/logic/ArchivioTotem.h"
 #include "kiosk/logic/Disposizione.h"
 #include "shell/store/Database.h"
 #include "shell/store/Riga.h"
@@ -8,11 +9,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 namespace {
-
-bool percorsoMancante(Errore numero) {
-    return numero == Errore::PercorsoNonTrovato || numero == Errore::PercorsoNonValido ||
-           numero == Errore::FileNonTrovato;
-}
 
 // The index of the stored screen as text; nothing for Null and for any other value.
 QString schermoDi(const Valore &valore) {

@@ -21,11 +21,11 @@ QString cartellaDi(const QString &scritto) {
 
 SfondoTotem decodifica(const QString &percorso, const QSize &finestra) {
     if (!QFileInfo(percorso).isReadable())
-        return {EsitoSfondo::Inaccessibile, {}};
-    QImage immagine = leggiRitaglio(percorso, finestra);
-    if (immagine.isNull())
-        return {EsitoSfondo::NonLeggibile, {}};
-    return {EsitoSfondo::Caricato, std::move(immagine)};
+        return {EsitoSfondo::Inaccessibile, {}, {}};
+    ImmagineLetta letta = leggiRitaglio(percorso, finestra);
+    if (letta.immagine.isNull())
+        return {EsitoSfondo::NonLeggibile, {}, letta.motivo};
+    return {EsitoSfondo::Caricato, std::move(letta.immagine), {}};
 }
 
 } // namespace
@@ -36,29 +36,30 @@ SfondoTotem leggiSfondo(const Percorsi &percorsi, const QString &scritto, const 
         return {};
     const auto esame = percorsi.chiediEAspetta(scritto);
     if (esame.muto)
-        return {EsitoSfondo::Inaccessibile, {}};
+        return {EsitoSfondo::Inaccessibile, {}, {}};
     if (esame.specie == Specie::Manca) {
         const auto cartella = percorsi.chiediEAspetta(cartellaDi(scritto));
         const bool esiste = cartella.specie == Specie::Cartella;
-        return {esiste ? EsitoSfondo::Mancante : EsitoSfondo::Inaccessibile, {}};
+        return {esiste ? EsitoSfondo::Mancante : EsitoSfondo::Inaccessibile, {}, {}};
     }
     if (esame.specie != Specie::File)
-        return {EsitoSfondo::Inaccessibile, {}};
+        return {EsitoSfondo::Inaccessibile, {}, {}};
     const std::function<SfondoTotem()> lettura = [=] { return decodifica(esame.percorso, finestra); };
     QObject attesa; // which runs the events
     if (intanto)
         QTimer::singleShot(0, &attesa, intanto);
-    return chiediEAspetta(lettura, attesaImmagine).value_or(SfondoTotem{EsitoSfondo::Inaccessibile, {}});
+    return chiediEAspetta(lettura, attesaImmagine).value_or(SfondoTotem{EsitoSfondo::Inaccessibile, {}, {}});
 }
 
-QString fraseSfondo(EsitoSfondo esito, const QString &scritto) {
-    switch (esito) {
+QString fraseSfondo(const SfondoTotem &sfondo, const QString &scritto) {
+    switch (sfondo.esito) {
     case EsitoSfondo::Inaccessibile:
         return u"Lo sfondo non è raggiungibile e non viene mostrato: "_s + scritto;
     case EsitoSfondo::Mancante:
         return u"Lo sfondo non esiste più: la schermata non è stata disposta. File: "_s + scritto;
     case EsitoSfondo::NonLeggibile:
-        return u"Lo sfondo non è un'immagine leggibile: la schermata non è stata disposta. File: "_s + scritto;
+        return u"Lo sfondo non si può mostrare: la schermata non è stata disposta. %1 File: %2"_s.arg(sfondo.motivo,
+                                                                                                      scritto);
     case EsitoSfondo::Nessuno:
     case EsitoSfondo::Caricato:
         break;

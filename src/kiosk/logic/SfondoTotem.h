@@ -13,12 +13,13 @@ enum class EsitoSfondo {
     Caricato,
     Inaccessibile, // no such folder, or not to be opened: the screen goes without it
     Mancante,      // no such file in the folder: the screen isn't arranged
-    NonLeggibile   // no picture: the same
+    NonLeggibile   // no picture that can be read: the same
 };
 
 struct SfondoTotem {
     EsitoSfondo esito = EsitoSfondo::Nessuno;
     QImage immagine; // at its own size, as much of it as the window shows
+    QString motivo;  // of NonLeggibile, an Italian sentence
 };
 
 // Reads the background picture for a window of so many pixels. `scritto` is the path as the row has it, empty for none.
@@ -28,7 +29,7 @@ SfondoTotem leggiSfondo(const Percorsi &percorsi, const QString &scritto, const 
                         const std::function<void()> &intanto = {});
 
 // What the user is told: empty when there is nothing to tell.
-QString fraseSfondo(EsitoSfondo esito, const QString &scritto);
+QString fraseSfondo(const SfondoTotem &sfondo, const QString &scritto);
 // True when title, date and buttons stay as they were.
 bool fermaDisposizione(EsitoSfondo esito);
 

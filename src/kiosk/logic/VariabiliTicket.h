@@ -16,7 +16,7 @@ struct VariabileTicket {
 };
 
 // The variable for a column of that name and declared type, with the first record's value as sample contents. Null
-// gives an empty text, whatever the column's type; an amount of money is a text.
+// gives an empty text, whatever the column's type; an amount of money, a decimal and a byte are texts.
 VariabileTicket variabileDa(const QString &nome, const QString &tipoDichiarato, const Valore &valore);
 
 // One variable a column of the kiosk's table, in order. Without any record all of them are texts without contents.

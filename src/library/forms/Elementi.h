@@ -39,7 +39,7 @@ private:
                               {2, "Elementi", {2400, 240, 1095, 255}}}};
     GruppoRadio m_gruppo{RB1};
     Grid grid{this, "grid", {3840, 120, 3660, 5460}, {{"File", "File", 0}}};
-    AnteprimaImmagine Image1{this, "Image1", {120, 2040, 3615, 3495}};
+    AnteprimaImmagine Image1{this, "Image1", {120, 2040, 3615, 3495}, ambiente().percorsi};
     Button PushButton2{this,
                        "PushButton2",
                        "&Aggiungi in archivio e copia il file nella cartella di destinazione",

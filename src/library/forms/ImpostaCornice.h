@@ -38,7 +38,7 @@ private:
     GruppoRadio m_gruppo{RB1};
     Label Label3{this, "Label3", "Immagini Decorazioni", {4080, 840, 2415, 255}};
     Grid grid{this, "grid", {4080, 1080, 4740, 5220}, {{"File", "File", 0}}};
-    AnteprimaImmagine Image1{this, "Image1", {120, 2040, 3855, 2895}};
+    AnteprimaImmagine Image1{this, "Image1", {120, 2040, 3855, 2895}, ambiente().percorsi};
     CheckBox SecondoPiano{this, "SecondoPiano", " Porta in secondo piano", {840, 5520, 2295, 375}};
     Schiera<Button> Btn{
         this, "Btn", {{0, "&Applica", {840, 6000, 1215, 330}}, {1, "C&hiudi", {2040, 6000, 1215, 330}}}};

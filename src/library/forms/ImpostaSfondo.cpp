@@ -1,7 +1,6 @@
 #include "library/forms/ImpostaSfondo.h"
 
 #include "shell/host/ImmagineIllegibile.h"
-#include "shell/logic/Percorsi.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -53,7 +52,7 @@ void ImpostaSfondo::imposta() {
         return;
     if (!SfondoScelto.isEmpty() && avvisaSeIllegibile(ambiente(), SfondoScelto, this))
         return;
-    if (m_uso.imposta(totem ? Percorsi().diRete(SfondoScelto) : SfondoScelto))
+    if (m_uso.imposta(totem ? ambiente().percorsi.diRete(SfondoScelto) : SfondoScelto))
         PushButton1.spunta();
     else
         avvisa(u"Impossibile caricare l'immagine scelta !"_s, u"Lo sfondo resta quello di prima."_s);

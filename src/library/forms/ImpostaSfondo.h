@@ -43,7 +43,7 @@ private:
     Button Command5{this, "Command5", "C&hiudi", {6360, 2280, 1575, 330}};
     // The heading stands where the picture comes, until there is one.
     Label Label1{this, "Label1", "Anteprima Foto", {3840, 5880, 3015, 495}};
-    AnteprimaImmagine Image1{this, "Image1", {120, 2940, 7935, 5895}};
+    AnteprimaImmagine Image1{this, "Image1", {120, 2940, 7935, 5895}, ambiente().percorsi};
 };
 
 // The form for the background of the open layout.

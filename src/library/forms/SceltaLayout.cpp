@@ -116,7 +116,7 @@ void SceltaLayout::riempi() {
 
 void SceltaLayout::attivata() {
     if (const QString avviso = std::exchange(m_avviso, {}); !avviso.isEmpty())
-        ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, u"Zuvora-Messaggio"_s, avviso);
+        ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, titoloMessaggi(), avviso);
 }
 
 // The name of a line acts like its radio button; a double click opens the layout as well.

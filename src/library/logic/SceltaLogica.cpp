@@ -1,8 +1,8 @@
 #include "library/logic/SceltaLogica.h"
 
 #include "shell/logic/Numeri.h"
-#include "shell/store/Data.h"
 #include "shell/store/EngineError.h"
+#include "shell/store/Scrittura.h"
 
 #include <QStringList>
 #include <cmath>
@@ -98,10 +98,8 @@ Messaggio salvaLinee(Recordset &descrizioni, const LineeLayout &linee) {
         for (const LineaLayout &linea : linee) {
             if (descrizioni.Eof())
                 break;
-            descrizioni.Edit();
-            descrizioni[u"LayoutNome"].SetValue(linea.nome);
-            descrizioni[u"LayoutDescrizione"].SetValue(linea.descrizione);
-            descrizioni.Update();
+            scriviRecord(descrizioni, Record::Corrente,
+                         {{u"LayoutNome"_s, linea.nome}, {u"LayoutDescrizione"_s, linea.descrizione}});
             ++scritte;
             descrizioni.MoveNext();
         }
@@ -120,11 +118,7 @@ EsitoPredefinito impostaPredefinito(const QString &cartella, std::optional<int> 
         return {false, messaggioNessunaLinea()};
     if (*linea == 0)
         return {false, {u"Selezionare Layout 1-10 !"_s, u"Impossibile impostare ilLayout Base come Predefinito !"_s}};
-    Data dato;
-    Recordset &configurazione = apri(dato, cartella, u"Configurazione"_s);
-    configurazione.Edit();
-    configurazione[u"qualelayout"].SetValue(qlonglong{*linea});
-    configurazione.Update();
+    scriviRiga(cartella, u"Configurazione"_s, {{u"qualelayout"_s, qlonglong{*linea}}});
     return {true, {u"Layout Predefinito memorizzato !"_s, {}}};
 }
 

@@ -45,6 +45,7 @@ void PaginaRisoluzioni::scegli(int indice) {
     }
     m_risoluzione = indice + 1;
     m_scelta(m_risoluzione);
+    RB1(indice).spunta();
 }
 
 void PaginaRisoluzioni::riempi() {

@@ -58,6 +58,7 @@ void SplasModule::disponi() {
         auto &bottone = m_menu.emplace_back(std::make_unique<Button>(
             &GroupBox3, voce.nome, voce.didascalia, Posto{leftVoce, voce.top, larghezzaVoce, altezzaVoce}));
         bottone->allineaASinistra();
+        bottone->setDisegno(voce.disegno);
         alClic(*bottone, [this, &voce] { premi(voce); });
     }
     QList<Button *> menu{&IlMenu};
@@ -155,6 +156,7 @@ void SplasModule::salvaAvvioAutomatico() {
         cbAutoaccensioneFE.setChecked(!accesa); // the box goes on telling what is stored
         throw;
     }
+    cbAutoaccensioneFE.spunta();
 }
 
 void SplasModule::mostraNominativo(const QString &nominativo) {

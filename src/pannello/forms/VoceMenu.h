@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/disegni/Disegni.h"
 #include "shell/host/Apertura.h"
 #include "shell/host/Pagina.h"
 
@@ -19,6 +20,7 @@ struct VoceMenu {
     const char *nome; // objectName
     int top;          // twips, inside the menu
     const char *didascalia;
+    Disegno disegno; // where it finds room before the caption
     std::optional<QStringView> titolo;
     bool soloPrincipale; // no other installation may press it
     std::variant<ApriForm, ApriPagina> apri;

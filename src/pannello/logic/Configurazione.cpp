@@ -30,7 +30,6 @@ StatoAvvio leggiStatoAvvio(const QString &cartella) {
     stato.risoluzione = risoluzioneDi(riga[u"MisuraFormWH"]);
     stato.nominativo = riga.testo(u"Nominativo", u"Non definito"_s);
     stato.autoAccensione = numeroDi(riga[u"TempoChiamata"]) == 1;
-    stato.usaDinDon = riga.vero(u"PlayDinDon");
     return stato;
 }
 

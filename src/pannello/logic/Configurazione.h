@@ -13,7 +13,6 @@ struct StatoAvvio {
     int risoluzione = 0; // 1 to 4, 0 when none of them is stored
     QString nominativo;  // "Non definito" for Null
     bool autoAccensione = false;
-    bool usaDinDon = false;
 };
 
 // Reads the version row and the settings row. A missing row throws EngineError (3021).

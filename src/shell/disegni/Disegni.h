@@ -43,6 +43,15 @@ enum class Disegno : unsigned char {
     Riuscita,
     SpostaFinestra, // grip that moves the whole designer
     Presa,          // dots of a drag strip
+    // Entries of the main panel's menu that no tool stands for, 32 x 32
+    Rete,
+    Riquadri,
+    Campana,
+    Nota,
+    Parlato,
+    Radio,
+    Totem,
+    Ingranaggio,
     // Illustrations, each with its own shape
     Zuvora,     // application icon and logo, 64 x 64
     SalaAttesa, // waiting room beside a message, 230 x 300

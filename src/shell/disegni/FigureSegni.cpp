@@ -65,12 +65,77 @@ constexpr Strato presa[] = {
      TestoTenue},
 };
 
+constexpr Strato rete[] = {
+    {"M3.5 4h14a1.5 1.5 0 0 1 1.5 1.5v9a1.5 1.5 0 0 1 -1.5 1.5h-14a1.5 1.5 0 0 1 -1.5 -1.5v-9a1.5 1.5 0 0 1 1.5 -1.5z",
+     PrimarioChiaro, Primario, 2.5},
+    {"M10.5 17v9.5h10", Nessuna, Evidenza, 3},
+    {"M22 12h7v17h-7z", Accento, Primario, 2.5},
+};
+
+constexpr Strato riquadri[] = {
+    {"M3 5h26v22h-26z", Bianco, Primario, 2.5},
+    {"M6 8h12v9h-12z", Accento},
+    {"M20 8h6v9h-6z", Evidenza},
+    {"M6 19h20v5h-20z", Primario},
+};
+
+constexpr Strato campana[] = {
+    {"M16 2.5v2", Nessuna, Primario, 3},
+    {"M16 4.5a9 9 0 0 1 9 9v6.5l3 4h-24l3-4v-6.5a9 9 0 0 1 9-9z", Evidenza, Primario, 2.5},
+    {"M12 26.500a4 4 0 0 0 8 0z", Primario},
+};
+
+constexpr Strato nota[] = {
+    {"M11 24v-18l16-3v17.500", Nessuna, Primario, 3},
+    {"M3 24.5a4 4 0 1 1 8 0a4 4 0 1 1 -8 0zM19 21a4 4 0 1 1 8 0a4 4 0 1 1 -8 0z", Accento, Primario},
+};
+
+constexpr Strato parlato[] = {
+    {"M4.5 3.5h23a2.5 2.5 0 0 1 2.5 2.5v14a2.5 2.5 0 0 1 -2.5 2.5h-11.500l-7 7v-7h-4.5a2.5 2.5 0 0 1 -2.5 -2.5v-14a2.5 "
+     "2.5 0 0 1 2.5 -2.5z",
+     Accento, Primario},
+    {"M9 11v4M14 8v10M19 10v6M24 12v2", Nessuna, Bianco, 2.8},
+};
+
+constexpr Strato radio[] = {
+    {"M9 11l16-7.500", Nessuna, Primario, 2.5},
+    {"M4 11h24a2 2 0 0 1 2 2v13a2 2 0 0 1 -2 2h-24a2 2 0 0 1 -2 -2v-13a2 2 0 0 1 2 -2z", Evidenza, Primario},
+    {"M6 19.5a4.5 4.5 0 1 1 9 0a4.5 4.5 0 1 1 -9 0z", Bianco, Primario, 2.5},
+    {"M19 17h7M19 22h7", Nessuna, Primario, 2.5},
+};
+
+constexpr Strato totem[] = {
+    {"M9 2h14a2 2 0 0 1 2 2v17h-18v-17a2 2 0 0 1 2 -2z", Primario, Primario},
+    {"M10 5h12v8h-12z", AccentoChiaro},
+    {"M11 17h10", Nessuna, Bianco, 2.5},
+    {"M13 21h6v8h-6z", TestoTenue},
+    {"M8 29h16", Nessuna, Primario, 2.5},
+};
+
+constexpr Strato ingranaggio[] = {
+    {"M16 3v26M3 16h26M6.8 6.8l18.400 18.400M6.8 25.2l18.400-18.400", Nessuna, Primario, 4},
+    {"M8 16a8 8 0 1 1 16 0a8 8 0 1 1 -16 0z", Primario},
+    {"M12 16a4 4 0 1 1 8 0a4 4 0 1 1 -8 0z", Bianco},
+};
+
 constexpr std::array figure{
-    Figura{Disegno::Pulisci, 32, 32, pulisci},   Figura{Disegno::Cartella, 32, 32, cartella},
-    Figura{Disegno::Unita, 32, 32, unita},       Figura{Disegno::FileImmagine, 32, 32, fileImmagine},
-    Figura{Disegno::Domanda, 32, 32, domanda},   Figura{Disegno::Avviso, 32, 32, avviso},
-    Figura{Disegno::Riuscita, 32, 32, riuscita}, Figura{Disegno::SpostaFinestra, 32, 32, spostaFinestra},
+    Figura{Disegno::Pulisci, 32, 32, pulisci},
+    Figura{Disegno::Cartella, 32, 32, cartella},
+    Figura{Disegno::Unita, 32, 32, unita},
+    Figura{Disegno::FileImmagine, 32, 32, fileImmagine},
+    Figura{Disegno::Domanda, 32, 32, domanda},
+    Figura{Disegno::Avviso, 32, 32, avviso},
+    Figura{Disegno::Riuscita, 32, 32, riuscita},
+    Figura{Disegno::SpostaFinestra, 32, 32, spostaFinestra},
     Figura{Disegno::Presa, 32, 32, presa},
+    Figura{Disegno::Rete, 32, 32, rete},
+    Figura{Disegno::Riquadri, 32, 32, riquadri},
+    Figura{Disegno::Campana, 32, 32, campana},
+    Figura{Disegno::Nota, 32, 32, nota},
+    Figura{Disegno::Parlato, 32, 32, parlato},
+    Figura{Disegno::Radio, 32, 32, radio},
+    Figura{Disegno::Totem, 32, 32, totem},
+    Figura{Disegno::Ingranaggio, 32, 32, ingranaggio},
 };
 
 } // namespace

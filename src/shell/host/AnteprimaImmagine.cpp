@@ -1,25 +1,21 @@
 #include "shell/host/AnteprimaImmagine.h"
 
+#include "shell/logic/Domanda.h"
 #include "shell/store/EngineError.h"
 
 #include <QFileInfo>
 #include <QPainter>
-#include <QPromise>
-#include <QThreadPool>
+#include <chrono>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 namespace {
 
-// Pixels and bytes up to which a picture is decoded within the time that the eye takes for at once.
-constexpr qint64 puntiSubito = 3'000'000;
-constexpr qint64 byteSubito = 4 * 1024 * 1024;
-
-bool eGrande(const QString &percorso) {
-    const QSize misura = misuraImmagine(percorso);
-    return qint64{misura.width()} * misura.height() > puntiSubito || QFileInfo(percorso).size() > byteSubito;
-}
+// The picture that stands there stays for that long: most follow at once.
+constexpr std::chrono::milliseconds indugio{150};
+// A large picture on a slow disk takes its time; one that is not here by then is given up.
+constexpr std::chrono::seconds attesaImmagine{60};
 
 QPixmap scacchiera(const QPalette &palette) {
     constexpr int casella = 8; // pixels
@@ -33,12 +29,13 @@ QPixmap scacchiera(const QPalette &palette) {
 
 } // namespace
 
-AnteprimaImmagine::AnteprimaImmagine(QWidget *padre, const char *nome, const Posto &posto)
-    : PictureBox(padre, nome, posto) {
+AnteprimaImmagine::AnteprimaImmagine(QWidget *padre, const char *nome, const Posto &posto, Percorsi percorsi)
+    : PictureBox(padre, nome, posto), m_percorsi(std::move(percorsi)) {
     setCornice(true);
-    connect(&m_attesa, &QFutureWatcherBase::finished, this, [this] {
-        if (m_stato == Stato::InCorso)
-            concludi(m_attesa.result());
+    m_indugio.setSingleShot(true);
+    connect(&m_indugio, &QTimer::timeout, this, [this] {
+        setTesto(u"Caricamento dell'immagine..."_s);
+        setImmagine({});
     });
 }
 
@@ -50,7 +47,7 @@ void AnteprimaImmagine::smetti() {
     if (m_lettura)
         m_lettura->annulla();
     m_lettura.reset();
-    m_attesa.setFuture({});
+    m_indugio.stop();
 }
 
 void AnteprimaImmagine::svuota(const QString &testo) {
@@ -63,28 +60,35 @@ void AnteprimaImmagine::svuota(const QString &testo) {
 }
 
 void AnteprimaImmagine::mostra(const QString &percorso) {
-    svuota();
-    if (percorso.isEmpty())
+    if (percorso.isEmpty()) {
+        svuota();
         return;
+    }
+    smetti();
     m_percorso = percorso;
-    const QSize misura = size() * devicePixelRatioF();
-    if (eGrande(percorso))
-        leggiAParte(misura);
-    else
-        concludi(leggi(percorso, misura, Riduzione::Riempi));
+    m_guasto.clear();
+    m_stato = Stato::InCorso;
+    m_indugio.start(indugio);
+    m_lettura = std::make_shared<Avanzamento>();
+    m_percorsi.chiedi(percorso, *this, [this, lettura = m_lettura](const Percorsi::Esame &esame) {
+        if (lettura != m_lettura)
+            return;
+        if (esame.percorso.isEmpty())
+            fallisci(esame.muto ? u"La cartella non risponde."_s : u"File non trovato."_s);
+        else
+            leggiFile(esame.percorso);
+    });
 }
 
-void AnteprimaImmagine::leggiAParte(const QSize &misura) {
-    m_stato = Stato::InCorso;
-    setTesto(u"Caricamento dell'immagine..."_s);
-    const auto promessa = std::make_shared<QPromise<ImmagineLetta>>();
-    m_attesa.setFuture(promessa->future());
-    m_lettura = std::make_shared<Avanzamento>();
-    QThreadPool::globalInstance()->start([promessa, percorso = m_percorso, misura, lettura = m_lettura] {
-        promessa->start();
-        promessa->addResult(leggi(percorso, misura, Riduzione::Riempi, lettura.get()));
-        promessa->finish();
-    });
+void AnteprimaImmagine::leggiFile(const QString &file) {
+    const std::function<ImmagineLetta()> domanda = [file, misura = size() * devicePixelRatioF(), lettura = m_lettura] {
+        return leggi(file, misura, Riduzione::Riempi, lettura.get());
+    };
+    const auto risposta = [this, lettura = m_lettura](const std::optional<ImmagineLetta> &letta) {
+        if (lettura == m_lettura)
+            concludi(letta.value_or(ImmagineLetta{{}, u"Il file non risponde."_s}));
+    };
+    chiedi<ImmagineLetta>(domanda, *this, risposta, attesaImmagine);
 }
 
 void AnteprimaImmagine::concludi(const ImmagineLetta &letta) {
@@ -92,6 +96,7 @@ void AnteprimaImmagine::concludi(const ImmagineLetta &letta) {
         fallisci(letta.motivo);
         return;
     }
+    smetti();
     m_stato = Stato::Mostrata;
     m_trasparente = letta.immagine.hasAlphaChannel();
     setTesto({});
@@ -100,15 +105,17 @@ void AnteprimaImmagine::concludi(const ImmagineLetta &letta) {
 }
 
 void AnteprimaImmagine::paintEvent(QPaintEvent *e) {
-    if (m_stato == Stato::Mostrata && m_trasparente)
+    if (m_trasparente && !vuota())
         QPainter(this).fillRect(rect(), QBrush(scacchiera(palette())));
     PictureBox::paintEvent(e);
 }
 
 void AnteprimaImmagine::fallisci(const QString &motivo) {
+    smetti();
     m_stato = Stato::NonLeggibile;
     m_guasto = motivo + u'\n' + accorciato(QFileInfo(m_percorso).fileName());
     setTesto(m_guasto);
+    setImmagine({});
     Q_EMIT cambiato();
 }
 

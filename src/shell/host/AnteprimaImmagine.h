@@ -2,24 +2,25 @@
 
 #include "shell/host/PictureBox.h"
 #include "shell/immagini/LetturaImmagine.h"
+#include "shell/logic/Percorsi.h"
 
-#include <QFutureWatcher>
+#include <QTimer>
 #include <memory>
 
 namespace zuvora {
 
-// The preview of a picture file, stretched to the control's size. A small picture is there at once; a large one is
-// decoded beside the user interface, and of several asked for meanwhile only the last is shown. What can't be shown is
-// said in the control itself; what can be seen through lies on a chequered ground.
+// The preview of a picture file, stretched to the control's size. The disk is asked and the picture decoded beside the
+// user interface; of several asked for meanwhile only the last is shown, and a path that doesn't answer is given up.
+// What can't be shown is said in the control itself; what can be seen through lies on a chequered ground.
 class AnteprimaImmagine : public PictureBox {
     Q_OBJECT
 public:
     enum class Stato { Vuota, InCorso, Mostrata, NonLeggibile };
 
-    AnteprimaImmagine(QWidget *padre, const char *nome, const Posto &posto);
+    AnteprimaImmagine(QWidget *padre, const char *nome, const Posto &posto, Percorsi percorsi);
     ~AnteprimaImmagine() override;
 
-    void mostra(const QString &percorso); // native form; an empty path clears the preview
+    void mostra(const QString &percorso); // in any form of Percorsi; an empty path clears the preview
     void svuota(const QString &testo = {});
     Stato stato() const { return m_stato; }
     const QString &percorso() const { return m_percorso; }
@@ -33,7 +34,7 @@ protected:
     void paintEvent(QPaintEvent *e) override;
 
 private:
-    void leggiAParte(const QSize &misura);
+    void leggiFile(const QString &file);
     void concludi(const ImmagineLetta &letta);
     void fallisci(const QString &motivo);
     void smetti(); // gives up the reading under way
@@ -42,8 +43,9 @@ private:
     Stato m_stato = Stato::Vuota;
     bool m_trasparente = false;
     QString m_guasto;
-    QFutureWatcher<ImmagineLetta> m_attesa;
-    std::shared_ptr<Avanzamento> m_lettura;
+    Percorsi m_percorsi;
+    std::shared_ptr<Avanzamento> m_lettura; // of the picture asked for last
+    QTimer m_indugio;
 };
 
 } // namespace zuvora

@@ -11,7 +11,7 @@ public:
     AnteprimaImmagini(const Ambiente &ambiente, const QString &percorso, QWidget *padre);
 
 private:
-    AnteprimaImmagine Image1{this, "Image1", {0, 0, 9615, 6615}};
+    AnteprimaImmagine Image1{this, "Image1", {0, 0, 9615, 6615}, ambiente().percorsi};
 };
 
 } // namespace zuvora

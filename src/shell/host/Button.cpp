@@ -1,27 +1,21 @@
 #include "shell/host/Button.h"
 
-#include "shell/disegni/Tavolozza.h"
-
-#include <QAccessible>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPointer>
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <QTimer>
 #include <algorithm>
-#include <chrono>
-#include <optional>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace zuvora {
 namespace {
 
 constexpr int margine = 3; // pixels on each side of the caption
-constexpr auto durataSpunta = 2s;
-constexpr int diametroSpunta = 11; // pixels
+constexpr int latoDisegno = 14;
+constexpr int distanza = 2; // between a drawing and its caption
 
 constexpr int tutta = 100; // per cent: the regular width of a caption
 
@@ -60,11 +54,6 @@ Button::Button(QWidget *padre, const char *nome, const char *didascalia, const P
     : Controllo(padre, nome, posto), m_base(font()) {
     // The form decides what Enter does; no button takes it as the dialog's default one.
     setAutoDefault(false);
-    m_spunta.setSingleShot(true);
-    connect(&m_spunta, &QTimer::timeout, this, [this] {
-        descrivi(m_descrizione);
-        update();
-    });
     setCaption(QString::fromUtf8(didascalia));
 }
 
@@ -76,6 +65,12 @@ void Button::setCaption(const QString &testo) {
 void Button::allineaASinistra() {
     m_sinistra = true;
     update();
+}
+
+void Button::setDisegno(Disegno disegno) {
+    m_disegno = disegno;
+    m_dipinto = {};
+    adatta();
 }
 
 void Button::setFontTesto(const QFont &f) {
@@ -109,22 +104,7 @@ void Button::abilita(bool acceso, const QString &motivo) {
         m_suggerimento = toolTip();
     setEnabled(acceso);
     setToolTip(acceso ? m_suggerimento : motivo);
-    if (!conSpunta())
-        setAccessibleDescription(acceso ? QString() : motivo);
-}
-
-void Button::spunta() {
-    if (!conSpunta())
-        m_descrizione = accessibleDescription();
-    m_spunta.start(durataSpunta);
-    descrivi(u"Salvato"_s);
-    update();
-}
-
-void Button::descrivi(const QString &testo) {
-    setAccessibleDescription(testo);
-    QAccessibleEvent evento(this, QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&evento);
+    setAccessibleDescription(acceso ? QString() : motivo);
 }
 
 QSize Button::spazioDidascalia() const {
@@ -142,7 +122,10 @@ void Button::adatta() {
         adatto = fontAdatto(text(), m_base, spazioDidascalia(), false);
     if (adatto != font())
         setFont(adatto);
-    const bool troppo = adatto != m_base && misuraDidascalia(text(), adatto).width() > spazioDidascalia().width();
+    const int spazio = spazioDidascalia().width();
+    const int occupa = adatto != m_base || m_disegno ? misuraDidascalia(text(), adatto).width() : 0;
+    m_conDisegno = m_disegno && occupa + latoDisegno + distanza <= spazio;
+    const bool troppo = occupa > spazio;
     if (troppo || m_abbreviato)
         setToolTip(troppo ? QString(text()).remove(u'&').trimmed() : QString());
     m_abbreviato = troppo;
@@ -165,26 +148,30 @@ void Button::paintEvent(QPaintEvent *) {
         int opzioni = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine;
         if (!style()->styleHint(QStyle::SH_UnderlineShortcut, &opzione, this))
             opzioni |= Qt::TextHideMnemonic;
-        pittore.drawItemText(rect().adjusted(margine, 0, -margine, 0), opzioni, palette(), isEnabled(), testo,
+        if (m_conDisegno)
+            dipingiDisegno(pittore);
+        const int rientro = margine + (m_conDisegno ? latoDisegno + distanza : 0);
+        pittore.drawItemText(rect().adjusted(rientro, 0, -margine, 0), opzioni, palette(), isEnabled(), testo,
                              QPalette::ButtonText);
     }
-    if (conSpunta())
-        dipingiSpunta(pittore);
 }
 
-// In the corner, where few captions reach.
-void Button::dipingiSpunta(QPainter &pittore) const {
-    const QRectF disco(width() - diametroSpunta - 2, 2, diametroSpunta, diametroSpunta);
-    pittore.setRenderHint(QPainter::Antialiasing);
-    pittore.setPen(QPen(tavolozza::bianco, 1));
-    pittore.setBrush(tavolozza::riuscita);
-    pittore.drawEllipse(disco);
-    QPainterPath segno(disco.topLeft() + QPointF(2.7, 5.8));
-    segno.lineTo(disco.topLeft() + QPointF(4.8, 7.8));
-    segno.lineTo(disco.topLeft() + QPointF(8.4, 3.4));
-    pittore.setBrush(Qt::NoBrush);
-    pittore.setPen(QPen(tavolozza::bianco, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    pittore.drawPath(segno);
+// It is drawn once, after the form has come up: captions come first.
+void Button::dipingiDisegno(QPainter &pittore) {
+    if (m_dipinto.isNull() || m_dipinto.devicePixelRatio() != devicePixelRatioF())
+        QTimer::singleShot(0, this, [this] {
+            const auto modo = isEnabled() ? QIcon::Normal : QIcon::Disabled;
+            m_dipinto = icona(*m_disegno).pixmap(QSize(latoDisegno, latoDisegno), devicePixelRatioF(), modo);
+            update();
+        });
+    else
+        pittore.drawPixmap(margine, (height() - latoDisegno) / 2, m_dipinto);
+}
+
+void Button::changeEvent(QEvent *e) {
+    Controllo::changeEvent(e);
+    if (e->type() == QEvent::EnabledChange)
+        m_dipinto = {};
 }
 
 void condensaInsieme(const QList<Button *> &gruppo) {

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "shell/disegni/Disegni.h"
 #include "shell/host/Controllo.h"
 
+#include <QPixmap>
 #include <QPushButton>
-#include <QTimer>
 #include <memory>
+#include <optional>
 
 namespace zuvora {
 
@@ -18,6 +20,8 @@ public:
     void setCaption(const QString &testo);
     QString Caption() const { return text(); }
     void allineaASinistra(); // for the menu: captions stand behind one another
+    // Before a caption on the left, where both find room.
+    void setDisegno(Disegno disegno);
     void setFontTesto(const QFont &font);
     void setColori(const QColor &testo, const QColor &sfondo); // instead of the look of its role
     void setRuolo(Ruolo ruolo);
@@ -27,9 +31,6 @@ public:
     bool segnato() const { return m_segnato; }
     // A button that is off says why, by its tool tip.
     void abilita(bool acceso, const QString &motivo = {});
-    // A save that says nothing shows a tick for two seconds and tells it to screen readers; the caption stays.
-    void spunta();
-    bool conSpunta() const { return m_spunta.isActive(); }
 
     QString didascaliaMostrata() const override { return text(); }
     QSize spazioDidascalia() const override;
@@ -37,22 +38,23 @@ public:
 protected:
     void paintEvent(QPaintEvent *e) override;
     void resizeEvent(QResizeEvent *e) override;
+    void changeEvent(QEvent *e) override;
 
 private:
     class Gruppo;
     friend void condensaInsieme(const QList<Button *> &gruppo);
     void adatta();
-    void dipingiSpunta(QPainter &pittore) const;
-    void descrivi(const QString &testo);
+    void dipingiDisegno(QPainter &pittore);
 
     QFont m_base;
-    QTimer m_spunta;
     QString m_suggerimento; // tool tip while the button is on
-    QString m_descrizione;  // accessible description without the tick
     QColor m_testo;
     QColor m_sfondo;
     Ruolo m_ruolo = Ruolo::Normale;
     std::shared_ptr<Gruppo> m_gruppo; // whose captions are condensed alike
+    std::optional<Disegno> m_disegno;
+    QPixmap m_dipinto; // as it stood last, for the same screen and state
+    bool m_conDisegno = false;
     bool m_sinistra = false;
     bool m_segnato = false;
     bool m_abbreviato = false;

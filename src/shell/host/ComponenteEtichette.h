@@ -12,7 +12,8 @@ struct EsitoComponenteEtichette {
     QString motivo;                       // then an Italian text that says why
 };
 
-// The first call loads the component from `cartella`; it stays loaded until the program ends.
-EsitoComponenteEtichette creaEtichette(const QString &cartella);
+// The first call loads the component from `cartella`; it stays loaded until the program ends. What the designer asks
+// its user goes through `dialoghi`.
+EsitoComponenteEtichette creaEtichette(const QString &cartella, Dialoghi &dialoghi);
 
 } // namespace zuvora

@@ -3,15 +3,16 @@
 #include "shell/logic/Componente.h"
 #include "shell/host/VoceSistema.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace zuvora {
 
 EsitoComponenteVoce creaVoce(const QString &cartella) {
-    QString motivo;
-    auto *fabbrica =
-        qobject_cast<FabbricaVoce *>(radiceComponente(cartella, QString::fromLatin1(fileComponenteVoce), motivo));
-    if (fabbrica == nullptr)
-        return {nullptr, motivo};
-    return {fabbrica->crea(), {}};
+    const auto componente = caricaComponente<FabbricaVoce>(cartella, QString::fromLatin1(fileComponenteVoce),
+                                                           u"La voce del programma non si può sentire"_s);
+    if (componente.fabbrica == nullptr)
+        return {nullptr, componente.motivo};
+    return {componente.fabbrica->crea(), {}};
 }
 
 std::unique_ptr<Voce> creaVoceSistema() {

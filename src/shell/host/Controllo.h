@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/host/Spunta.h"
 #include "shell/host/Testo.h"
 #include "shell/host/Twips.h"
 
@@ -38,6 +39,7 @@ public:
     void setTop(int twips) { setPosto({m_posto.left, twips, m_posto.width, m_posto.height}); }
     void sposta(int left, int top) { setPosto({left, top, m_posto.width, m_posto.height}); }
     bool Visible() const { return !this->isHidden(); }
+    void spunta() { mostraSpunta(*this); }
 
 private:
     Posto m_posto;

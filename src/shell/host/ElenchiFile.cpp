@@ -1,6 +1,7 @@
 #include "shell/host/ElenchiFile.h"
 
 #include "shell/disegni/Disegni.h"
+#include "shell/host/Abbreviate.h"
 #include "shell/logic/Domanda.h"
 
 #include <QDir>
@@ -42,6 +43,7 @@ DriveListBox::DriveListBox(QWidget *padre, const char *nome, const Posto &posto,
     : Controllo(padre, nome, posto), m_sistema(std::move(sistema)) {
     setIconSize(misuraIcona);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    abbreviaScelta(*this);
     Refresh();
     connect(this, &QComboBox::activated, this, &DriveListBox::cambiato);
 }
@@ -80,6 +82,7 @@ DirListBox::DirListBox(QWidget *padre, const char *nome, const Posto &posto, std
     setIndentation(rientro);
     setIconSize(misuraIcona);
     setUniformRowHeights(true);
+    abbreviaVoci(*this);
     setTabKeyNavigation(false);
     connect(this, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem *voce) { entra(voce); });
 }

@@ -1,5 +1,7 @@
 #include "shell/host/Elenco.h"
 
+#include "shell/host/Abbreviate.h"
+
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QMouseEvent>
@@ -8,6 +10,7 @@ namespace zuvora {
 
 Elenco::Elenco(QWidget *padre, const char *nome, const Posto &posto) : Controllo(padre, nome, posto) {
     setUniformItemSizes(true);
+    abbreviaVoci(*this);
     setTabKeyNavigation(false);
     connect(this, &QListWidget::itemClicked, this, [this] {
         if (!m_segnalato)

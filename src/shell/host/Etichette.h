@@ -10,6 +10,8 @@ class QWidget;
 
 namespace zuvora {
 
+class Dialoghi;
+
 // The ticket designer, a component that is loaded at first use. Its three operations are called in the order in which
 // they stand here; what they return is not examined.
 class Etichette {
@@ -28,9 +30,9 @@ public:
 class FabbricaEtichette {
 public:
     virtual ~FabbricaEtichette() = default;
-    virtual std::unique_ptr<Etichette> crea() = 0;
+    virtual std::unique_ptr<Etichette> crea(Dialoghi &dialoghi) = 0; // which outlive it
 };
 
 } // namespace zuvora
 
-Q_DECLARE_INTERFACE(zuvora::FabbricaEtichette, "zuvora.FabbricaEtichette/1")
+Q_DECLARE_INTERFACE(zuvora::FabbricaEtichette, "zuvora.FabbricaEtichette/2")

@@ -9,6 +9,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QScreen>
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -77,11 +78,13 @@ void Form::setCaption(const QString &testo) {
     setWindowTitle(testo.isEmpty() ? QStringLiteral(" ") : testo);
 }
 
-// Where the opener is not to be seen, as at the start of the program.
+// Where there is no opener to be seen, as at the start of the program. Of a form that fills the screen the title bar
+// must stay in reach.
 void Form::centra() {
+    const QRect schermo = screen()->availableGeometry();
     QRect qui = frameGeometry();
-    qui.moveCenter(screen()->availableGeometry().center());
-    move(qui.topLeft());
+    qui.moveCenter(schermo.center());
+    move(std::max(qui.left(), schermo.left()), std::max(qui.top(), schermo.top()));
 }
 
 void Form::mostraModale() {
@@ -137,7 +140,7 @@ void Form::showEvent(QShowEvent *e) {
     if (m_mostrata || e->spontaneous())
         return;
     m_mostrata = true;
-    if (parentWidget() != nullptr && !parentWidget()->window()->isVisible())
+    if (parentWidget() == nullptr || !parentWidget()->window()->isVisible())
         centra();
     nominaCampi(this);
     ordinaFuochi(*this);

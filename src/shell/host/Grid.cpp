@@ -1,5 +1,6 @@
 #include "shell/host/Grid.h"
 
+#include "shell/host/Abbreviate.h"
 #include "shell/store/Data.h"
 #include "shell/store/EngineError.h"
 
@@ -44,9 +45,7 @@ public:
         return padre.isValid() ? 0 : static_cast<int>(m_colonne.size());
     }
     QVariant data(const QModelIndex &indice, int ruolo) const override {
-        if (ruolo != Qt::DisplayRole && ruolo != Qt::ToolTipRole)
-            return {};
-        return testo(indice.row(), indice.column());
+        return ruolo == Qt::DisplayRole ? testo(indice.row(), indice.column()) : QVariant();
     }
     QVariant headerData(int sezione, Qt::Orientation verso, int ruolo) const override {
         if (verso != Qt::Horizontal || ruolo != Qt::DisplayRole)
@@ -82,6 +81,7 @@ Grid::Grid(QWidget *padre, const char *nome, const Posto &posto, std::vector<Col
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
     setWordWrap(false);
+    abbreviaVoci(*this);
     setAlternatingRowColors(true);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 7);

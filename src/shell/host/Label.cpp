@@ -1,5 +1,6 @@
 #include "shell/host/Label.h"
 
+#include "shell/host/Grassetto.h"
 #include "shell/host/StileCasa.h"
 
 #include <QKeyEvent>
@@ -74,6 +75,19 @@ void Label::adatta() {
     const QString corto = abbreviata(m_caption, adatto, spazioDidascalia().width());
     setText(corto);
     setToolTip(corto == m_caption ? QString() : m_caption);
+}
+
+// Letters larger than the font system thickens, as the kiosk's title has them.
+void Label::paintEvent(QPaintEvent *e) {
+    constexpr int maggiore = 64; // device pixels
+    if (!font().bold() || fontInfo().pixelSize() * devicePixelRatioF() <= maggiore) {
+        Controllo::paintEvent(e);
+        return;
+    }
+    QPainter pittore(this);
+    pittore.setPen(palette().color(foregroundRole()));
+    scriviTesto(pittore, contentsRect(), int(alignment()) | (wordWrap() ? Qt::TextWordWrap : Qt::TextSingleLine),
+                text());
 }
 
 void Label::resizeEvent(QResizeEvent *e) {

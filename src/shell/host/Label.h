@@ -27,6 +27,7 @@ public:
     bool vaACapo() const override { return wordWrap(); }
 
 protected:
+    void paintEvent(QPaintEvent *e) override;
     void resizeEvent(QResizeEvent *e) override;
 
 private:

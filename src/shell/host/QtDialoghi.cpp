@@ -12,8 +12,11 @@
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QGroupBox>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -62,22 +65,31 @@ std::optional<QString> risposta(QFileDialog &dialogo) {
     return QDir::toNativeSeparators(dialogo.selectedFiles().constFirst());
 }
 
+// The font itself or, where the machine lacks it, the one that stands in for it: the dialog lists no other.
+QString famigliaPresente(const QString &nome) {
+    return QFontDatabase::hasFamily(nome) ? nome : QFontInfo(QFont(nome)).family();
+}
+
 // Styles go by the names that the font's file gives them, while Qt asks for translated ones.
-QString stileDi(const FontScelto &font) {
-    const QStringList stili = QFontDatabase::styles(font.nome);
+QString stileDi(const QString &famiglia, const FontScelto &font) {
+    const QStringList stili = QFontDatabase::styles(famiglia);
     for (const QString &stile : stili)
-        if ((QFontDatabase::weight(font.nome, stile) > QFont::Medium) == font.grassetto &&
-            QFontDatabase::italic(font.nome, stile) == font.italico)
+        if ((QFontDatabase::weight(famiglia, stile) > QFont::Medium) == font.grassetto &&
+            QFontDatabase::italic(famiglia, stile) == font.italico)
             return stile;
     return {};
 }
 
-// The frame with strike-out and underline: no column keeps them. It is known by the two boxes in it.
+// The frame with strike-out and underline: no column keeps them. It is known by the two boxes in it. Without it the
+// sample beside it has no height.
 void nascondiEffetti(QFontDialog &dialogo) {
+    constexpr int altezzaEsempio = 64; // pixels
     const auto gruppi = dialogo.findChildren<QGroupBox *>();
     for (QGroupBox *gruppo : gruppi)
         if (gruppo->findChildren<QCheckBox *>().size() == 2)
             gruppo->hide();
+        else if (auto *esempio = gruppo->findChild<QLineEdit *>())
+            esempio->setMinimumHeight(altezzaEsempio);
 }
 
 // The dialog filters by what Qt can read of the filter; what it shows is the filter's own description.
@@ -111,9 +123,36 @@ void QtDialoghi::messaggio(QWidget *padre, Icona icona, const QString &titolo, c
     box.exec();
 }
 
+int QtDialoghi::scegli(QWidget *padre, const Scelta &scelta) {
+    QMessageBox box(QMessageBox::Question, scelta.titolo, scelta.testo, QMessageBox::NoButton, padre);
+    box.setTextFormat(Qt::PlainText);
+    QList<QPushButton *> bottoni;
+    for (const QString &didascalia : scelta.bottoni)
+        bottoni << box.addButton(didascalia, QMessageBox::ActionRole);
+    box.setDefaultButton(bottoni.at(scelta.predefinito));
+    box.setEscapeButton(bottoni.at(scelta.sicuro));
+    box.exec();
+    for (qsizetype i = 0; i < bottoni.size(); ++i)
+        if (box.clickedButton() == bottoni.at(i))
+            return static_cast<int>(i);
+    return scelta.sicuro;
+}
+
+// Where the dialog opens: it asks the folder on the window's thread, so one that doesn't answer is left out.
+QString QtDialoghi::primaCartella(const QString &chiesta) const {
+    for (const QString &cartella : {chiesta, QDir::currentPath(), QDir::homePath()}) {
+        if (cartella.isEmpty())
+            continue;
+        const auto esame = m_percorsi.chiediEAspetta(cartella);
+        if (esame.specie == Specie::Cartella)
+            return esame.percorso;
+    }
+    return QDir::rootPath();
+}
+
 std::optional<QString> QtDialoghi::apriFile(QWidget *padre, const RichiestaFile &richiesta) {
     const IconeFile icone;
-    QFileDialog dialogo(padre, richiesta.titolo, richiesta.cartella);
+    QFileDialog dialogo(padre, richiesta.titolo, primaCartella(richiesta.cartella));
     prepara(dialogo, icone);
     dialogo.setFileMode(QFileDialog::ExistingFile);
     dialogo.setNameFilters(filtriQt(richiesta.filtro));
@@ -121,9 +160,20 @@ std::optional<QString> QtDialoghi::apriFile(QWidget *padre, const RichiestaFile 
     return risposta(dialogo);
 }
 
+std::optional<QString> QtDialoghi::salvaFile(QWidget *padre, const RichiestaFile &richiesta) {
+    const IconeFile icone;
+    QFileDialog dialogo(padre, richiesta.titolo, primaCartella(richiesta.cartella));
+    prepara(dialogo, icone);
+    dialogo.setAcceptMode(QFileDialog::AcceptSave);
+    dialogo.setNameFilters(filtriQt(richiesta.filtro));
+    mostraDescrizioni(dialogo, richiesta.filtro);
+    dialogo.selectFile(richiesta.proposto);
+    return risposta(dialogo);
+}
+
 std::optional<QString> QtDialoghi::scegliCartella(QWidget *padre, const QString &titolo, const QString &prima) {
     const IconeFile icone;
-    QFileDialog dialogo(padre, titolo, prima);
+    QFileDialog dialogo(padre, titolo, primaCartella(prima));
     prepara(dialogo, icone);
     dialogo.setFileMode(QFileDialog::Directory);
     dialogo.setOption(QFileDialog::ShowDirsOnly);
@@ -132,11 +182,12 @@ std::optional<QString> QtDialoghi::scegliCartella(QWidget *padre, const QString 
 
 std::optional<FontScelto> QtDialoghi::scegliFont(QWidget *padre, const std::optional<FontScelto> &primo) {
     QFont inizio = QApplication::font();
+    const QString famiglia = primo ? famigliaPresente(primo->nome) : QString();
     if (primo) {
-        inizio.setFamily(primo->nome);
+        inizio.setFamily(famiglia);
         if (primo->misura > 0)
             inizio.setPointSizeF(primo->misura);
-        inizio.setStyleName(stileDi(*primo));
+        inizio.setStyleName(stileDi(famiglia, *primo));
     }
     QFontDialog dialogo(inizio, padre);
     dialogo.setOption(QFontDialog::DontUseNativeDialog);
@@ -144,7 +195,8 @@ std::optional<FontScelto> QtDialoghi::scegliFont(QWidget *padre, const std::opti
     if (dialogo.exec() != QDialog::Accepted)
         return std::nullopt;
     const QFont font = dialogo.selectedFont();
-    return FontScelto{font.family(), font.pointSizeF(), font.bold(), font.italic()};
+    const bool laStessa = primo && font.family() == famiglia;
+    return FontScelto{laStessa ? primo->nome : font.family(), font.pointSizeF(), font.bold(), font.italic()};
 }
 
 std::optional<int> QtDialoghi::scegliColore(QWidget *padre, int attuale) {

@@ -1,6 +1,7 @@
 #include "shell/host/Scelte.h"
 
 #include "shell/disegni/Tavolozza.h"
+#include "shell/host/Abbreviate.h"
 
 #include <QPainter>
 #include <QStyleOptionButton>
@@ -91,6 +92,7 @@ QSize CheckBox::spazioDidascalia() const {
 
 ComboBox::ComboBox(QWidget *padre, const char *nome, const Posto &posto) : Controllo(padre, nome, posto) {
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    abbreviaScelta(*this);
     connect(this, &QComboBox::activated, this, &ComboBox::cambiato);
 }
 
@@ -114,7 +116,7 @@ void GroupBox::paintEvent(QPaintEvent *) {
     const QFontMetrics metrica(font());
     const int sopra = conTitolo ? metrica.height() / 2 : 0;
     pittore.setRenderHint(QPainter::Antialiasing);
-    pittore.setPen(tavolozza::bordo);
+    pittore.setPen(tavolozza::bordoControllo);
     pittore.setBrush(Qt::NoBrush);
     pittore.drawRoundedRect(QRectF(rect()).adjusted(0.5, sopra + 0.5, -0.5, -0.5), 3, 3);
     if (!conTitolo)

@@ -29,7 +29,7 @@ void Schermata::segnalaErrore() {
     } catch (const std::exception &e) {
         testo = u"L'operazione non è stata completata.\n\n(%1)"_s.arg(QString::fromUtf8(e.what()));
     }
-    m_ambiente.dialoghi.messaggio(&m_finestra, Dialoghi::Icona::Critica, u"Zuvora-Messaggio"_s, testo);
+    m_ambiente.dialoghi.messaggio(&m_finestra, Dialoghi::Icona::Critica, titoloMessaggi(), testo);
 }
 
 } // namespace zuvora

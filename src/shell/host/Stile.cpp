@@ -31,7 +31,7 @@ constexpr std::array<Ruolo, 18> ruoli = {{
     {QPalette::BrightText, tavolozza::bianco},
     {QPalette::Light, tavolozza::bianco},
     {QPalette::Midlight, tavolozza::velo},
-    {QPalette::Mid, tavolozza::bordo},
+    {QPalette::Mid, tavolozza::bordoControllo},
     {QPalette::Dark, tavolozza::testoTenue},
     {QPalette::Highlight, tavolozza::primario},
     {QPalette::HighlightedText, tavolozza::bianco},

@@ -2,8 +2,11 @@
 
 #include <QByteArray>
 #include <QIODevice>
+#include <QtEndian>
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 
 namespace zuvora {
 namespace {
@@ -133,33 +136,59 @@ qint64 numero(const QByteArray &testa, int posto, int quanti) { // low byte firs
     return n;
 }
 
+constexpr int testaBmp = 54;
+
+bool anticaBmp(const QByteArray &testa) {
+    return numero(testa, 14, 4) == 12;
+}
+
+QSize misuraBmp(const QByteArray &testa) {
+    if (anticaBmp(testa))
+        return {static_cast<int>(numero(testa, 18, 2)), static_cast<int>(numero(testa, 20, 2))};
+    const auto altezza = static_cast<qint32>(numero(testa, 22, 4)); // below 0 when the first line is the topmost
+    return {static_cast<qint32>(numero(testa, 18, 4)), std::abs(std::max(altezza, -std::numeric_limits<int>::max()))};
+}
+
 bool bmp(const QByteArray &testa, qint64 lunghezza) {
-    constexpr int testaMinima = 54;
-    if (testa.size() < testaMinima)
+    if (testa.size() < testaBmp)
         return false;
     const qint64 inizio = numero(testa, 10, 4);
-    const bool antica = numero(testa, 14, 4) == 12;
-    const qint64 larghezza = antica ? numero(testa, 18, 2) : static_cast<qint32>(numero(testa, 18, 4));
-    const qint64 altezza = antica ? numero(testa, 20, 2) : static_cast<qint32>(numero(testa, 22, 4));
+    const bool antica = anticaBmp(testa);
+    const QSize misura = misuraBmp(testa);
     const qint64 bit = antica ? numero(testa, 24, 2) : numero(testa, 28, 2);
     const qint64 metodo = antica ? 0 : numero(testa, 30, 4);
     const bool compressa = metodo == 1 || metodo == 2;
-    const qint64 dati = compressa ? numero(testa, 34, 4) : (larghezza * bit + 31) / 32 * 4 * std::llabs(altezza);
+    const qint64 dati = compressa ? numero(testa, 34, 4) : (misura.width() * bit + 31) / 32 * 4 * misura.height();
     // Some writers leave out the lengths of what they compress: then that of the file has to do.
     return (dati > 0 ? inizio + dati : numero(testa, 2, 4)) <= lunghezza;
 }
 
-} // namespace
+constexpr const char *inizioPng = "\x89PNG\r\n\x1a\n";
 
-bool arrivaAllaFine(QIODevice &file) {
+QByteArray testaDi(QIODevice &file) {
     constexpr qint64 letti = 64;
     file.seek(0);
-    const QByteArray testa = file.read(letti);
+    return file.read(letti);
+}
+
+} // namespace
+
+QSize misuraDichiarata(QIODevice &file) {
+    const QByteArray testa = testaDi(file);
+    if (testa.startsWith("BM") && testa.size() >= testaBmp)
+        return misuraBmp(testa);
+    if (testa.startsWith(inizioPng) && testa.size() > 24)
+        return {qFromBigEndian<qint32>(testa.constData() + 16), qFromBigEndian<qint32>(testa.constData() + 20)};
+    return {};
+}
+
+bool arrivaAllaFine(QIODevice &file) {
+    const QByteArray testa = testaDi(file);
     if (testa.startsWith("\xFF\xD8"))
         return jpeg(Byte(file));
     if (testa.startsWith("GIF8"))
         return gif(Byte(file));
-    if (testa.startsWith("\x89PNG\r\n\x1a\n"))
+    if (testa.startsWith(inizioPng))
         return png(Byte(file));
     if (testa.startsWith("BM"))
         return bmp(testa, file.size());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QSize>
+
 class QIODevice;
 
 namespace zuvora {
@@ -8,5 +10,9 @@ namespace zuvora {
 // WebP. The decoders take a file that was cut for a whole one. Other formats count as whole; nothing is decoded.
 // `file` is open for reading, at any place.
 bool arrivaAllaFine(QIODevice &file);
+
+// Size in pixels that a PNG or BMP declares; empty for other formats. The decoders tell none above limits of their own.
+// `file` as before.
+QSize misuraDichiarata(QIODevice &file);
 
 } // namespace zuvora

@@ -72,24 +72,55 @@ bool siLeggeRidotta(const QImageReader &lettore, QIODevice &file) {
            testa[28] == 0;
 }
 
-bool troppi(const QImageReader &lettore, QIODevice &file) {
-    const qint64 punti = qint64{lettore.size().width()} * lettore.size().height();
+// Formats of which a decoder gives a corner without holding the whole.
+bool siRitaglia(const QImageReader &lettore) {
+    return (lettore.format() == "jpeg" || lettore.format() == "svg") &&
+           lettore.transformation() == QImageIOHandler::TransformationNone;
+}
+
+enum class Lettura { Ridotta, Ritaglio };
+
+qint64 puntiDi(const QSize &misura) {
+    return qint64{misura.width()} * misura.height();
+}
+
+bool troppi(const QImageReader &lettore, QIODevice &file, Lettura lettura) {
+    const qint64 punti = puntiDi(lettore.size());
     const int bit = QImage::toPixelFormat(lettore.imageFormat()).bitsPerPixel();
     const qint64 byte = punti * (bit > 0 ? bit : 32) / 8;
-    return punti > puntiMassimi || (byte > memoriaMassima && !siLeggeRidotta(lettore, file));
+    if (punti > puntiMassimi || byte <= memoriaMassima)
+        return punti > puntiMassimi;
+    return lettura == Lettura::Ritaglio ? !siRitaglia(lettore) : !siLeggeRidotta(lettore, file);
+}
+
+QString troppoGrande(const QSize &misura) {
+    return u"L'immagine è troppo grande (%1 x %2 punti)."_s.arg(misura.width()).arg(misura.height());
+}
+
+// Why the reader tells no size where the format has one.
+QString senzaMisura(QIODevice &file) {
+    constexpr int latoMassimo = 1'000'000; // of the readers: PNG
+    constexpr qint64 puntiBmp = 16'384LL * 16'384;
+    const QSize misura = misuraDichiarata(file);
+    if (!misura.isValid())
+        return {};
+    const bool oltre = misura.width() > latoMassimo || misura.height() > latoMassimo || puntiDi(misura) > puntiBmp;
+    return oltre ? troppoGrande(misura) : nonImmagine();
 }
 
 // Sets the reader up; a sentence when the file is no picture that can be read.
-QString prepara(QImageReader &lettore, QIODevice &file) {
+QString prepara(QImageReader &lettore, QIODevice &file, Lettura lettura = Lettura::Ridotta) {
     [[maybe_unused]] static const bool limite = (QImageReader::setAllocationLimit(limiteLettore), true);
     lettore.setDecideFormatFromContent(true);
     lettore.setAutoTransform(true);
     if (!lettore.canRead())
         return nonImmagine();
     const QSize misura = lettore.size();
-    if (misura.isValid() && troppi(lettore, file))
-        return u"L'immagine è troppo grande (%1 x %2 punti)."_s.arg(misura.width()).arg(misura.height());
+    if (misura.isValid() && troppi(lettore, file, lettura))
+        return troppoGrande(misura);
     const qint64 posto = file.pos();
+    if (QString motivo = misura.isValid() ? QString() : senzaMisura(file); !motivo.isEmpty())
+        return motivo;
     const bool intera = arrivaAllaFine(file);
     file.seek(posto);
     return intera ? QString() : u"L'immagine è incompleta: il file finisce prima del tempo."_s;
@@ -175,18 +206,23 @@ QImage leggiImmagine(const QString &percorso, const QSize &massimo, Riduzione ri
     return leggi(percorso, massimo, riduzione).immagine;
 }
 
-QImage leggiRitaglio(const QString &percorso, const QSize &misura) {
+ImmagineLetta leggiRitaglio(const QString &percorso, const QSize &misura) {
     QFile file(percorso);
     QImageReader lettore(&file);
-    if (!apri(file).isEmpty() || !prepara(lettore, file).isEmpty())
-        return {};
+    QString motivo = apri(file);
+    if (motivo.isEmpty())
+        motivo = prepara(lettore, file, Lettura::Ritaglio);
+    if (!motivo.isEmpty())
+        return {{}, motivo};
     const QRect ritaglio(QPoint(), misura);
     // Only where it cuts something off: told of its whole size, a decoder would take another way for nothing.
     if (const QSize intera = lettore.size();
         intera.isValid() && supera(intera, misura) && lettore.transformation() == QImageIOHandler::TransformationNone)
         lettore.setClipRect(ritaglio & QRect(QPoint(), intera));
     const QImage letta = lettore.read();
-    return supera(letta.size(), misura) ? letta.copy(ritaglio & letta.rect()) : letta;
+    if (letta.isNull())
+        return {{}, nonImmagine()};
+    return {supera(letta.size(), misura) ? letta.copy(ritaglio & letta.rect()) : letta, {}};
 }
 
 } // namespace zuvora

@@ -30,8 +30,8 @@ ImmagineLetta leggi(const QString &percorso, const QSize &massimo, Riduzione rid
                     Avanzamento *avanzamento = nullptr);
 QImage leggiImmagine(const QString &percorso, const QSize &massimo, Riduzione riduzione = Riduzione::Proporzioni);
 
-// The picture's top left corner at the picture's own size, at most `misura` (pixels) of it. Null when it can't be read.
-QImage leggiRitaglio(const QString &percorso, const QSize &misura);
+// The picture's top left corner at the picture's own size, at most `misura` (pixels) of it.
+ImmagineLetta leggiRitaglio(const QString &percorso, const QSize &misura);
 
 // Size in pixels as the file's header tells it. Empty when the file is missing, is no picture, or doesn't say.
 QSize misuraImmagine(const QString &percorso);

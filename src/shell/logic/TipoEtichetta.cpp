@@ -13,7 +13,7 @@ bool dichiara(const QString &tipo, std::initializer_list<QStringView> parti) {
 } // namespace
 
 TipoEtichetta tipoEtichetta(const QString &tipoDichiarato, const Valore &valore) {
-    if (dichiara(tipoDichiarato, {u"CURR", u"MONEY"}))
+    if (dichiara(tipoDichiarato, {u"CURR", u"MONEY", u"DECIMAL", u"BYTE"}))
         return TipoEtichetta::Testo;
     if (dichiara(tipoDichiarato, {u"DATE", u"TIME"}))
         return TipoEtichetta::Data;

@@ -15,7 +15,8 @@ enum class TipoEtichetta : int {
     Testo = 0x10000000
 };
 
-// The kind of what a column holds; an amount of money is a text. Null has the kind that the column is declared with.
+// The kind of what a column holds; an amount of money, a decimal and a byte are texts. Null has the kind that the
+// column is declared with.
 TipoEtichetta tipoEtichetta(const QString &tipoDichiarato, const Valore &valore);
 
 // 30 December 1899: a time of day alone lies on it.
