@@ -10,7 +10,10 @@
 
 using namespace Qt::Literals::StringLiterals;
 using namespace prova;
-using namespace zuvora::installa;
+using zuvora::installa::Csv;
+using zuvora::installa::espandi;
+using zuvora::installa::Guasto;
+using zuvora::installa::leggiCsv;
 
 namespace {
 class Contenuto : public Banco {

@@ -25,12 +25,12 @@ void sostituisci(const QString &nome, const QByteArray &contenuto) {
     file.write(contenuto);
 }
 
-enum Peso { Difetto, Nota, Sana };
+enum Referto { Difetto, Nota, Sana };
 
 class Danni : public Banco {
 protected:
     // The damage to a new installation is told with that text, and nothing changes.
-    void controlla(const std::function<void(const QString &)> &guasta, const char *detto, Peso esito) {
+    void controlla(const std::function<void(const QString &)> &guasta, const char *detto, Referto esito) {
         QDir(percorso(u"impianto"_s)).removeRecursively();
         const QString cartella = impianto();
         guasta(cartella);
@@ -51,7 +51,7 @@ TEST_F(Danni, DelleTabelleHannoLaLoroRiga) {
         bool nelTotem;
         const char *istruzione;
         const char *detto;
-        Peso esito = Difetto;
+        Referto esito = Difetto;
     } casi[] = {
         {false, "DROP TABLE radio", "manca la tabella radio"},
         {true, "DROP TABLE Numerazione", "TotemZuvora.mdb: manca la tabella Numerazione"},

@@ -29,7 +29,8 @@ TEST(Monitor, NellOrdineDelPrimoIncontro) {
     for (const auto &[monitor, trovati] : casi) {
         sistema.monitor = monitor;
         std::vector<int> handle;
-        for (const clsMonitor &m : clsMonitors(sistema).Monitors())
+        const clsMonitors elenco(sistema);
+        for (const clsMonitor &m : elenco.Monitors())
             handle.push_back(m.Handle);
         EXPECT_EQ(handle, trovati);
     }
