@@ -12,7 +12,6 @@ namespace {
 
 constexpr int righello = 22; // pixels
 constexpr int bordo = 24;    // pixels of table round the paper
-constexpr double decimiPerPollice = 254;
 const QColor coloreTavolo(0xd9, 0xde, 0xe3);
 const QColor coloreGriglia(0xe4, 0xea, 0xf0);
 const QColor coloreMargine(0x9a, 0xb4, 0xcc);
