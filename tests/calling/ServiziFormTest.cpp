@@ -5,14 +5,16 @@
 namespace zuvora {
 namespace {
 
-struct ProvaServizi : Stanza {
-    ProvaServizi() {
+struct ConServizi : Stanza {
+    ConServizi() {
         i.esegui(u"UPDATE Servizi SET Servizio='Cassa', ServizioAttivo=1, Percorsofoto='x' WHERE ID=1;"
                  "UPDATE Servizi SET Servizio='Esami' WHERE ID=2;"
                  "UPDATE Servizi SET Servizio='nessun SERVIZIO' WHERE ID=3;"
                  "UPDATE Servizi SET Servizio=NULL, ServizioAttivo=NULL WHERE ID=4"_s);
-        form.show();
     }
+};
+struct ProvaServizi : ConServizi {
+    ProvaServizi() { form.show(); }
     void scegli(int riga) { grid.setCurrentIndex(grid.model()->index(riga, 2)); }
     void doppioClic(int riga) {
         const QPoint mezzo = grid.visualRect(grid.model()->index(riga, 2)).center();
@@ -73,7 +75,7 @@ TEST_F(ProvaServizi, UnNomeSiCambia) {
     guida.messaggio(&vuoto);
     clicca(form, "ctButton2(1)");
     EXPECT_EQ(vuoto, u"Inserire i dati prima di salvare !"_s);
-    EXPECT_EQ(servizio(4), u"L'\"altro\" 100%|1|NULL"_s);
+    EXPECT_EQ(servizio(4), u"L'\"altro\" 100%|1|"_s);
     EXPECT_EQ(attivi(), u"2"_s);
     guida.quando("GestioneUtenti", [&](QWidget &w) {
         EXPECT_EQ(trova<QLineEdit>(w, "text1(0)").text(), lungo);
@@ -109,7 +111,7 @@ TEST_F(ProvaServizi, UnaRigaSparitaLasciaIlNomeScritto) {
     clicca(form, "ctButton2(1)");
     EXPECT_FALSE(i.dialoghi.unicoMessaggio().isEmpty());
     altro.reset();
-    EXPECT_EQ(servizio(4), u"Prelievi|NULL|NULL"_s);
+    EXPECT_EQ(servizio(4), u"Prelievi|0|"_s);
     guida.quando("GestioneUtenti", [](QWidget &w) { w.close(); });
     clicca(form, "ctButton2(1)"); // reads the list first
     EXPECT_EQ(attivi(), u"1"_s);

@@ -29,10 +29,10 @@ QStringList digitato(QWidget &finestra) {
 }
 
 void permetti(const InstallazioneProva &i, bool scrittura) {
-    const auto lettura = QFile::ReadOwner | QFile::ReadOther;
-    QFile::setPermissions(i.archivio(), scrittura ? lettura | QFile::WriteOwner : lettura);
-    QFile::setPermissions(i.cartella(), QFile::Permissions(lettura | QFile::ExeOwner | QFile::ExeOther) |
-                                            (scrittura ? QFile::WriteOwner : QFile::Permissions()));
+    auto permessi = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+    permessi.setFlag(QFile::WriteOwner, scrittura);
+    QFile::setPermissions(i.archivio(), permessi);
+    QFile::setPermissions(i.cartella(), permessi | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
 }
 
 void ostacola(const Salvataggio &s, QLatin1StringView ostacolo) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kit/Aspetta.h"
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
 #include "shell/host/Pagina.h"
@@ -17,10 +18,6 @@ namespace zuvora {
 
 using namespace Qt::Literals::StringLiterals;
 
-constexpr int Attesa_ms = 20000;
-template <class F> bool aspetta(F condizione) {
-    return QTest::qWaitFor(condizione, Attesa_ms);
-}
 // Clicks a button where the user would.
 inline void clic(QWidget &radice, const char *bottone) {
     QTest::mouseClick(&trova<QAbstractButton>(radice, bottone), Qt::LeftButton);

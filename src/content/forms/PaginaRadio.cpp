@@ -50,7 +50,7 @@ void PaginaRadio::modifica() {
 }
 
 void PaginaRadio::cancella() {
-    if (!scelta() || !conferma(u"Cancello voce selezionata ?"_s))
+    if (GridRadio.Rows() == 0 || !conferma(u"Cancello voce selezionata ?"_s))
         return;
     Data4.Recordset().Delete();
     avvisa(u"Voce cancellata !"_s);
