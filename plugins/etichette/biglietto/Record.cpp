@@ -24,12 +24,9 @@ std::optional<QDateTime> momentoDi(const QString &testo) {
 Variabile conTipo(const QString &nome, TipoEtichetta tipo, const QString &testo) {
     Variabile v{nome, tipo, testo, {}, {}, {}};
     if (tipo == TipoEtichetta::Numero) {
-        bool riuscito = false;
-        const double numero = QString(testo).replace(u',', u'.').toDouble(&riuscito);
-        if (riuscito) {
-            v.numero = numero;
+        v.numero = numeroDi(testo);
+        if (v.numero)
             v.testo.replace(u'.', u',');
-        }
     } else if (tipo == TipoEtichetta::Data) {
         v.data = momentoDi(testo);
         if (v.data)
