@@ -20,7 +20,7 @@ namespace {
 
 constexpr auto durata = 2s;
 constexpr int diametro = 11; // pixels
-constexpr int distacco = 2;
+constexpr int distanza = 2;
 constexpr auto nomeSpunta = "spunta"_L1;
 
 void descrivi(QWidget &controllo, const QString &testo) {
@@ -31,13 +31,13 @@ void descrivi(QWidget &controllo, const QString &testo) {
 
 // Beside the caption of a radio button or a check box; else in the corner, where few captions reach.
 QPoint angolo(const QWidget &controllo) {
-    const int destra = controllo.width() - diametro - distacco;
+    const int destra = controllo.width() - diametro - distanza;
     const auto *didascalia = dynamic_cast<const ConDidascalia *>(&controllo);
     const auto *bottone = qobject_cast<const QAbstractButton *>(&controllo);
     if (didascalia == nullptr || bottone == nullptr || !bottone->isCheckable())
-        return {destra, distacco};
+        return {destra, distanza};
     const int inizio = controllo.width() - didascalia->spazioDidascalia().width();
-    const int fine = inizio + misuraDidascalia(bottone->text(), controllo.font()).width() + 2 * distacco;
+    const int fine = inizio + misuraDidascalia(bottone->text(), controllo.font()).width() + 2 * distanza;
     return {std::min(fine, destra), (controllo.height() - diametro) / 2};
 }
 
