@@ -15,10 +15,21 @@ target_compile_definitions(
 if(ZUVORA_AVVISI_ERRORI)
   target_compile_options(zuvora_opzioni INTERFACE -Werror)
 endif()
+if(CMAKE_UNITY_BUILD)
+  # Between files that are compiled together these find what isn't there; .ci/run compiles them one by one too.
+  target_compile_options(zuvora_opzioni INTERFACE -Wno-shadow -Wno-subobject-linkage)
+endif()
 if(ZUVORA_SANITIZER)
-  set(flag_sanitizer -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
-  target_compile_options(zuvora_opzioni INTERFACE ${flag_sanitizer})
-  target_link_options(zuvora_opzioni INTERFACE ${flag_sanitizer})
+  # The tests' own code isn't hot, and isn't what is searched for undefined behaviour: it compiles in half the time.
+  define_property(TARGET PROPERTY ZUVORA_PROVA INITIALIZE_FROM_VARIABLE QUESTO_ZUVORA_PROVA)
+  set(flag_programma "-fsanitize=undefined;-fno-sanitize-recover=undefined")
+  target_compile_options(zuvora_opzioni INTERFACE -fsanitize=address -fno-omit-frame-pointer
+                                                  "$<IF:$<BOOL:$<TARGET_PROPERTY:ZUVORA_PROVA>>,-O0,${flag_programma}>")
+  target_link_options(zuvora_opzioni INTERFACE -fsanitize=address,undefined)
+  find_program(ZUVORA_GOLD ld.gold)
+  if(ZUVORA_GOLD)
+    target_link_options(zuvora_opzioni INTERFACE -fuse-ld=gold)
+  endif()
 endif()
 
 # zuvora_radice(name): an include root of the target's own, which holds nothing but its folder under src/, so that an

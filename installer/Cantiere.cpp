@@ -25,10 +25,6 @@ QStringList voci(const QString &cartella) {
     return QDir(cartella).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System, QDir::Name);
 }
 
-bool eArchivio(const QString &voce) {
-    return voce.endsWith(".mdb"_L1, Qt::CaseInsensitive);
-}
-
 bool esiste(const QString &percorso) {
     const QFileInfo info(percorso);
     return info.exists() || info.isSymLink();

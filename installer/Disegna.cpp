@@ -19,16 +19,6 @@ namespace zuvora::installa {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-// The table's own spelling; empty when there is none of that name.
-QString tabellaDi(const QString &layout) {
-    if (layout.compare(u"LayoutBase"_s, Qt::CaseInsensitive) == 0)
-        return u"LayoutBase"_s;
-    for (int i = 1; i <= 10; ++i)
-        if (QString nome = u"Layout%1"_s.arg(i); layout.compare(nome, Qt::CaseInsensitive) == 0)
-            return nome;
-    return {};
-}
-
 QString scrivi(const QImage &tela, const QString &file) {
     const QByteArray formato = QFileInfo(file).suffix().toLatin1();
     QByteArray byte;
@@ -42,7 +32,7 @@ QString scrivi(const QImage &tela, const QString &file) {
 
 Esito disegnaLayout(const QString &cartella, const QString &layout, const QString &file) {
     const QString dove = QDir::cleanPath(QFileInfo(cartella).absoluteFilePath());
-    const QString tabella = tabellaDi(layout);
+    const QString tabella = tabellaLayout(numeroLayoutDi(layout)); // in its own spelling
     if (tabella.isEmpty())
         return {false,
                 u"«%1» non è un layout: i layout sono LayoutBase e Layout1, Layout2, fino a Layout10."_s.arg(layout)};

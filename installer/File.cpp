@@ -98,6 +98,10 @@ void sincronizzaVoce(const QString &voce) {
 }
 } // namespace
 
+bool eArchivio(const QString &nome) {
+    return nome.endsWith(".mdb"_L1, Qt::CaseInsensitive);
+}
+
 QString nativo(const QString &percorso) {
     return QDir::toNativeSeparators(percorso);
 }

@@ -14,6 +14,7 @@ void copia(const QString &da, const QString &a);
 // Why nothing can be written at the end of the file, which is spoilt by the question; empty when it can.
 QString motivoDelDisco(const QString &file);
 QString nativo(const QString &percorso);          // as the platform writes it
+bool eArchivio(const QString &nome);              // by its ending
 QString posto(const QString &file);               // as the user knows it: without the hidden folder of the making
 void sposta(const QString &da, const QString &a); // within one file system
 void rimuovi(const QString &percorso);            // a file, or a folder with all that it holds; what resists stays

@@ -49,7 +49,7 @@ bool daLasciare(const QString &nome) {
            finisce(nome, {"-journal"_L1, "-wal"_L1, "-shm"_L1, ".zuvora"_L1, ".parziale"_L1, ".lock"_L1});
 }
 
-bool eArchivio(const QString &nome) {
+bool archivioDellaSala(const QString &nome) {
     return nome.compare(nomi::archivio, Qt::CaseInsensitive) == 0 ||
            QFileInfo(nome).fileName().compare(nomi::archivioTotem, Qt::CaseInsensitive) == 0;
 }
@@ -60,8 +60,8 @@ void prendi(Raccolta &raccolta, const QString &cartella, const QString &prefisso
         const QString percorso = voce.next();
         const QString relativo = percorso.mid(cartella.size() + 1);
         const QString nome = prefisso + relativo;
-        if (daLasciare(relativo) || eArchivio(relativo) || (!esclusa.isEmpty() && percorso.startsWith(esclusa)) ||
-            delProdotto(nome, percorso))
+        if (daLasciare(relativo) || archivioDellaSala(relativo) ||
+            (!esclusa.isEmpty() && percorso.startsWith(esclusa)) || delProdotto(nome, percorso))
             continue;
         if (nomeAmmesso(nome))
             raccolta.file += {nome, percorso};

@@ -24,10 +24,6 @@ namespace zuvora::installa {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-bool eArchivio(const QString &nome) {
-    return nome.endsWith(".mdb"_L1, Qt::CaseInsensitive);
-}
-
 bool ePlaylist(const QString &nome) {
     return nome.endsWith(".zvi"_L1, Qt::CaseInsensitive) || nome.endsWith(".zvv"_L1, Qt::CaseInsensitive);
 }

@@ -88,6 +88,8 @@ void clicca(QWidget &radice, const char *nome) {
 }
 
 QStringList didascalieTagliate(QWidget &form) {
+    if (!form.isVisible())
+        form.grab(); // captions are fitted when they are about to be seen
     QStringList tagliate;
     const auto figli = form.findChildren<QWidget *>();
     for (const QWidget *w : figli)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kit/Aspetta.h"
 #include "kit/FintaPiattaforma.h"
 #include "shell/host/Browser.h"
 
@@ -39,11 +40,11 @@ public:
         return attendi();
     }
     bool attendi() {
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !m_esiti.isEmpty(); }, Attesa_ms));
+        EXPECT_TRUE(aspetta([this] { return !m_esiti.isEmpty(); }, Attesa_ms));
         return m_esiti.value(0);
     }
     bool attendiTitolo(const QString &titolo) {
-        return QTest::qWaitFor([&] { return titoloDi(browser) == titolo; }, Attesa_ms);
+        return aspetta([&] { return titoloDi(browser) == titolo; }, Attesa_ms);
     }
 
     FintaPiattaforma piattaforma;

@@ -15,12 +15,9 @@ namespace {
 Variabile conTipo(const QString &nome, TipoEtichetta tipo, const QString &testo) {
     Variabile v{nome, tipo, testo, {}, {}, {}};
     if (tipo == TipoEtichetta::Numero) {
-        bool riuscito = false;
-        const double numero = QString(testo).replace(u',', u'.').toDouble(&riuscito);
-        if (riuscito) {
-            v.numero = numero;
+        v.numero = numeroDi(testo);
+        if (v.numero)
             v.testo.replace(u'.', u',');
-        }
     } else if (tipo == TipoEtichetta::Data) {
         v.data = momentoDa(testo);
         if (v.data)

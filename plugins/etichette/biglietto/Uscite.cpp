@@ -15,7 +15,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr double decimiPerPollice = 254;
 constexpr int dpiPdf = 1200;
 constexpr qint64 puntiMassimi = 200'000'000; // of a picture
 

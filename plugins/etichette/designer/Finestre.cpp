@@ -20,8 +20,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr double decimiPerPollice = 254;
-
 // A small window with rows of fields above two buttons.
 class Scheda : public QDialog {
 public:

@@ -10,9 +10,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr int righello = 22; // pixels
-constexpr int bordo = 24;    // pixels of table round the paper
-constexpr double decimiPerPollice = 254;
+constexpr int righello = 22;                     // pixels
+constexpr int bordo = 24;                        // pixels of table round the paper
 constexpr int passoPosto = 50;                   // tenths of a millimetre: where new objects are tried
 constexpr int maniglia = 4;                      // pixels from an object's edge to its grips' edge
 constexpr qint64 puntiDisegno = 2 * 1024 * 1024; // a larger object isn't kept as a picture

@@ -14,6 +14,8 @@ namespace zuvora {
 // A ticket as the designer makes it. All lengths are tenths of a millimetre, counted from the paper's upper left
 // corner.
 
+inline constexpr double decimiPerPollice = 254;
+
 enum class TipoOggetto { Testo, Codice, Immagine, Linea, Cornice };
 enum class Simbologia { Code128, Code39, Ean13, Itf, Qr, DataMatrix };
 // How a picture becomes black and white, as a thermal head prints it.

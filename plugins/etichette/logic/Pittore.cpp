@@ -13,7 +13,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr double decimiPerPollice = 254;
 constexpr int altezzaScritta = 35; // of the contents below bars
 const QColor coloreGuasto(0xb0, 0x20, 0x20);
 

@@ -14,7 +14,7 @@ constexpr Colore bianco = coloreMassimo;
 constexpr auto sinistra = Allineamento::Sinistra;
 constexpr auto centro = Allineamento::Centro;
 
-struct Stile {
+struct Aspetto {
     QStringView font;
     double dimensione = 0;
     bool grassetto = false;
@@ -30,11 +30,11 @@ struct Inizio {
     int ultimo;
     Area area;
     bool visibile;
-    Stile stile;
+    Aspetto stile;
     QStringView testo; // %1 stands for the number of the panel
 };
 
-constexpr Stile nessuno{};
+constexpr Aspetto nessuno{};
 
 constexpr std::array inizi{
     Inizio{TipoElemento::Text9,

@@ -102,6 +102,7 @@ void BottoneTotem::componi() {
     pittore.fillRect(rect(), palette().color(QPalette::Window));
     pittore.drawPixmap(QPoint(), m_sfondo, geometry());
     pittore.drawPixmap(QPoint(), m_fronte);
+    m_fronte = {};
 }
 
 void BottoneTotem::paintEvent(QPaintEvent *e) {

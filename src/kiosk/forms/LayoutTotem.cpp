@@ -50,6 +50,7 @@ LayoutTotem::LayoutTotem(const Ambiente &contesto, const RichiestaAnteprima &ric
       m_aspetto(leggiAspetto(cartella())), Bottone("Bottone", 1, serviziMassimi, [this](int i, const char *nome) {
           return std::make_unique<BottoneTotem>(this, nome, u"Pulsante %1"_s.arg(i), fuoriVista);
       }) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
     for (const auto &[indice, bottone] : Bottone)
         bottone->hide();
     for (Label *etichetta : {&TitoloTXT, &Label1, &Avviso})
@@ -157,6 +158,9 @@ void LayoutTotem::mostraAvvisi() {
 
 void LayoutTotem::paintEvent(QPaintEvent *e) {
     QPainter pittore(this);
+    const QRegion coperta = m_sfondo.hasAlphaChannel() ? QRegion() : QRegion(m_sfondo.rect());
+    for (const QRect &scoperta : e->region() - coperta)
+        pittore.fillRect(scoperta, palette().window());
     if (!m_sfondo.isNull())
         pittore.drawPixmap(e->rect().topLeft(), m_sfondo, e->rect());
 }

@@ -8,8 +8,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr int leftPrimo = 840;
-constexpr int leftSecondo = 3600;
+constexpr int leftSegnoPrimo = 840;
+constexpr int leftSegnoSecondo = 3600;
 
 } // namespace
 
@@ -42,7 +42,7 @@ void PaginaPosizione::scegli(Schermo schermo) {
 }
 
 void PaginaPosizione::segna(Schermo schermo) {
-    Image4.setLeft(schermo == Schermo::Primo ? leftPrimo : leftSecondo);
+    Image4.setLeft(schermo == Schermo::Primo ? leftSegnoPrimo : leftSegnoSecondo);
 }
 
 } // namespace zuvora

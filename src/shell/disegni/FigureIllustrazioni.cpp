@@ -154,7 +154,7 @@ constexpr Strato marcatore[] = {
     {"M18 18a6 6 0 1 1 12 0a6 6 0 1 1 -12 0z", Bianco},
 };
 
-constexpr std::array figure{
+constexpr std::array illustrazioni{
     Figura{Disegno::Zuvora, 64, 64, zuvora},           Figura{Disegno::SalaAttesa, 230, 300, salaAttesa},
     Figura{Disegno::Schermo1, 144, 120, schermo1},     Figura{Disegno::Schermo2, 144, 120, schermo2},
     Figura{Disegno::DueSchermi, 336, 150, dueSchermi}, Figura{Disegno::Marcatore, 48, 48, marcatore},
@@ -163,7 +163,7 @@ constexpr std::array figure{
 } // namespace
 
 std::span<const Figura> figureIllustrazioni() {
-    return figure;
+    return illustrazioni;
 }
 
 } // namespace zuvora

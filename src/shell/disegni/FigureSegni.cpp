@@ -118,7 +118,7 @@ constexpr Strato ingranaggio[] = {
     {"M12 16a4 4 0 1 1 8 0a4 4 0 1 1 -8 0z", Bianco},
 };
 
-constexpr std::array figure{
+constexpr std::array segni{
     Figura{Disegno::Pulisci, 32, 32, pulisci},
     Figura{Disegno::Cartella, 32, 32, cartella},
     Figura{Disegno::Unita, 32, 32, unita},
@@ -141,7 +141,7 @@ constexpr std::array figure{
 } // namespace
 
 std::span<const Figura> figureSegni() {
-    return figure;
+    return segni;
 }
 
 } // namespace zuvora

@@ -172,7 +172,7 @@ constexpr Strato news[] = {
     {"M16.5 15h4M16.5 19.5h4M7.5 24.5h13", Nessuna, Bordo},
 };
 
-constexpr std::array figure{
+constexpr std::array strumenti{
     Figura{Disegno::TestoScorrevole, 32, 32, testoScorrevole},
     Figura{Disegno::Servizio, 32, 32, servizio},
     Figura{Disegno::Titolo, 32, 32, titolo},
@@ -197,7 +197,7 @@ constexpr std::array figure{
 } // namespace
 
 std::span<const Figura> figureStrumenti() {
-    return figure;
+    return strumenti;
 }
 
 } // namespace zuvora

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int margine = 3; // pixels on each side of the caption
 constexpr int latoDisegno = 14;
-constexpr int distanza = 2; // between a drawing and its caption
+constexpr int scartoDisegno = 2; // between a drawing and its caption
 
 constexpr int tutta = 100; // per cent: the regular width of a caption
 
@@ -124,7 +124,7 @@ void Button::adatta() {
         setFont(adatto);
     const int spazio = spazioDidascalia().width();
     const int occupa = adatto != m_base || m_disegno ? misuraDidascalia(text(), adatto).width() : 0;
-    m_conDisegno = m_disegno && occupa + latoDisegno + distanza <= spazio;
+    m_conDisegno = m_disegno && occupa + latoDisegno + scartoDisegno <= spazio;
     const bool troppo = occupa > spazio;
     if (troppo || m_abbreviato)
         setToolTip(troppo ? QString(text()).remove(u'&').trimmed() : QString());
@@ -150,7 +150,7 @@ void Button::paintEvent(QPaintEvent *) {
             opzioni |= Qt::TextHideMnemonic;
         if (m_conDisegno)
             dipingiDisegno(pittore);
-        const int rientro = margine + (m_conDisegno ? latoDisegno + distanza : 0);
+        const int rientro = margine + (m_conDisegno ? latoDisegno + scartoDisegno : 0);
         pittore.drawItemText(rect().adjusted(rientro, 0, -margine, 0), opzioni, palette(), isEnabled(), testo,
                              QPalette::ButtonText);
     }

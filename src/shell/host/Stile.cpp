@@ -15,11 +15,11 @@
 namespace zuvora {
 namespace {
 
-struct Ruolo {
+struct Tinta {
     QPalette::ColorRole ruolo;
     QColor colore;
 };
-constexpr std::array<Ruolo, 18> ruoli = {{
+constexpr std::array<Tinta, 18> ruoli = {{
     {QPalette::Window, tavolozza::sfondo},
     {QPalette::WindowText, tavolozza::testo},
     {QPalette::Base, tavolozza::bianco},
@@ -42,7 +42,7 @@ constexpr std::array<Ruolo, 18> ruoli = {{
 
 QPalette paletteCasa() {
     QPalette palette(tavolozza::sfondoChiaro, tavolozza::sfondo);
-    for (const Ruolo &r : ruoli)
+    for (const Tinta &r : ruoli)
         palette.setColor(r.ruolo, r.colore);
     for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, ruolo, tavolozza::testoSpento);

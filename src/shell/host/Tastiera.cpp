@@ -24,7 +24,7 @@ bool premibile(const QAbstractButton *b) {
     return b->isEnabled() && b->isVisible();
 }
 
-int distanza(const QWidget *a, const QWidget *b) {
+int distanzaFra(const QWidget *a, const QWidget *b) {
     const QPoint scarto = a->mapToGlobal(a->rect().center()) - b->mapToGlobal(b->rect().center());
     return scarto.manhattanLength();
 }
@@ -34,7 +34,7 @@ Button *principaleDi(const QWidget *cornice, const QWidget *vicinoA) {
     const auto bottoni = cornice->findChildren<Button *>();
     for (Button *b : bottoni)
         if (b->ruolo() == Ruolo::Principale && premibile(b) &&
-            (trovato == nullptr || distanza(b, vicinoA) < distanza(trovato, vicinoA)))
+            (trovato == nullptr || distanzaFra(b, vicinoA) < distanzaFra(trovato, vicinoA)))
             trovato = b;
     return trovato;
 }
