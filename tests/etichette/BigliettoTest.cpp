@@ -65,7 +65,7 @@ TEST(Biglietto, LeVariabiliVengonoDalRecordStesso) {
     mettiValore(valori, u"Data"_s, u"05/11/2026"_s);
     mettiValore(valori, u"Nuova"_s, u"x"_s);
     mettiValore(valori, u"Numero"_s, u"inf"_s); // a word, not a number
-    EXPECT_EQ(valori.componi(u"{Attesa:0,0}|{Data:d/M/yy}|{Nuova}|{Numero:0}"_s), u"3,3|5/11/26|x|inf"_s);
+    EXPECT_EQ(valori.componi(u"{Attesa:0,0}|{Data:d/M/yy}|{Nuova}|{Numero:0000}"_s), u"3,3|5/11/26|x|inf"_s);
 }
 
 TEST(Biglietto, ScrivePdfEImmagine) {
