@@ -185,7 +185,7 @@ TEST_F(ProvaBoccuccia, LaVoceDiSistemaParlaOppureDiceIlMotivo) {
     installa("echo Nessun servizio >&2; exit 1");
     clicca(*form, "PushButton1");
     EXPECT_TRUE(attendi(u"Nessun servizio")) << stato.Caption().toStdString();
-    installa("exec /bin/sleep 60");
+    installa("[ \"$1\" = --cancel ] || exec /bin/sleep 60");
     clicca(*form, "PushButton1");
     EXPECT_TRUE(attendi(u"in corso")) << stato.Caption().toStdString();
     form.reset(); // at once

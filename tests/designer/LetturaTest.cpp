@@ -113,6 +113,8 @@ TEST_F(Lettura, AShortTableLeavesTheOtherElementsAndSavesOnlyItsRows) {
     esegui(u"delete from Layout1"_s);
     leggi();
     EXPECT_EQ(esito.righe, 0);
+    esegui(u"drop table Layout1"_s);
+    EXPECT_THROW(leggi(), EngineError);
 }
 
 TEST_F(Lettura, BackgroundThatCannotBeLoadedDoesNotReachTheLabel) {
@@ -196,13 +198,6 @@ TEST_F(Lettura, PlanesStackLaterRowsAboveInFrontAndBelowBehind) {
     EXPECT_LT(ordine.indexOf(u"Text2"_s), ordine.indexOf(u"Image1(1)"_s));
     EXPECT_LT(ordine.indexOf(u"Image1(1)"_s), ordine.indexOf(u"Image1(3)"_s));
     EXPECT_EQ(ordine.size(), 44);
-}
-
-TEST_F(Lettura, ATableThatCannotBeReadIsNotOpenedForEditing) {
-    DisplayLayout layout(u"Layout1"_s);
-    EXPECT_THROW(CaricaLayout(layout, immagini, cartella() + u"/altrove"_s), EngineError);
-    esegui(u"drop table Layout1"_s);
-    EXPECT_THROW(CaricaLayout(layout, immagini, cartella()), EngineError);
 }
 
 } // namespace

@@ -2,10 +2,10 @@
 #include "designer/logic/AnteprimaTG.h"
 #include "designer/logic/Finestra.h"
 
+#include "designer/logic/Selezione.h"
 #include "kit/ArchivioLayout.h"
-#include "shell/store/EngineError.h"
 
-#include <QRect>
+#include <QRegion>
 
 namespace zuvora::prova {
 
@@ -16,40 +16,20 @@ protected:
     DisplayLayout layout{u"Layout1"_s};
 };
 
-// Index, left and top in twips, tool tip, caption.
-TEST_F(Strumenti, EveryButtonStandsInItsPlaceAndSaysWhatItDoes) {
-    const QStringList attesi{
-        u"0 120 840 735| Testo Scorrevole |"_s,
-        u"1 120 240 1575| Servizio| Pannelli"_s,
-        u"2 960 840 735|Titolo |"_s,
-        u"3 120 1440 735| Sottotitolo |"_s,
-        u"4 960 1440 735| Data |"_s,
-        u"5 1800 840 735| Ora|"_s,
-        u"6 120 2040 735| Sfondo |"_s,
-        u"7 960 2040 735| Colore Sfondo |"_s,
-        u"8 1800 1440 735| Decorazioni |"_s,
-        u"9 1800 2040 735| Immagini |"_s,
-        u"10 120 2640 735| Video |"_s,
-        u"12 1800 2640 735| Meteo |"_s,
-        u"14 960 2640 735| Individua posizione Secondo Schermo |"_s,
-        u"15 960 3240 735| Salva Posizione Finestra|"_s,
-        u"16 1800 3240 735| Salva Impostazioni|"_s,
-        u"17 120 3840 2415| Chiudi Impostazione Layout |"_s,
-        u"22 120 3240 735| PlayList YouTube|"_s,
-    };
-    QStringList visti;
-    for (const BottoneStrumenti &b : bottoniStrumenti())
-        visti << u"%1 %2 %3 %4|%5|%6"_s.arg(b.indice).arg(b.left).arg(b.top).arg(b.width).arg(b.suggerimento,
-                                                                                              b.didascalia);
-    EXPECT_EQ(visti, attesi);
-    EXPECT_EQ(bottoneStrumenti(22)->indice, 22);
+TEST_F(Strumenti, ButtonsStandInTheirGridNoneOverAnotherAndEachSaysSomethingElse) {
+    QRegion occupata;
+    QSet<QString> detti;
+    for (const BottoneStrumenti &b : bottoniStrumenti()) {
+        const QRect posto(b.left, b.top, b.width, altezzaBottone);
+        EXPECT_TRUE((b.left - 120) % 840 == 0 && (b.width + 105) % 840 == 0 && (b.top - 240) % 600 == 0) << b.indice;
+        EXPECT_FALSE(occupata.intersects(posto)) << b.indice;
+        occupata += posto;
+        detti << b.suggerimento.trimmed().toString();
+        EXPECT_EQ(bottoneStrumenti(b.indice), &b);
+    }
+    EXPECT_EQ(occupata.boundingRect(), QRect(120, 240, 2415, 3600 + altezzaBottone));
+    EXPECT_EQ(detti.size(), qsizetype(bottoniStrumenti().size()));
     EXPECT_EQ(bottoneStrumenti(11), nullptr);
-    EXPECT_EQ(piazzati(layout, *bottoneStrumenti(1)), 1);
-    EXPECT_EQ(piazzati(layout, *bottoneStrumenti(8)), 0);
-    EXPECT_EQ(piazzati(layout, *bottoneStrumenti(3)), 1);
-    layout.elemento(TipoElemento::Text9, 1).visibile = false;
-    EXPECT_EQ(piazzati(layout, *bottoneStrumenti(3)), 0);
-    EXPECT_EQ(piazzati(layout, *bottoneStrumenti(16)), 0);
 }
 
 TEST_F(Strumenti, TheLowestFreeSlotIsTakenUntilAllAreUsed) {
@@ -68,33 +48,19 @@ TEST_F(Strumenti, TheLowestFreeSlotIsTakenUntilAllAreUsed) {
     EXPECT_EQ(piazzaPannello(layout), std::nullopt);
 }
 
-TEST_F(Strumenti, PreviewGrowsInStepsAndNeverShrinksBelowOne) {
-    AnteprimaTG anteprima({250, 300});
-    EXPECT_EQ(anteprima.GB1(), (Dimensione{490, 780}));
-    anteprima.Allarga();
-    anteprima.Abbassa();
-    EXPECT_EQ(anteprima.A1(), u"350"_s);
-    EXPECT_EQ(anteprima.A2(), u"200"_s);
-    anteprima.Alza();
-    for (int i = 0; i < 9; ++i)
-        anteprima.Stringi();
-    EXPECT_EQ(anteprima.WB22(), (Dimensione{100, 300}));
-    AnteprimaTG piatta({0, 70000}); // out of range: a step leads back, never further out
-    piatta.Stringi();
-    piatta.Alza();
-    EXPECT_EQ(piatta.WB22(), (Dimensione{0, 70000}));
-    piatta.Allarga();
-    piatta.Abbassa();
-    EXPECT_EQ(piatta.WB22(), (Dimensione{100, 69900}));
-}
-
-TEST_F(Strumenti, PreviewGivesBackOnlyNumbersInRange) {
+TEST_F(Strumenti, PreviewGivesBackOnlyNumbersInRangeAndStepsIntoIt) {
     for (const auto &testo : {u""_s, u"abc"_s, u"99"_s, u"-100"_s, u"60001"_s, u"nan"_s, u"12 34"_s}) {
         EXPECT_EQ(AnteprimaTG::leggi(testo, u"400"_s), std::nullopt) << testo.toStdString();
         EXPECT_EQ(AnteprimaTG::leggi(u"400"_s, testo), std::nullopt) << testo.toStdString();
     }
     EXPECT_EQ(AnteprimaTG::leggi(u" 6375,5 "_s, u"60000"_s), (Dimensione{6375.5, 60000}));
-    EXPECT_EQ(AnteprimaTG::leggi(u"100"_s, u"100"_s), (Dimensione{100, 100}));
+    AnteprimaTG piatta({150, 70000}); // a step from out of range leads back, never further out
+    for (int volta = 0; volta < 2; ++volta)
+        piatta.Stringi();
+    piatta.Alza();
+    EXPECT_EQ(piatta.WB22(), (Dimensione{100, 70000}));
+    piatta.Abbassa();
+    EXPECT_EQ(piatta.WB22(), (Dimensione{100, 69900}));
 }
 
 // Geometry, font, colours, style and text of a form that nobody has changed.
@@ -114,14 +80,9 @@ TEST(ValoriIniziali, AreThoseOfTheFormsDefinition) {
     };
     const std::pair<QString, QString> casi[] = {
         {u"Text1(0)"_s, u"960 2880 4935 3375|Tahoma 126|4210752 16777215|2|0"_s},
-        {u"Text1(21)"_s, u"960 2880 4935 3375|Tahoma 128.25|4210752 16777215|2|0"_s},
-        {u"Text1(1)"_s, u"240 240 6615 735|Tahoma 27.75|4210752 16777215|0|Postazione 1"_s},
         {u"Text1(22)"_s, u"120 240 6615 735|Tahoma 27.75|4210752 16777215|0|Postazione 8"_s},
-        {u"Text1(5)"_s, u"240 1200 6615 720|Arial 27.75|12632256 0|0t|Servizio (2)"_s},
         {u"Text1(14)"_s, u"240 1080 6615 720|Arial 27.75|12632256 0|0t|Servizio (5)"_s},
-        {u"Text1(17)"_s, u"360 1200 6615 720|Arial 27.75|12632256 0|0t|Servizio (6)"_s},
         {u"Text9(0)"_s, u"7320 240 9735 810|Tahoma 36|12632256 0|0t|Titolo della Schermata"_s},
-        {u"Text9(1)"_s, u"6840 1080 7575 570|Tahoma 24|12632256 0|0t|Sottotitolo della Schermata"_s},
         {u"Text9(2)"_s, u"12480 8280 6255 495|Tahoma 18b|4210752 16777215|2|Giovedi 29 Settembre 2011"_s},
         {u"Text9(3)"_s, u"12480 8880 6255 1215|Tahoma 48b|4210752 16777215|2|20:45"_s},
         {u"Text2"_s, u"13440 13200 10695 495|Tahoma 14.25|0 16777215|0|Testo scorrevole"_s},
@@ -129,12 +90,11 @@ TEST(ValoriIniziali, AreThoseOfTheFormsDefinition) {
     const DisplayLayout layout(u"Layout1"_s);
     for (const auto &[nome, atteso] : casi)
         EXPECT_EQ(detto(layout[DisplayLayout::postoDi(nome)]), atteso) << nome.toStdString();
-    const std::pair<QString, Area> riquadri[] = {
-        {u"IM1"_s, {17280, 8160, 9615, 6615}},         {u"MP1"_s, {14280, 4680, 8775, 6135}},
-        {u"WB1"_s, {6600, 9360, 6765, 5055}},          {u"WB2"_s, {14640, 1440, 8775, 5895}},
-        {u"LeNews"_s, {6600, 11400, 7590, 1380}},      {u"YT"_s, {10440, 2280, 6375, 5055}},
-        {u"Image1(25)"_s, {0, 17000, 1905, 1305}},     {u"Pannello1(0)"_s, {1000, 1000, 7005, 6495}},
-        {u"Pannello1(7)"_s, {1000, 23000, 7005, 6495}}};
+    const std::pair<QString, Area> riquadri[] = {{u"IM1"_s, {17280, 8160, 9615, 6615}},
+                                                 {u"LeNews"_s, {6600, 11400, 7590, 1380}},
+                                                 {u"Image1(25)"_s, {0, 17000, 1905, 1305}},
+                                                 {u"Pannello1(0)"_s, {1000, 1000, 7005, 6495}},
+                                                 {u"Pannello1(7)"_s, {1000, 23000, 7005, 6495}}};
     for (const auto &[nome, area] : riquadri)
         EXPECT_EQ(layout[DisplayLayout::postoDi(nome)].area, area) << nome.toStdString();
     EXPECT_EQ(layout.elemento(TipoElemento::Pannello1, 3).coloreSfondo, 12632256);
@@ -182,20 +142,60 @@ TEST(Finestra, OnlyALargerFormIsShiftedAndOnlyToItsEdges) {
     EXPECT_EQ(scorri({140, 50, 1500, 900}, schermo, {-20, 0}), QPoint(120, 50));
 }
 
-class FinestraSalvata : public ArchivioLayout {};
+// The actions of a press by their letters, in the order of the enumeration.
+QString azioni(TipoElemento tipo, Qt::MouseButton bottone, bool base) {
+    static const QString lettere = u"rdstplfcamgn"_s;
+    QString esito;
+    for (const AzionePressione a : azioniPressione(tipo, bottone, base))
+        esito += lettere[static_cast<int>(a)];
+    return esito;
+}
 
-TEST_F(FinestraSalvata, PositionAndNewsAddressComeFromTheirRows) {
-    EXPECT_EQ(leggiPercorsoTG(cartella()), QString()); // no row at all
-    esegui(u"insert into Configurazione default values; insert into TG default values"_s);
-    EXPECT_EQ(leggiPosizioneFinestra(cartella()), PuntoTwips{}); // Null
-    EXPECT_EQ(leggiPercorsoTG(cartella()), QString());
-    esegui(u"update TG set PercorsoURL='https://notizie.example/'"_s);
-    SalvaPosizioneFinestra(cartella(), {28820, -15});
-    EXPECT_EQ(leggiPosizioneFinestra(cartella()), (PuntoTwips{28820, -15}));
-    EXPECT_EQ(leggiPercorsoTG(cartella()), u"https://notizie.example/"_s);
-    EXPECT_EQ(VaiSecondoSchermo(28800), (PuntoTwips{28820, 0}));
-    esegui(u"drop table TG"_s);
-    EXPECT_THROW(leggiPercorsoTG(cartella()), EngineError);
+// Left and right in any layout, then left, right and middle in the base: r the caption goes back, d it names the
+// decoration, s selects, t outline, p live drag, l flash, f Form2, c decoration form, a news box, m menu, g shifts the
+// form, n hides the handles.
+TEST(Selezione, EveryElementAnswersTheMouseAsTold) {
+    const QStringList attese{u"Text1 rsp rlf - - g"_s,    u"Text2 st lf - - g"_s,        u"Text9 rst rlf - - g"_s,
+                             u"Pannello1 rst fr - f g"_s, u"Image1 dst dlc dst dlc g"_s, u"IM1 rst r - - g"_s,
+                             u"MP1 rst r - - g"_s,        u"LeNews rst r - - g"_s,       u"YT rst r - - g"_s,
+                             u"WB1 rst rl - - g"_s,       u"WB2 rst ra - - g"_s,         u"Form1 n - m m m"_s};
+    for (const QString &attesa : attese) {
+        const QString nome = attesa.section(u' ', 0, 0);
+        auto tipo = TipoElemento::Text1;
+        while (nomeTipo(tipo) != nome)
+            tipo = static_cast<TipoElemento>(static_cast<int>(tipo) + 1);
+        QStringList viste{nome};
+        for (const auto &[bottone, base] :
+             {std::pair(Qt::LeftButton, false), std::pair(Qt::RightButton, false), std::pair(Qt::LeftButton, true),
+              std::pair(Qt::RightButton, true), std::pair(Qt::MiddleButton, true)}) {
+            const QString vista = azioni(tipo, bottone, base);
+            viste << (vista.isEmpty() ? u"-"_s : vista);
+        }
+        EXPECT_EQ(viste.join(u' '), attesa);
+        EXPECT_EQ(azioni(tipo, Qt::MiddleButton, false), u"g"_s);
+    }
+}
+
+TEST(Rimozione, ParksTheElementBelowTheScreen) {
+    const std::tuple<QString, QString, PuntoTwips> casi[] = {{u"Pannello1(6)"_s, u"Pannello1(6)"_s, {1000, 23000}},
+                                                             {u"Text1(20)"_s, u"Pannello1(6)"_s, {1000, 23000}},
+                                                             {u"Image1(25)"_s, u"Image1(25)"_s, {0, 17000}},
+                                                             {u"Text2"_s, u"Text2"_s, {0, 18000}},
+                                                             {u"LeNews"_s, u"LeNews"_s, {0, 18000}}};
+    for (const auto &[selezionato, tolto, posto] : casi) {
+        DisplayLayout layout(u"Layout1"_s);
+        LayoutElement &e = layout[DisplayLayout::postoDi(tolto)];
+        e.area = {500, 600, 700, 800};
+        e.visibile = true;
+        for (int volta = 0; volta < 2; ++volta) { // twice does the same as once
+            EXPECT_TRUE(parcheggia(layout, selezionato));
+            EXPECT_EQ(e.area, (Area{posto.left, posto.top, 700, 800})) << selezionato.toStdString();
+            EXPECT_FALSE(e.visibile);
+        }
+    }
+    DisplayLayout layout(u"Layout1"_s);
+    for (const auto &nome : {u""_s, u"Image1(0)"_s, u"Text9(4)"_s, u"Text1"_s, u"Form1"_s, u"Label2"_s, u"wb1"_s})
+        EXPECT_FALSE(parcheggia(layout, nome)) << nome.toStdString();
 }
 
 } // namespace

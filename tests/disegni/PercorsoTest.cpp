@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <ostream>
 
 namespace zuvora {
 namespace {
@@ -12,40 +11,34 @@ struct Caso {
     const char *dati;
     const char *uguale; // the same outline, written with other commands
 };
-void PrintTo(const Caso &c, std::ostream *o) {
-    *o << c.dati;
-}
 
-class PercorsoUguale : public testing::TestWithParam<Caso> {};
-
-TEST_P(PercorsoUguale, DaLaStessaLinea) {
-    const QPainterPath letto = leggiPercorso(GetParam().dati);
-    const QPainterPath atteso = leggiPercorso(GetParam().uguale);
-    ASSERT_FALSE(atteso.isEmpty());
-    ASSERT_EQ(letto.elementCount(), atteso.elementCount());
-    for (int i = 0; i < letto.elementCount(); ++i) {
-        EXPECT_EQ(letto.elementAt(i).type, atteso.elementAt(i).type) << i;
-        EXPECT_NEAR(letto.elementAt(i).x, atteso.elementAt(i).x, 1e-9) << i;
-        EXPECT_NEAR(letto.elementAt(i).y, atteso.elementAt(i).y, 1e-9) << i;
+TEST(Percorso, DaLaStessaLineaComunqueSiaScritto) {
+    const Caso casi[] = {Caso{"M1 2l3 4", "M1 2L4 6"},          // relative
+                         Caso{"m1 2 3 4", "M1 2L4 6"},          // pairs after a move are lines
+                         Caso{"M1,2L4,6", " M 1 2\n L +4\t6 "}, // separators
+                         Caso{"M1 2H4V6h-2v-1", "M1 2L4 2L4 6L2 6L2 5"},
+                         Caso{"M.5-.5L1.5.5", "M0.5 -0.5L1.5 0.5"}, // numbers without blanks
+                         Caso{"M1e1 2E-1h1", "M10 .2L11 .2"},
+                         Caso{"M1 1c1 0 2 1 2 2 1 1 2 2 3 3", "M1 1C2 1 3 2 3 3C4 4 5 5 6 6"},
+                         Caso{"M1 1q1 0 2 2", "M1 1Q2 1 3 3"},
+                         Caso{"M5 5h2v2zl1 1", "M5 5L7 5L7 7ZM5 5L6 6"}, // on from the start of the part
+                         Caso{"M0 0m2 2l1 1", "M2 2L3 3"},
+                         Caso{"M0 0a5 5 0 0110 0", "M0 0A5 5 0 0 1 10 0"},    // flags need no blanks
+                         Caso{"M0 0A0 5 0 0 1 9 9", "M0 0L9 9"},              // a flat arc is a line
+                         Caso{"M0 0A1 1 0 0 1 10 0", "M0 0A5 5 0 0 1 10 0"}}; // radii grow to reach
+    for (const Caso &caso : casi) {
+        SCOPED_TRACE(caso.dati);
+        const QPainterPath letto = leggiPercorso(caso.dati);
+        const QPainterPath atteso = leggiPercorso(caso.uguale);
+        ASSERT_FALSE(atteso.isEmpty());
+        ASSERT_EQ(letto.elementCount(), atteso.elementCount());
+        for (int i = 0; i < letto.elementCount(); ++i) {
+            EXPECT_EQ(letto.elementAt(i).type, atteso.elementAt(i).type) << i;
+            EXPECT_NEAR(letto.elementAt(i).x, atteso.elementAt(i).x, 1e-9) << i;
+            EXPECT_NEAR(letto.elementAt(i).y, atteso.elementAt(i).y, 1e-9) << i;
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Scritture, PercorsoUguale,
-                         testing::Values(Caso{"M1 2l3 4", "M1 2L4 6"},          // relative
-                                         Caso{"m1 2 3 4", "M1 2L4 6"},          // pairs after a move are lines
-                                         Caso{"M1,2L4,6", " M 1 2\n L +4\t6 "}, // separators
-                                         Caso{"M1 2H4V6h-2v-1", "M1 2L4 2L4 6L2 6L2 5"},
-                                         Caso{"M.5-.5L1.5.5", "M0.5 -0.5L1.5 0.5"}, // numbers without blanks
-                                         Caso{"M1e1 2E-1h1", "M10 .2L11 .2"},
-                                         Caso{"M1 1c1 0 2 1 2 2 1 1 2 2 3 3", "M1 1C2 1 3 2 3 3C4 4 5 5 6 6"},
-                                         Caso{"M1 1q1 0 2 2", "M1 1Q2 1 3 3"},
-                                         Caso{"M5 5h2v2zl1 1",
-                                              "M5 5L7 5L7 7ZM5 5L6 6"}, // on from the start of the part
-                                         Caso{"M0 0m2 2l1 1", "M2 2L3 3"},
-                                         Caso{"M0 0a5 5 0 0110 0", "M0 0A5 5 0 0 1 10 0"},  // flags need no blanks
-                                         Caso{"M0 0A0 5 0 0 1 9 9", "M0 0L9 9"},            // a flat arc is a line
-                                         Caso{"M0 0A1 1 0 0 1 10 0", "M0 0A5 5 0 0 1 10 0"} // radii grow to reach
-                                         ));
 
 // The four arcs over the same two points: which side the curve runs on, and how far.
 TEST(PercorsoArco, BandiereEVersoCoincidonoConIlCerchio) {

@@ -68,7 +68,7 @@ TEST(Biglietto, LeVariabiliVengonoDalRecordStesso) {
     mettiValore(valori, u"Nuova"_s, u"x"_s);
     mettiValore(valori, u"Ora"_s, u"14:30"_s);
     mettiValore(valori, u"Numero"_s, u"inf"_s); // a word, not a number
-    EXPECT_EQ(valori.componi(u"{Attesa:0,0}|{Data:d/M/yy}|{Nuova}|{Numero:0}|{Ora:H mm}"_s),
+    EXPECT_EQ(valori.componi(u"{Attesa:0,0}|{Data:d/M/yy}|{Nuova}|{Numero:0000}|{Ora:H mm}"_s),
               u"3,3|5/11/26|x|inf|14 30"_s);
 }
 

@@ -1,7 +1,5 @@
 #include "installer/Banco.h"
 
-#include "kit/Fratello.h"
-
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>

@@ -1,17 +1,12 @@
 #pragma once
 
 #include "installer/Crea.h"
+#include "kit/Fratello.h"
 
 #include <QMap>
 #include <QString>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-#include <ostream>
-
-// Readable texts in failures.
-inline void PrintTo(const QString &testo, std::ostream *dove) {
-    *dove << '"' << testo.toStdString() << '"';
-}
 
 // What the tests of the installer share.
 namespace prova {

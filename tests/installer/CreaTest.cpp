@@ -2,41 +2,18 @@
 #include "installer/Cantiere.h"
 #include "installer/Interruzione.h"
 #include "installer/Verifica.h"
+#include "store/Ostacoli.h"
 
 #include <QDir>
 #include <QFile>
-#include <csignal>
 #include <functional>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace zuvora::installa;
 using namespace prova;
+using zuvora::prova::LimiteFile;
 
 namespace {
-// No file may grow beyond `byte` while this lives: writes fail as on a full disk.
-class DiscoStretto {
-public:
-    explicit DiscoStretto(rlim_t byte) {
-        m_segnale = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_prima);
-        const rlimit stretto{byte, m_prima.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &stretto);
-    }
-    ~DiscoStretto() {
-        setrlimit(RLIMIT_FSIZE, &m_prima);
-        std::signal(SIGXFSZ, m_segnale);
-    }
-    DiscoStretto(const DiscoStretto &) = delete;
-    DiscoStretto &operator=(const DiscoStretto &) = delete;
-
-private:
-    rlimit m_prima{};
-    void (*m_segnale)(int);
-};
-
 // A folder with a program and data beside it, as small as can be.
 void creaOrigine(const QString &cartella) {
     for (const auto nome : {"ZuvoraDecorazioni/Cornici", "ZuvoraSfondiHD", "Suoni", "plugins"})
@@ -79,36 +56,26 @@ TEST_F(Crea, IlProgrammaEICopiatoConIPlugin) {
     EXPECT_FALSE(QFile::exists(cartella + u"/libaltro.so"_s));
 }
 
-struct Rifiuto {
-    const char *nome;
-    const char *presente; // file that is there before
-    const char *cartella;
-    const char *frase;
-};
-void PrintTo(const Rifiuto &caso, std::ostream *dove) {
-    *dove << caso.nome;
+TEST_F(Crea, NullaCambiaSeLaCartellaNonServe) {
+    const struct {
+        const char *presente; // file that is there before
+        const char *cartella;
+        const char *frase;
+    } casi[] = {{"a/Zuvora.mdb", "a", "c'è già un archivio (Zuvora.mdb)"},
+                {"b/ZUVORA.MDB", "b", "c'è già un archivio"},
+                {"c/vecchio.mdb", "c", "c'è già un archivio"},
+                {"d/mie/note.txt", "d", "c'è già mie"},
+                {"e", "e", "non è una cartella"},
+                {"f", "f/nuova/impianto", "non è una cartella"}};
+    for (const auto &caso : casi) {
+        scrivi(QString::fromUtf8(caso.presente), "contenuto");
+        const auto prima = istantanea(percorso());
+        const Esito esito = creaInstallazione(opzioni(percorso(QString::fromUtf8(caso.cartella)), true));
+        EXPECT_FALSE(esito.riuscito);
+        EXPECT_TRUE(esito.messaggio.contains(QString::fromUtf8(caso.frase))) << qPrintable(esito.messaggio);
+        EXPECT_EQ(istantanea(percorso()), prima);
+    }
 }
-class Rifiuti : public Banco, public testing::WithParamInterface<Rifiuto> {};
-
-TEST_P(Rifiuti, NullaCambia) {
-    const Rifiuto &caso = GetParam();
-    scrivi(QString::fromUtf8(caso.presente), "contenuto");
-    const auto prima = istantanea(percorso());
-    const Esito esito = creaInstallazione(opzioni(percorso(QString::fromUtf8(caso.cartella)), true));
-    EXPECT_FALSE(esito.riuscito);
-    EXPECT_TRUE(esito.messaggio.contains(QString::fromUtf8(caso.frase))) << qPrintable(esito.messaggio);
-    EXPECT_EQ(istantanea(percorso()), prima);
-}
-
-INSTANTIATE_TEST_SUITE_P(, Rifiuti,
-                         testing::Values(Rifiuto{"archivio", "i/Zuvora.mdb", "i", "c'è già un archivio (Zuvora.mdb)"},
-                                         Rifiuto{"archivio_in_altre_lettere", "i/ZUVORA.MDB", "i",
-                                                 "c'è già un archivio"},
-                                         Rifiuto{"altro_archivio", "i/vecchio.mdb", "i", "c'è già un archivio"},
-                                         Rifiuto{"cartella_non_vuota", "i/mie/note.txt", "i", "c'è già mie"},
-                                         Rifiuto{"file_al_posto_della_cartella", "i", "i", "non è una cartella"},
-                                         Rifiuto{"file_nel_percorso", "i", "i/nuova/impianto", "non è una cartella"}),
-                         [](const auto &caso) { return caso.param.nome; });
 
 TEST_F(Crea, SenzaProgrammaOImmaginiAccantoSiFerma) {
     const QString origine = percorso(u"origine"_s);
@@ -133,7 +100,7 @@ TEST_F(Crea, UnDiscoCheSiRiempieNonLasciaTracce) {
         for (const auto &cartella : {u"nuovo"_s, u"altro/nuovissimo"_s}) {
             Esito esito{};
             {
-                const DiscoStretto disco(static_cast<rlim_t>(limite));
+                const LimiteFile disco(limite);
                 esito = creaInstallazione(opzioni(percorso(cartella), true));
             }
             EXPECT_FALSE(esito.riuscito) << limite;

@@ -93,10 +93,3 @@ TEST_F(Strumento, AggiornaPortaIlProgrammaELasciaIDati) {
     EXPECT_TRUE(aggiornaInstallazione(percorso(u"macchina"_s), percorso(u"macchina"_s))
                     .messaggio.contains(u"non c'è un'installazione"_s));
 }
-
-TEST_F(Strumento, CreaRifiutaConUno) {
-    scrivi(u"piena/Zuvora.mdb"_s, "x");
-    const Risposta r = strumento({u"crea"_s, u"--esempio"_s, percorso(u"piena"_s)});
-    EXPECT_EQ(r.uscita, 1);
-    EXPECT_TRUE(r.testo.contains(u"c'è già un archivio"_s)) << qPrintable(r.testo);
-}

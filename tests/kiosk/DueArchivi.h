@@ -8,11 +8,6 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-// Readable failures.
-inline void PrintTo(const QString &s, std::ostream *os) {
-    *os << '"' << s.toStdString() << '"';
-}
-
 namespace zuvora::prova {
 
 using namespace Qt::Literals::StringLiterals;

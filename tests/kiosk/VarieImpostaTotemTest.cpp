@@ -1,15 +1,13 @@
 #include "kiosk/forms/VarieImpostaTotem.h"
 #include "kiosk/forms/Impostazione.h"
 #include "kit/FintoSistema.h"
+#include "kit/Fratello.h"
 #include "kit/Guida.h"
 #include "kit/InstallazioneProva.h"
-#include "shell/store/EngineError.h"
-#include "store/Ostacoli.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTest>
-#include <sqlite3.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -47,18 +45,7 @@ protected:
     }
     // The numbers as the kiosk's database has them.
     QString numero(const QString &colonna, const QString &tabella = u"Numerazione"_s) const {
-        sqlite3 *db = nullptr;
-        QString testo;
-        sqlite3_open(totem().toUtf8().constData(), &db);
-        sqlite3_exec(
-            db, u"SELECT ifnull(%1,'NULL') FROM %2"_s.arg(colonna, tabella).toUtf8().constData(),
-            [](void *dove, int, char **valori, char **) {
-                *static_cast<QString *>(dove) = QString::fromUtf8(valori[0]);
-                return 0;
-            },
-            &testo, nullptr);
-        sqlite3_close(db);
-        return testo;
+        return Fratello(totem()).righe(u"SELECT %1 FROM %2"_s.arg(colonna, tabella)).value(0);
     }
     void aspettaProva(QWidget &form) {
         ASSERT_TRUE(QTest::qWaitFor([&] { return trova<Label>(form, "Label2").Caption().isEmpty(); }));
@@ -68,7 +55,6 @@ protected:
 };
 
 TEST_F(ProvaVarie, AKioskThatIsNotThereClosesTheFormWithItsBox) {
-    QFile vuoto(i.file(u"vuota"_s));
     for (const QString &cartella : {u""_s, i.file(u"manca"_s), i.file(u"Suoni"_s), u"\\\\ALTRO\\Totem"_s}) {
         percorso(cartella);
         VarieImpostaTotem(i.ambiente, nullptr).mostraModale();
@@ -83,43 +69,8 @@ TEST_F(ProvaVarie, AKioskThatIsNotThereClosesTheFormWithItsBox) {
     EXPECT_EQ(i.dialoghi.unicoMessaggio(), nonRaggiungibile);
 }
 
-TEST_F(ProvaVarie, AKioskThatNeverAnswersCountsAsMissing) {
-    const auto sistema = std::make_shared<FintoSistema>();
-    sistema->muta = u"/lontano"_s;
-    percorso(u"/lontano/Totem"_s);
-    i.ambiente.percorsi = Percorsi(sistema);
-    VarieImpostaTotem form(i.ambiente, nullptr);
-    QElapsedTimer orologio;
-    orologio.start();
-    form.mostraModale();
-    EXPECT_LE(orologio.elapsed(), 5000);
-    EXPECT_EQ(i.dialoghi.unicoMessaggio(), nonRaggiungibile);
-    sistema->risveglia();
-}
-
-TEST_F(ProvaVarie, EveryFormOfThePathReachesTheKiosk) {
-    const QString nativo = i.file(u"Totem"_s);
-    ASSERT_TRUE(QDir(i.cartella()).rename(u"Totem"_s, u"Sala d'età"_s));
-    const QString speciale = i.file(u"Sala d'età"_s);
-    for (QString cartella : {speciale, speciale + u'/', u"C:"_s + QString(speciale).replace(u'/', u'\\'),
-                             u"\\\\localhost"_s + QString(speciale).replace(u'/', u'\\') + u'\\'}) {
-        percorso(cartella.replace(u'\'', u"''"_s));
-        VarieImpostaTotem form(i.ambiente, nullptr);
-        guida.quando("VarieImpostaTotem", [&](QWidget &w) {
-            aspettaProva(w);
-            QTest::mouseClick(&trova<QWidget>(w, "PB1(3)"), Qt::LeftButton);
-            QTest::keyClick(&w, Qt::Key_Escape);
-        });
-        guida.quando("Impostazione", [](QWidget &w) {
-            EXPECT_EQ(trova<Edit>(w, "NumIniz(20)").text(), u"1"_s);
-            QTest::keyClick(&w, Qt::Key_Escape);
-        });
-        form.mostraModale();
-        EXPECT_TRUE(i.dialoghi.prendiBox().empty()) << cartella.toStdString();
-    }
-}
-
 TEST_F(ProvaVarie, AKioskThatGoesAwayIsNoticedOnTheReturn) {
+    percorso(u"\\\\localhost"_s + i.file(u"Totem"_s).replace(u'/', u'\\') + u'\\');
     VarieImpostaTotem form(i.ambiente, nullptr);
     guida.quando("VarieImpostaTotem",
                  [](QWidget &w) { QTest::mouseClick(&trova<QWidget>(w, "PB1(3)"), Qt::LeftButton); });
@@ -241,29 +192,17 @@ TEST_F(ProvaImpostazione, AWriteThatFailsIsToldAndKeepsWhatWasTyped) {
     EXPECT_EQ(casella("Modifnr(4)").text(), u"123456789012345678901234567890"_s);
     EXPECT_EQ(numero(u"P4"_s), u"0"_s);
 
-    sqlite3 *kiosk = nullptr;
-    sqlite3_open(totem().toUtf8().constData(), &kiosk);
-    sqlite3_exec(kiosk, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+    std::optional<Fratello> kiosk(totem());
+    kiosk->esegui(u"BEGIN EXCLUSIVE"_s);
     scrivi("Modifnr(5)", "17");
     QTest::mouseClick(&trova<QWidget>(*form, "Na1(5)"), Qt::LeftButton);
     const QString detto = i.dialoghi.unicoMessaggio();
     EXPECT_TRUE(detto.contains(u"altro programma"_s)) << detto.toStdString();
     EXPECT_EQ(casella("Modifnr(5)").text(), u"17"_s);
-    sqlite3_close(kiosk);
+    kiosk.reset();
     QTest::mouseClick(&trova<QWidget>(*form, "Na1(5)"), Qt::LeftButton);
     EXPECT_EQ(i.dialoghi.unicoMessaggio(), u"Numero Modificato !"_s);
     EXPECT_EQ(numero(u"P5"_s), u"17"_s);
-}
-
-TEST_F(ProvaImpostazione, AFullDiskIsTold) {
-    scrivi("NumIniz(2)", "77");
-    {
-        const prova::LimiteFile pieno(512);
-        QTest::mouseClick(&trova<QWidget>(*form, "Salvain"), Qt::LeftButton);
-    }
-    EXPECT_TRUE(i.dialoghi.unicoMessaggio().contains(u"TotemZuvora.mdb"_s));
-    EXPECT_EQ(casella("NumIniz(2)").text(), u"77"_s);
-    EXPECT_EQ(numero(u"P2"_s, u"NumerazioneIniziale"_s), u"1"_s);
 }
 
 TEST_F(ProvaImpostazione, AKioskThatFallsSilentIsToldInTime) {
@@ -280,17 +219,6 @@ TEST_F(ProvaImpostazione, AKioskThatFallsSilentIsToldInTime) {
     sistema->risveglia();
     // What was asked may still be done, and must be over before its file goes.
     EXPECT_TRUE(QTest::qWaitFor([this] { return numero(u"P1"_s) == u"9"_s; }));
-}
-
-TEST_F(ProvaVarie, AnUnusableDatabaseOpensNoNumbering) {
-    for (const QByteArray &contenuto : {QByteArray(), QByteArray(5000, 'x')}) {
-        QFile file(totem());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(contenuto);
-        file.close();
-        EXPECT_THROW(Impostazione(i.ambiente, i.file(u"Totem"_s), nullptr), EngineError);
-        EXPECT_EQ(file.size(), contenuto.size());
-    }
 }
 
 } // namespace

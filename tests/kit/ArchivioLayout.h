@@ -11,24 +11,15 @@
 #include <gtest/gtest.h>
 #include <optional>
 
-// Readable failures.
-inline void PrintTo(const QString &s, std::ostream *os) {
-    *os << '"' << s.toStdString() << '"';
-}
-
 namespace zuvora::prova {
 
 using namespace Qt::Literals::StringLiterals;
 
-// Takes every picture but those it is told to miss, and notes what it was asked for.
+// Takes every picture but those it is told to miss.
 class FinteImmagini final : public CaricatoreImmagini {
 public:
-    bool carica(const QString &percorso) override {
-        chieste.append(percorso);
-        return !mancanti.contains(percorso);
-    }
+    bool carica(const QString &percorso) override { return !mancanti.contains(percorso); }
     QSet<QString> mancanti;
-    QStringList chieste;
 };
 
 // A settings database with the installed schema, as another program sees it.
@@ -54,9 +45,9 @@ protected:
     // Every column of every row.
     QStringList tabella(const QString &nome) { return interroga(u"select * from "_s + nome); }
     // Rows with nothing but their description.
-    void righeVuote(const QString &tabella, int quante = righeLayout) {
+    void righeVuote(const QString &tabella) {
         esegui(u"with recursive n(i) as (select 1 union all select i+1 from n where i<%1) "
-               "insert into %2(DescCampo) select 'riga '||i from n"_s.arg(quante)
+               "insert into %2(DescCampo) select 'riga '||i from n"_s.arg(righeLayout)
                    .arg(tabella));
     }
     Recordset &apri(Data &dato, const QString &sorgente) const { return zuvora::apri(dato, cartella(), sorgente); }

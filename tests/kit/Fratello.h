@@ -3,8 +3,14 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <ostream>
 #include <sqlite3.h>
 #include <stdexcept>
+
+// Readable failures.
+inline void PrintTo(const QString &s, std::ostream *os) {
+    *os << '"' << s.toStdString() << '"';
+}
 
 namespace zuvora {
 
@@ -49,7 +55,6 @@ public:
         });
         return tutte;
     }
-    sqlite3 *db() { return m_db; }
 
 private:
     void controlla(int esito) const {

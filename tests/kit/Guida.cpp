@@ -1,5 +1,6 @@
 #include "kit/Guida.h"
 
+#include "shell/host/Form.h"
 #include "shell/host/Testo.h"
 
 #include <QAbstractButton>
@@ -73,6 +74,9 @@ void Guida::batti() {
         if (form == nullptr)
             return;
         try {
+            if (dynamic_cast<Form *>(form.data()) != nullptr) { // no dialog of the platform
+                EXPECT_EQ(didascalieTagliate(*form) + campiSenzaNome(*form), QStringList());
+            }
             passo.azione(*form);
         } catch (const std::exception &e) {
             ADD_FAILURE() << passo.form.toStdString() << ": " << e.what();

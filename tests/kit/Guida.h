@@ -9,8 +9,8 @@
 namespace zuvora {
 
 // Drives modal forms: each step waits until the form of that name is the active modal one, then acts on it. Steps run
-// in order, also while an earlier step's action still waits for a form that it opened itself. Steps left over, and a
-// form that nobody expected, fail the test.
+// in order, also while an earlier step's action still waits for a form that it opened itself. Steps left over, a form
+// that nobody expected, and one with a caption that is cut or a field without a name fail the test.
 class Guida : public QObject {
 public:
     Guida();

@@ -4,14 +4,13 @@
 #include "library/logic/Decorazioni.h"
 #include "shell/logic/CopiaFile.h"
 #include "shell/store/Data.h"
+#include "store/Ostacoli.h"
 
 #include <QDir>
 #include <QFile>
 #include <array>
 #include <cerrno>
-#include <csignal>
 #include <random>
-#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -91,37 +90,23 @@ TEST_F(Aggiunta, LaCopiaEGiaSulDiscoPrimaDelNomeEIlNomePrimaDelSuccesso) {
 
 TEST_F(Aggiunta, UnaCopiaCheNonRiesceNonLasciaNulla) {
     const QString origine = scrivi(u"a.jpg"_s, QByteArray(3 << 20, 'n'));
-    const auto prova = [&](const QString &da) { return CopiaPreparata(da, posto(u"a.jpg"_s), avanzamento).motivo(); };
-    EXPECT_TRUE(prova(i.file(u"manca.jpg"_s)).contains(u"non esiste"_s));
-    EXPECT_FALSE(prova(i.cartella()).isEmpty()) << "a folder is no file";
+    EXPECT_EQ(incontroCopia(origine, i.cartella(), avanzamento), Incontro::Impedito);
+    const auto copia = [&](const QString &da) { return CopiaPreparata(da, posto(u"a.jpg"_s), avanzamento).motivo(); };
+    EXPECT_TRUE(copia(i.file(u"manca.jpg"_s)).contains(u"non esiste"_s));
+    EXPECT_FALSE(copia(i.cartella()).isEmpty()) << "a folder is no file";
     discoRifiuta = true;
-    EXPECT_TRUE(prova(origine).contains(u"Errore del disco"_s));
+    EXPECT_TRUE(copia(origine).contains(u"Errore del disco"_s));
     discoRifiuta = false;
-    rlimit prima{};
-    getrlimit(RLIMIT_FSIZE, &prima);
-    const auto segnale = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit stretto{2 << 20, prima.rlim_max}; // as a disk that gets full
-    setrlimit(RLIMIT_FSIZE, &stretto);
-    EXPECT_TRUE(prova(origine).contains(u"troppo grande"_s));
-    setrlimit(RLIMIT_FSIZE, &prima);
-    std::signal(SIGXFSZ, segnale);
+    {
+        const prova::LimiteFile pieno(2 << 20);
+        EXPECT_TRUE(copia(origine).contains(u"troppo grande"_s));
+    }
     { CopiaPreparata abbandonata(origine, posto(u"a.jpg"_s), avanzamento); }
     QDir(categoria).mkdir(u"a.jpg"_s);
     EXPECT_FALSE(CopiaPreparata(origine, posto(u"a.jpg"_s), avanzamento).colloca(categoria + u"a.jpg"_s).isEmpty());
     avanzamento.annulla();
-    EXPECT_FALSE(prova(origine).isEmpty());
+    EXPECT_FALSE(copia(origine).isEmpty());
     EXPECT_EQ(inAttesa(), QStringList());
-}
-
-TEST_F(Aggiunta, IncontraCioCheCera) {
-    const QString origine = scrivi(u"x.jpg"_s, "primo");
-    const QString meta = scrivi(u"y.jpg"_s, "primo");
-    EXPECT_EQ(incontroCopia(origine, i.file(u"z.jpg"_s), avanzamento), Incontro::Nessuno);
-    EXPECT_EQ(incontroCopia(origine, meta, avanzamento), Incontro::LoStesso);
-    EXPECT_EQ(incontroCopia(origine, origine, avanzamento), Incontro::LoStesso);
-    scrivi(u"y.jpg"_s, "prima");
-    EXPECT_EQ(incontroCopia(origine, meta, avanzamento), Incontro::Diverso);
-    EXPECT_EQ(incontroCopia(origine, i.cartella(), avanzamento), Incontro::Impedito);
 }
 
 // The process is killed between two steps or inside one, many times over: a row always has its whole picture in the

@@ -53,55 +53,31 @@ TEST(ApriTela, UnImmagineEnormeNonFermaLaFinestraESiPuoRinunciare) {
     EXPECT_GT(battiti, 5);
 }
 
-TEST(ApriTela, LoSfondoSiImpostaESiElimina) {
+TEST(ApriTela, LoSfondoSiImposta) {
     InstallazioneProva i;
     i.esegui(u"UPDATE Layout1 SET PercorsoImmagine=NULL WHERE rowid=32"_s);
     const QString prima = QDir::currentPath();
     QDir::setCurrent(i.file(u"ZuvoraSfondiHD"_s));
     const QString primoFile =
         QDir::current().entryList({u"*.jpg"_s}, QDir::Files, QDir::Name | QDir::IgnoreCase).value(0);
-    QStringList salvati;
     Guida guida;
-    for (const bool elimina : {false, true}) {
-        guida.premi("Form1", "Btn(6)");
-        guida.quando("ImpostaSfondo", [elimina](QWidget &w) {
-            QTest::keyClick(w.findChild<QWidget *>(u"File1"_s), Qt::Key_Down);
-            clicca(w, "PushButton1");
-            if (elimina)
-                clicca(w, "PushButton3");
-            clicca(w, "Command5");
-        });
-        guida.premi("Form1", "Btn(16)").messaggio(nullptr);
-        guida.quando("Form1", [&](QWidget &) {
-            salvati << i.valore(u"SELECT PercorsoImmagine FROM Layout1 WHERE rowid=32"_s).toString();
-        });
-    }
-    guida.premi("Form1", "Btn(17)");
-    apriTela(i.ambiente, 3, u"Layout1"_s, nullptr);
-    QDir::setCurrent(prima);
-    EXPECT_EQ(salvati, QStringList({i.file(u"ZuvoraSfondiHD/"_s + primoFile), QString()}));
-}
-
-TEST(ApriTela, LaMisuraDelRiquadroNotizieTornaSullaTelaESiSalva) {
-    InstallazioneProva i;
-    i.esegui(u"UPDATE Layout1 SET Visibile=1, top=1440, left=14640, Altezza=5895, Larghezza=8775 WHERE rowid=60"_s);
-    Guida guida;
-    guida.quando("Form1", [](QWidget &w) { QTest::mouseClick(&trova<QWidget>(w, "WB2"), Qt::RightButton); });
-    guida.quando("AnteprimaTGOnline", [](QWidget &w) {
-        for (const char *bottone : {"Allarga", "Abbassa", "Accetta", "Chiudi"})
-            clicca(w, bottone);
+    guida.premi("Form1", "Btn(6)").quando("ImpostaSfondo", [](QWidget &w) {
+        QTest::keyClick(w.findChild<QWidget *>(u"File1"_s), Qt::Key_Down);
+        clicca(w, "PushButton1");
+        clicca(w, "Command5");
     });
     guida.premi("Form1", "Btn(16)").messaggio(nullptr).premi("Form1", "Btn(17)");
     apriTela(i.ambiente, 3, u"Layout1"_s, nullptr);
-    EXPECT_EQ(i.righe(u"SELECT top, left, Altezza, Larghezza FROM Layout1 WHERE rowid=60"_s),
-              QStringList{u"1440|14640|5795|8875"_s});
+    QDir::setCurrent(prima);
+    EXPECT_EQ(i.valore(u"SELECT PercorsoImmagine FROM Layout1 WHERE rowid=32"_s).toString(),
+              i.file(u"ZuvoraSfondiHD/"_s + primoFile));
 }
 
 TEST(ApriTela, IlPannelloApreSelezioneECatalogo) {
     InstallazioneProva i;
     SplasModule pannello(i.ambiente, vociDelPannello(), QUrl());
     Guida guida;
-    guida.premi("SceltaLayout", "PB1(0)");
+    guida.premi("SceltaLayout", "PB1(4)").premi("CopiaLayout", "Btn(0)").premi("SceltaLayout", "PB1(0)");
     clicca(pannello, "PB1(7)");
     guida.quando("Elementi", [&](QWidget &form) {
         EXPECT_EQ(trova<Label>(pannello, "Comando").Caption(), u"Gestione Decorazioni"_s);

@@ -3,6 +3,7 @@
 #include "library/forms/CancellaLayout.h"
 #include "library/forms/CopiaLayout.h"
 #include "library/forms/SceltaLayout.h"
+#include "library/logic/CopiaLogica.h"
 
 #include <QLabel>
 
@@ -18,6 +19,8 @@ protected:
 };
 
 TEST_F(ProvaCopia, CopiaDellaBaseSuUnLayout) {
+    i.esegui(u"DELETE FROM Layout3; INSERT INTO Layout3(rowid,testo,PercorsoImmagine,FontBold) "
+             "SELECT rowid*10,'vecchio','/vecchio.gif',1 FROM LayoutBase"_s); // rows correspond by position alone
     const QStringList altra = tabella(u"Layout4"_s);
     CopiaLayout form(i.ambiente, nullptr);
     EXPECT_EQ(premi(form, "Btn(1)"), u"Impossibile copiare un \nLayout su se stesso ! "_s);
@@ -30,34 +33,16 @@ TEST_F(ProvaCopia, CopiaDellaBaseSuUnLayout) {
     EXPECT_EQ(tabella(u"Layout4"_s), altra);
 }
 
-TEST_F(ProvaCopia, UnaTabellaCortaLoDice) {
-    i.esegui(u"DELETE FROM Layout5 WHERE rowid > 40"_s);
-    CopiaLayout form(i.ambiente, nullptr);
-    clicca(form, "L0(4)");
-    const QString messaggio = premi(form, "Btn(1)");
-    EXPECT_TRUE(messaggio.contains(u"40"_s)) << messaggio.toStdString();
-}
-
 TEST_F(ProvaCopia, LaScopaCancellaIlSuoLayout) {
     const QStringList descrizioni = i.righe(u"SELECT * FROM DescrizioneLayout"_s);
     const QStringList primo = tabella(u"Layout1"_s);
     SceltaLayout form(i.ambiente, {}, nullptr);
-    {
-        Guida guida;
-        guida.premi("CancellaLayout", "PB1(0)");
-        clicca(form, "PPBB1(10)");
-        EXPECT_EQ(tabella(u"Layout1"_s), primo);
-    }
     QString righe;
     Guida guida;
-    guida.quando("CancellaLayout", [](QWidget &w) {
-        EXPECT_EQ(trova<QLabel>(w, "Label3").text(), u"10"_s);
-        EXPECT_EQ(didascalieTagliate(w), QStringList());
-        EXPECT_EQ(campiSenzaNome(w), QStringList());
-        fotografa(w);
-        clicca(w, "PB1(1)");
-    });
-    guida.messaggio(&righe);
+    guida.premi("CancellaLayout", "PB1(0)");
+    clicca(form, "PPBB1(10)");
+    EXPECT_NE(i.valore(u"SELECT count(*) FROM Layout10 WHERE Visibile"_s).toInt(), 0);
+    guida.premi("CancellaLayout", "PB1(1)").messaggio(&righe);
     clicca(form, "PPBB1(10)"); // returns: the form closes by itself
     EXPECT_EQ(righe, u"Layout cancellato correttamente ! "_s);
     EXPECT_EQ(i.valore(u"SELECT count(*) FROM Layout10 WHERE Visibile"_s).toInt(), 0);
@@ -67,20 +52,38 @@ TEST_F(ProvaCopia, LaScopaCancellaIlSuoLayout) {
     EXPECT_EQ(tabella(u"Layout1"_s), primo);
 }
 
+TEST_F(ProvaCopia, LaBaseELeTabelleCheNonCiSonoNonSiScrivono) {
+    const QStringList base = tabella(u"LayoutBase"_s);
+    EXPECT_FALSE(copiaLayout(i.cartella(), 3, 0).completo);
+    EXPECT_FALSE(copiaLayout(i.cartella(), 11, 3).completo);
+    for (const auto &numero : {u"0"_s, u"11"_s, u""_s, u"Base"_s, u"-1"_s})
+        EXPECT_FALSE(RipristinaLayout(i.cartella(), numero).completo) << numero.toStdString();
+    EXPECT_EQ(tabella(u"LayoutBase"_s), base);
+}
+
+TEST_F(ProvaCopia, UnInterruzioneFinisceInOrdineEDiceLaRiga) {
+    i.esegui(u"UPDATE Layout3 SET testo='vecchio'; CREATE TRIGGER ferma BEFORE UPDATE ON Layout3 "
+             "WHEN old.rowid=37 BEGIN SELECT RAISE(ABORT,'no'); END"_s);
+    const QStringList prima = tabella(u"Layout3"_s);
+    for (const bool cancella : {false, true}) {
+        const EsitoCopia esito = cancella ? RipristinaLayout(i.cartella(), u"3"_s) : copiaLayout(i.cartella(), 0, 3);
+        EXPECT_FALSE(esito.completo);
+        EXPECT_TRUE(esito.messaggio.riga0.contains(u"riga 37 di 70")) << esito.messaggio.riga0.toStdString();
+        EXPECT_TRUE(esito.messaggio.riga1.contains(cancella ? u"Righe cambiate: " : u"Righe cambiate: 36"))
+            << esito.messaggio.riga1.toStdString();
+        EXPECT_EQ(tabella(u"Layout3"_s).mid(36), prima.mid(36));
+    }
+    i.esegui(u"DROP TRIGGER ferma; DELETE FROM LayoutBase WHERE rowid>60"_s);
+    EXPECT_TRUE(copiaLayout(i.cartella(), 0, 3).messaggio.riga0.contains(u"60 righe su 70"));
+    EXPECT_EQ(tabella(u"Layout3"_s).mid(0, 60), tabella(u"LayoutBase"_s));
+}
+
 TEST_F(ProvaCopia, UnaCancellazioneImpossibileLasciaLaForm) {
     i.esegui(u"DROP TABLE Layout2"_s);
     CancellaLayout form(i.ambiente, u"2"_s, nullptr);
     form.show();
     EXPECT_FALSE(premi(form, "PB1(1)").isEmpty());
     EXPECT_TRUE(form.isVisible());
-}
-
-TEST_F(ProvaCopia, Aspetto) {
-    CopiaLayout form(i.ambiente, nullptr);
-    form.show();
-    EXPECT_EQ(didascalieTagliate(form), QStringList());
-    EXPECT_EQ(campiSenzaNome(form), QStringList());
-    fotografa(form);
 }
 
 } // namespace

@@ -105,16 +105,5 @@ TEST_F(ProvaSfondo, UnaFotoGrandeArrivaSenzaFermareLaForm) {
     EXPECT_TRUE(anteprima.percorso().endsWith(u"aa.jpg"_s));
 }
 
-TEST_F(ProvaSfondo, Aspetto) {
-    const auto form = apri(ModoSfondo::Layout);
-    EXPECT_EQ(didascalieTagliate(*form), QStringList());
-    EXPECT_EQ(campiSenzaNome(*form), QStringList());
-    fotografa(*form, u"ImpostaSfondo-vuota"_s);
-    scegli(*form, 0);
-    fotografa(*form);
-    scegli(*form, 1);
-    fotografa(*form, u"ImpostaSfondo-guasta"_s);
-}
-
 } // namespace
 } // namespace zuvora

@@ -128,27 +128,5 @@ TEST_F(ProvaScelta, MenoDiUndiciDescrizioni) {
     EXPECT_EQ(i.valore(u"SELECT count(*) FROM DescrizioneLayout"_s).toInt(), 9);
 }
 
-TEST_F(ProvaScelta, UnaScritturaImpossibileSiSpiega) {
-    const auto form = apri();
-    clicca(*form, "RB1(2)");
-    i.esegui(u"DROP TABLE DescrizioneLayout; DELETE FROM Configurazione"_s);
-    clicca(*form, "PB1(1)");
-    EXPECT_FALSE(i.dialoghi.unicoMessaggio().isEmpty());
-    clicca(*form, "PB1(2)");
-    EXPECT_FALSE(i.dialoghi.unicoMessaggio().isEmpty());
-    EXPECT_NE(testo(*form, "Label2"), u"Layout 2"_s);
-}
-
-TEST_F(ProvaScelta, Aspetto) {
-    i.esegui(u"UPDATE Configurazione SET qualelayout=2"_s);
-    const auto form = apri();
-    form->show();
-    EXPECT_EQ(didascalieTagliate(*form), QStringList());
-    EXPECT_EQ(campiSenzaNome(*form), QStringList());
-    for (int n = 1; n <= 10; ++n)
-        EXPECT_EQ(trova<QPushButton>(*form, qPrintable(u"PPBB1(%1)"_s.arg(n))).toolTip(), u"Pulisce il Layout"_s);
-    fotografa(*form);
-}
-
 } // namespace
 } // namespace zuvora

@@ -29,7 +29,6 @@ TEST(MsgForm, UnMotivoLungoSiLeggeTuttoEUnoBreveStaAlSuoPosto) {
     const QRect seconda = trova<Label>(form, "Label2(1)").geometry();
     EXPECT_LT(prima.bottom(), seconda.top());
     EXPECT_LT(seconda.bottom(), trova<Button>(form, "PB1(0)").geometry().top());
-    fotografa(form, u"MsgForm-lungo"_s);
 
     MsgForm breve(i.ambiente, u"Salvataggio effettuato !"_s, u"Due."_s, false, nullptr);
     EXPECT_EQ(trova<Label>(breve, "Label2(1)").Top(), 2400);

@@ -9,11 +9,6 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-// Readable failures.
-inline void PrintTo(const QString &s, std::ostream *os) {
-    *os << '"' << s.toStdString() << '"';
-}
-
 namespace zuvora::prova {
 
 using namespace Qt::Literals::StringLiterals;

@@ -20,16 +20,21 @@ inline bool creaCoda(const QString &percorso) {
 class LimiteFile {
 public:
     explicit LimiteFile(qint64 byte) {
+        m_segnale = std::signal(SIGXFSZ, SIG_IGN);
         getrlimit(RLIMIT_FSIZE, &m_prima);
         const rlimit limite{static_cast<rlim_t>(byte), m_prima.rlim_max};
         setrlimit(RLIMIT_FSIZE, &limite);
     }
-    ~LimiteFile() { setrlimit(RLIMIT_FSIZE, &m_prima); }
+    ~LimiteFile() {
+        setrlimit(RLIMIT_FSIZE, &m_prima);
+        std::signal(SIGXFSZ, m_segnale);
+    }
     LimiteFile(const LimiteFile &) = delete;
     LimiteFile &operator=(const LimiteFile &) = delete;
 
 private:
     rlimit m_prima{};
+    void (*m_segnale)(int);
 };
 
 // The administrator's rights laid down: permissions bind again.
