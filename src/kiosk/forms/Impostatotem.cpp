@@ -23,7 +23,7 @@ const QString perPulsante = u"Pulsante"_s;
 
 Impostatotem::Impostatotem(const Ambiente &contesto, Misura &anteprima, QWidget *padre)
     : Form(contesto, "Impostatotem", "Imposta schermata del Totem", {7215, 7575}, padre), m_riga(cartella()),
-      m_lettura(std::async(std::launch::async, [this] { m_riga.carica(); })), m_anteprima(anteprima),
+      m_anteprima(anteprima),
       m_titolo(&GroupBox3,
                {"FontTitolo", "MisuraTitolo", "Check1Titolo", "Check2Titolo", "ColoreTitolo", "CP1Titolo", "PBTitolo"},
                u"del titolo"_s, 600, contesto.dialoghi),
@@ -38,7 +38,7 @@ Impostatotem::Impostatotem(const Ambiente &contesto, Misura &anteprima, QWidget 
       }) {
     nomina();
     collega();
-    m_lettura.get();
+    m_riga.carica();
     mostra();
 }
 

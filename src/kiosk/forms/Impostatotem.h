@@ -7,8 +7,6 @@
 #include "shell/host/ListBox.h"
 #include "shell/host/PictureBox.h"
 
-#include <future>
-
 namespace zuvora {
 
 // Edits what the kiosk's screen shows, and the folder of the kiosk. Nothing is stored before the save.
@@ -42,7 +40,6 @@ private:
     GruppoFont &gruppo();
 
     RigaTotem m_riga;
-    std::future<void> m_lettura; // of the row, while the controls are made
     bool m_guastoDetto = false;
     QString BersaglioFont; // "Titolo", "LaData" or "Pulsante": the group that the font dialog serves
     Misura &m_anteprima;   // AnteprimaLarghezza, AnteprimaAltezza

@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <future>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -35,9 +34,8 @@ SplasModule::SplasModule(const Ambiente &contesto, std::vector<VoceMenu> voci, c
       }) {
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowCloseButtonHint);
-    std::future<StatoAvvio> lettura = std::async(std::launch::async, leggiStatoAvvio, cartella());
     disponi();
-    const StatoAvvio stato = lettura.get();
+    const StatoAvvio stato = leggiStatoAvvio(cartella());
     Label5.setCaption(stato.numero);
     Label6.setCaption(stato.data);
     m_risoluzione = stato.risoluzione;
