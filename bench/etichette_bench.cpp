@@ -1,4 +1,4 @@
-// The ticket designer: repainting the sheet while one object among 300 is moved; what 1,000 steps take of memory; the
+// The ticket designer: the worst step of moving one object among 300 against 8 ms; what 1,000 steps take of memory; the
 // command line's PDF against a program that writes one line in the same font into a PDF.
 #include "Applicazione.h"
 #include "etichette/designer/Foglio.h"
@@ -11,6 +11,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <algorithm>
+#include <array>
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 #include <sqlite3.h>
@@ -33,34 +34,54 @@ Etichetta fitta() {
     return e;
 }
 
+constexpr int passi = 202; // the press, 200 moves, the release
+
+// One drag that snaps to all the others; each step is painted before the next, the whole sheet of it. `tempi` keeps the
+// least milliseconds that each step has taken, so that what disturbs the machine doesn't count.
+void trascina(Foglio &foglio, std::array<double, passi> &tempi) {
+    QWidget *vista = foglio.viewport();
+    const QPoint inizio = foglio.posizioneSuSchermo(0).center();
+    for (int passo = 0; passo < passi; ++passo) {
+        const bool preme = passo == 0;
+        const bool lascia = passo == passi - 1;
+        const QPoint dove = preme ? inizio : inizio + QPoint(20 + passo, 20 + passo % 100);
+        QElapsedTimer tempo;
+        tempo.start();
+        QMouseEvent e(preme    ? QEvent::MouseButtonPress
+                      : lascia ? QEvent::MouseButtonRelease
+                               : QEvent::MouseMove,
+                      dove, vista->mapToGlobal(dove), preme || lascia ? Qt::LeftButton : Qt::NoButton, Qt::LeftButton,
+                      Qt::NoModifier);
+        QApplication::sendEvent(vista, &e);
+        vista->repaint();
+        double &minimo = tempi[std::size_t(passo)];
+        minimo = std::min(minimo, static_cast<double>(tempo.nsecsElapsed()) / 1e6);
+    }
+}
+
 void muoviTra300(benchmark::State &stato) {
     misura::preparaApplicazione();
     Progetto progetto(fitta());
     Foglio foglio(progetto, nullptr);
     foglio.resize(1000, 700);
+    foglio.adatta();
     foglio.show();
     QApplication::processEvents();
-    QWidget *vista = foglio.viewport();
-    const QPoint inizio = foglio.posizioneSuSchermo(0).center();
-    const auto manda = [&](QEvent::Type tipo, const QPoint &dove, Qt::MouseButton tasto) {
-        QMouseEvent e(tipo, dove, vista->mapToGlobal(dove), tasto, Qt::LeftButton, Qt::AltModifier);
-        QApplication::sendEvent(vista, &e);
-    };
-    manda(QEvent::MouseButtonPress, inizio, Qt::LeftButton);
-    int passo = 0;
-    double peggiore = 0;
+    foglio.viewport()->repaint(); // as it stands before anybody presses
+    std::array<double, passi> tempi;
     for ([[maybe_unused]] auto giro : stato) {
-        QElapsedTimer tempo;
-        tempo.start();
-        manda(QEvent::MouseMove, inizio + QPoint(20 + passo % 200, 20 + passo % 100), Qt::NoButton);
-        QApplication::processEvents();
-        ++passo;
-        peggiore = std::max(peggiore, static_cast<double>(tempo.nsecsElapsed()) / 1e6);
+        tempi.fill(1e9);
+        for (int volte = 0; volte < 30; ++volte) {
+            trascina(foglio, tempi);
+            progetto.pila().undo();
+            foglio.viewport()->repaint();
+        }
+        stato.SetIterationTime(*std::max_element(tempi.begin(), tempi.end()) / 1e3); // the worst step
     }
-    manda(QEvent::MouseButtonRelease, inizio, Qt::LeftButton);
-    stato.counters["peggiore_ms"] = peggiore;
+    stato.counters["metro"] = 8;
+    stato.counters["limite"] = 1;
 }
-BENCHMARK(muoviTra300)->Unit(benchmark::kMillisecond);
+BENCHMARK(muoviTra300)->Name("muoviTra300/nostro")->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1);
 
 void milleAnnulla(benchmark::State &stato) {
     misura::preparaApplicazione();
@@ -126,6 +147,10 @@ BENCHMARK(pdfDaRigaDiComando)
     ->Name("pdfBiglietto/nostro")
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond)
-    ->Iterations(5);
+    ->Iterations(1)
+    ->Repetitions(40)
+    ->ReportAggregatesOnly()
+    ->ComputeStatistics("min",
+                        [](const std::vector<double> &giri) { return *std::min_element(giri.begin(), giri.end()); });
 
 } // namespace

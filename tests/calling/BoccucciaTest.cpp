@@ -133,7 +133,7 @@ TEST_F(ProvaBoccuccia, LaVoceDiSistemaParlaOppureDiceIlMotivo) {
     const std::pair<QByteArray, QString> casi[] = {{{}, u"non è installato"_s},
                                                    {"echo \"$@\" > " + i.file(u"detto"_s).toUtf8(), u"finita"_s},
                                                    {"echo Nessun servizio >&2; exit 1", u"Nessun servizio"_s},
-                                                   {"exec /bin/sleep 60", u"in corso"_s}};
+                                                   {"[ \"$1\" = --cancel ] || exec /bin/sleep 60", u"in corso"_s}};
     for (const auto &[testo, atteso] : casi) {
         if (!testo.isEmpty())
             scrivi(programma, "#!/bin/sh\n" + testo);

@@ -1,6 +1,7 @@
 #include "etichette/biglietto/Argomenti.h"
 #include "etichette/biglietto/Record.h"
 #include "etichette/logic/FileEtichetta.h"
+#include "store/Ostacoli.h"
 
 #include <QDir>
 #include <QFile>
@@ -21,9 +22,9 @@ struct CartellaTotem {
 
     CartellaTotem() {
         esegui("CREATE TABLE DatiDaStampareIMP (Numero INTEGER, Servizio TEXT, [Data] DATE, Attesa REAL, Urgente "
-               "BOOLEAN)");
-        esegui("INSERT INTO DatiDaStampareIMP VALUES (152, 'Cassa', '2013-10-03 10:25:07', 12.5, 0)");
-        esegui("INSERT INTO DatiDaStampareIMP VALUES (7, NULL, NULL, NULL, NULL)");
+               "BOOLEAN, Ora TIME)");
+        esegui("INSERT INTO DatiDaStampareIMP VALUES (152, 'Cassa', '2013-10-03 10:25:07', 12.5, 0, '08:05:09')");
+        esegui("INSERT INTO DatiDaStampareIMP VALUES (7, NULL, NULL, NULL, NULL, NULL)");
         Etichetta e;
         e.carta.altezza = 300;
         Oggetto o = nuovoOggetto(TipoOggetto::Testo, QPoint(30, 30));
@@ -42,9 +43,9 @@ struct CartellaTotem {
         int codice;
         QString errore;
     };
-    Esito biglietto(const QStringList &argomenti) const {
+    Esito biglietto(const QStringList &argomenti, const QString &file = QStringLiteral(ZUVORA_BIGLIETTO)) const {
         QProcess programma;
-        programma.start(QStringLiteral(ZUVORA_BIGLIETTO), QStringList{cartella.path()} + argomenti);
+        programma.start(file, QStringList{cartella.path()} + argomenti);
         EXPECT_TRUE(programma.waitForFinished(60000));
         return {programma.exitCode(), QString::fromLocal8Bit(programma.readAllStandardError())};
     }
@@ -54,8 +55,9 @@ TEST(Biglietto, LeVariabiliVengonoDalRecordStesso) {
     const CartellaTotem totem;
     const RecordLetto primo = leggiRecord(totem.cartella.path(), 1);
     EXPECT_EQ(primo.motivo, QString());
-    EXPECT_EQ(primo.valori.componi(u"{Numero:0000}|{Servizio}|{Data:dd/MM/yyyy HH:mm:ss}|{Attesa}|{Urgente}"_s),
-              u"0152|Cassa|03/10/2013 10:25:07|12,5|No"_s);
+    EXPECT_EQ(primo.valori.componi(
+                  u"{Numero:0000}|{Servizio}|{Data:dd/MM/yyyy HH:mm:ss}|{Attesa}|{Urgente}|{Ora}|{Ora:HH.mm.ss}"_s),
+              u"0152|Cassa|03/10/2013 10:25:07|12,5|No|08:05|08.05.09"_s);
     EXPECT_EQ(leggiRecord(totem.cartella.path(), 2).valori.componi(u"{Numero}|{Servizio}|{Data}|{Attesa}|{Urgente}"_s),
               u"7||||"_s);
     EXPECT_TRUE(leggiRecord(totem.cartella.path(), 3).motivo.contains(u"il numero 3 non c'è"_s));
@@ -64,8 +66,10 @@ TEST(Biglietto, LeVariabiliVengonoDalRecordStesso) {
     mettiValore(valori, u"attesa"_s, u"3,25"_s);
     mettiValore(valori, u"Data"_s, u"05/11/2026"_s);
     mettiValore(valori, u"Nuova"_s, u"x"_s);
+    mettiValore(valori, u"Ora"_s, u"14:30"_s);
     mettiValore(valori, u"Numero"_s, u"inf"_s); // a word, not a number
-    EXPECT_EQ(valori.componi(u"{Attesa:0,0}|{Data:d/M/yy}|{Nuova}|{Numero:0}"_s), u"3,3|5/11/26|x|inf"_s);
+    EXPECT_EQ(valori.componi(u"{Attesa:0,0}|{Data:d/M/yy}|{Nuova}|{Numero:0000}|{Ora:H mm}"_s),
+              u"3,3|5/11/26|x|inf|14 30"_s);
 }
 
 TEST(Biglietto, ScrivePdfEImmagine) {
@@ -92,6 +96,8 @@ TEST(Biglietto, SenzaRiuscireNonEsceConZero) {
     } casi[] = {{{u"--pdf"_s, totem.file(u"manca/b.pdf"_s)}, 1, u"Nessun biglietto stampato"},
                 {{u"--pdf"_s, pdf, u"--record"_s, u"9"_s}, 1, u"il numero 9"},
                 {{u"--pdf"_s, pdf, u"--record"_s, u"9"_s, u"--valore"_s, u"Numero=5"_s}, 1, u"il numero 9"},
+                {{u"--pdf"_s, u"/dev/full"_s}, 1, u"Nessun biglietto stampato"},
+                {{u"--pdf"_s, totem.cartella.path()}, 1, u"È una cartella"},
                 {{u"--stampante"_s, u"stampante-che-non-esiste"_s}, 1, u"stampante"},
                 {{u"--pdf"_s, pdf, u"--record"_s, u"0"_s}, 2, u"--record"},
                 {{}, 2, u"uscita"}};
@@ -100,9 +106,27 @@ TEST(Biglietto, SenzaRiuscireNonEsceConZero) {
         EXPECT_EQ(esito.codice, caso.codice) << esito.errore.toStdString();
         EXPECT_TRUE(esito.errore.contains(QString::fromUtf16(caso.parola))) << esito.errore.toStdString();
     }
+    // Apart from its component it does all but print.
+    const QString solo = totem.file(u"solo"_s);
+    ASSERT_TRUE(QFile::copy(QStringLiteral(ZUVORA_BIGLIETTO), solo));
+    EXPECT_TRUE(totem.biglietto({u"--stampante"_s, u"P"_s}, solo).errore.contains(u"manca il componente"_s));
+    EXPECT_EQ(totem.biglietto({u"--pdf"_s, totem.file(u"solo.pdf"_s)}, solo).codice, 0);
+    { // a disk that fills up
+        const prova::LimiteFile limite(4096);
+        EXPECT_EQ(totem.biglietto({u"--pdf"_s, pdf}).codice, 1);
+    }
     QFile::remove(totem.file(u"Ticket.lbl"_s));
     EXPECT_EQ(totem.biglietto({u"--pdf"_s, pdf}).codice, 1);
     EXPECT_FALSE(QFile::exists(pdf));
+}
+
+TEST(Biglietto, CinquecentoColonne) {
+    const CartellaTotem totem;
+    for (int i = 6; i < 500; ++i)
+        totem.esegui(u"ALTER TABLE DatiDaStampareIMP ADD COLUMN C%1 TEXT DEFAULT 'c%1'"_s.arg(i).toUtf8().constData());
+    const Valori valori = leggiRecord(totem.cartella.path(), 1).valori;
+    EXPECT_EQ(valori.tutte().size(), 500);
+    EXPECT_EQ(valori.componi(u"{Numero} {c499}"_s), u"152 c499"_s);
 }
 
 TEST(Biglietto, RigaDiComando) {

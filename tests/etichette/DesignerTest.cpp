@@ -4,13 +4,19 @@
 #include "etichette/designer/Foglio.h"
 #include "etichette/logic/FileEtichetta.h"
 #include "kit/FintiDialoghi.h"
+#include "shell/logic/FileAtomico.h"
+#include "store/Ostacoli.h"
 
+#include <QCheckBox>
+#include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMimeData>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
@@ -33,7 +39,10 @@ struct Finestra : testing::Test {
     std::unique_ptr<DesignerEtichetta> designer;
 
     DesignerEtichetta &apri(const Etichetta &e = {}) {
-        DesignerEtichetta::Mondo mondo{dialoghi, [this] { return stampanti; },
+        DesignerEtichetta::Mondo mondo{dialoghi,
+                                       [this] {
+                                           return Stampanti{stampanti, {}};
+                                       },
                                        [this](const QString &nome, const Etichetta &stampata, const Valori &) {
                                            const QPoint s = stampata.scostamenti.value(nome);
                                            stampato = u"%1 %2 %3"_s.arg(nome).arg(s.x()).arg(s.y());
@@ -106,7 +115,7 @@ TEST_F(Finestra, OgniOggettoNuovoESceltoEInVista) {
         const QRect carta(0, 0, 800, 1200);
         const auto oggetti = salvati();
         EXPECT_TRUE(carta.contains(oggetti.last().area.topLeft()));
-        EXPECT_FALSE(trova<QLineEdit>("ValoreX").isHidden()) << nome;
+        EXPECT_TRUE(trova<QLineEdit>("ValoreX").isEnabled()) << nome;
         auto &foglio = trova<Foglio>("foglio");
         EXPECT_TRUE(foglio.viewport()->rect().contains(foglio.posizioneSuSchermo(int(oggetti.size()) - 1).topLeft()))
             << nome;
@@ -151,6 +160,34 @@ TEST_F(Finestra, IlTrascinamentoAgganciaEAltLoSospende) {
     EXPECT_NEAR(salvati()[1].area.x(), 117, 3);
 }
 
+TEST_F(Finestra, DentroUnaCorniceSiSceglieQuelloCheCiSta) {
+    Etichetta e;
+    e.oggetti << nuovoOggetto(TipoOggetto::Testo, QPoint(150, 150))
+              << nuovoOggetto(TipoOggetto::Cornice, QPoint(100, 100));
+    e.oggetti[1].area.setSize(QSize(600, 600));
+    apri(e);
+    const auto &foglio = trova<Foglio>("foglio");
+    for (const auto &[punto, tipo] : {std::pair(foglio.posizioneSuSchermo(0).center(), TipoOggetto::Testo),
+                                      std::pair(foglio.posizioneSuSchermo(1).center(), TipoOggetto::Cornice)}) {
+        QTest::mouseClick(foglio.viewport(), Qt::LeftButton, {}, punto);
+        EXPECT_EQ(trova<QPlainTextEdit>("ValoreTesto").isEnabled(), tipo == TipoOggetto::Testo);
+    }
+}
+
+TEST_F(Finestra, UnaVariabileSiTrascinaSulFoglio) {
+    apri();
+    auto &elenco = trova<QListWidget>("variabili");
+    const std::unique_ptr<QMimeData> dati(elenco.model()->mimeData({elenco.model()->index(1, 0)}));
+    auto &foglio = trova<Foglio>("foglio");
+    QDragEnterEvent entra(QPoint(120, 90), Qt::CopyAction, dati.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(foglio.viewport(), &entra);
+    QDropEvent lascia(QPointF(120, 90), Qt::CopyAction, dati.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(foglio.viewport(), &lascia);
+    ASSERT_EQ(salvati().size(), 1);
+    EXPECT_EQ(salvati()[0].testo, u"{Lettera}"_s);
+    EXPECT_NEAR(foglio.posizioneSuSchermo(0).x(), 120, 2);
+}
+
 TEST_F(Finestra, ChiudereChiedeDelleModifiche) {
     const struct {
         int risposta; // save, leave unsaved, stay
@@ -170,18 +207,81 @@ TEST_F(Finestra, ChiudereChiedeDelleModifiche) {
     EXPECT_FALSE(designer->isVisible());
 }
 
+// The folder of a kiosk that goes away, a disk that is full, a file that may only be read.
 TEST_F(Finestra, UnSalvataggioFallitoLasciaTuttoQui) {
-    ticket = cartella.filePath(u"sparita/Ticket.lbl"_s);
+    const QString totem = cartella.filePath(u"totem"_s);
+    const QString altrove = cartella.filePath(u"altrove.lbl"_s);
+    ticket = totem + u"/Ticket.lbl"_s;
+    const std::pair<std::function<std::shared_ptr<void>()>, const char16_t *> casi[] = {
+        {[&] {
+             QDir(totem).removeRecursively();
+             return nullptr;
+         },
+         u"non esiste"},
+        {[] { return std::make_shared<prova::LimiteFile>(100); }, u"troppo grande per questo disco"},
+        {[&] {
+             QFile::setPermissions(cartella.path(), QFile::Permissions(0x7755));
+             QFile::setPermissions(totem, QFile::Permissions(0x7777));
+             QFile::setPermissions(ticket, QFile::Permissions(0x4444));
+             return std::make_shared<prova::UtenteQualunque>();
+         },
+         u"permessi"}};
+    for (const auto &[ostacola, parola] : casi) {
+        QDir().mkpath(totem);
+        ASSERT_EQ(scriviEtichetta(ticket, {}), QString());
+        apri();
+        premi("AggiungiTesto");
+        const QByteArray prima = leggiFile(ticket).contenuto;
+        {
+            const auto ostacolo = ostacola();
+            premi("Salva");
+        }
+        const QString messaggio = dialoghi.unicoMessaggio();
+        EXPECT_TRUE(messaggio.contains(u"non è stato salvato"_s) && messaggio.contains(QString::fromUtf16(parola)))
+            << messaggio.toStdString();
+        EXPECT_TRUE(!QFile::exists(totem) || leggiFile(ticket).contenuto == prima);
+        dialoghi.file.push_back(altrove);
+        premi("SalvaCopia");
+        EXPECT_EQ(leggiEtichetta(altrove).etichetta->oggetti.size(), 1);
+        EXPECT_TRUE(designer->windowTitle().endsWith(u'*')); // the ticket itself is still unsaved
+        dialoghi.scelte.push_back(1);
+        designer->close();
+    }
+}
+
+// Place, measures and contents are in sight from the start, and say why they can't be used.
+TEST_F(Finestra, ICampiPrincipaliSonoSempreInVista) {
     apri();
+    const auto usabili = [this] {
+        QString stato;
+        for (const char *nome : {"ValoreX", "ValoreY", "ValoreLarghezza", "ValoreAltezza", "ValoreTesto"}) {
+            const auto &campo = trova<QWidget>(nome);
+            EXPECT_TRUE(campo.isVisible() && campo.isEnabled() == campo.accessibleDescription().isEmpty()) << nome;
+            stato += campo.isEnabled() ? u'+' : u'-';
+        }
+        return stato;
+    };
+    EXPECT_EQ(usabili(), u"-----"_s);
     premi("AggiungiTesto");
-    premi("Salva");
-    EXPECT_TRUE(dialoghi.unicoMessaggio().contains(u"non è stato salvato"_s));
-    dialoghi.file.push_back(cartella.filePath(u"altrove.lbl"_s));
-    premi("SalvaCopia");
-    EXPECT_EQ(leggiEtichetta(cartella.filePath(u"altrove.lbl"_s)).etichetta->oggetti.size(), 1);
-    EXPECT_TRUE(designer->windowTitle().endsWith(u'*')); // the ticket itself is still unsaved
-    dialoghi.scelte.push_back(1);
-    designer->close();
+    EXPECT_EQ(usabili(), u"+++++"_s);
+    premi("AggiungiLinea");
+    EXPECT_EQ(usabili(), u"++++-"_s);
+    QTest::mouseClick(&trova<QCheckBox>("Bloccato"), Qt::LeftButton, {}, QPoint(8, 8));
+    EXPECT_EQ(usabili(), u"-----"_s);
+}
+
+TEST_F(Finestra, LaCartaSegueLaFinestraFinoAUnIngrandimento) {
+    apri();
+    const auto intera = [this] {
+        const auto &foglio = trova<Foglio>("foglio");
+        return foglio.horizontalScrollBar()->maximum() == 0;
+    };
+    designer->resize(designer->width() - 150, designer->height());
+    EXPECT_TRUE(QTest::qWaitFor(intera));
+    trova<Foglio>("foglio").setZoom(400);
+    designer->resize(designer->width() - 10, designer->height());
+    QApplication::processEvents();
+    EXPECT_EQ(trova<Foglio>("foglio").zoom(), 400);
 }
 
 TEST_F(Finestra, LeImmaginiSonoControllatePrima) {
@@ -227,8 +327,11 @@ TEST_F(Finestra, LeImmaginiOstiliNonFermanoIlDesigner) {
 
 TEST_F(Finestra, SenzaStampantiLoDice) {
     apri();
+    dialoghi.scelte.push_back(0);
+    dialoghi.file.push_back(cartella.filePath(u"prova.pdf"_s));
     premi("StampaProva");
-    EXPECT_TRUE(dialoghi.unicoMessaggio().contains(u"nessuna stampante"_s));
+    EXPECT_TRUE(dialoghi.domande.last().contains(u"nessuna stampante"_s));
+    EXPECT_TRUE(leggiFile(cartella.filePath(u"prova.pdf"_s)).contenuto.startsWith("%PDF"));
     stampanti << u"Zebra"_s;
     QTimer::singleShot(0, [] {
         auto *finestra = QApplication::activeModalWidget();

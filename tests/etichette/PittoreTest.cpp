@@ -85,6 +85,10 @@ TEST(PittoreBiglietto, RiduciFaStareTuttoNelRiquadro) {
     EXPECT_TRUE(disegnaTesto(p, o.testo, o.stile, area.size()));
     p.end();
     EXPECT_TRUE(area.contains(inchiostro(disegna(con(o)))));
+    o.testo = u"A1234567"_s; // a number is not broken
+    o.stile.punti = 40;
+    o.stile.aCapo = true;
+    EXPECT_LT(inchiostro(disegna(con(o))).height(), 30);
 }
 
 TEST(PittoreBiglietto, ContenutiOstiliNonFermanoIlDisegno) {

@@ -1,4 +1,5 @@
 #include "etichette/logic/Valori.h"
+#include "etichette/logic/Driver.h"
 
 #include <gtest/gtest.h>
 
@@ -54,6 +55,33 @@ TEST(Valori, ContenutiCheNonSonoDelLoroTipoRestanoTesto) {
     }
     EXPECT_FALSE(variabileDaContenuto(u"v"_s, u"1e300"_s, TipoEtichetta::Data).data);
     EXPECT_FALSE(variabileDaContenuto(u"v"_s, u"nan"_s, TipoEtichetta::Numero).numero);
+}
+
+TEST(Driver, OgnunoChiamaTaglioEScurezzaAModoSuo) {
+    const auto scelta = [](const char *nome, const QByteArrayList &valori) {
+        QByteArray testo = QByteArray("*OpenUI *") + nome + "/x: PickOne\r\n";
+        for (const QByteArray &valore : valori)
+            testo += QByteArray("*") + nome + ' ' + valore + "/x: \"\"\r\n";
+        return testo + "*CloseUI: *" + nome + "\r\n";
+    };
+    using Attese = QList<std::pair<QByteArray, QByteArray>>;
+    const struct {
+        QByteArray ppd;
+        Stampa stampa;
+        Attese attese;
+    } casi[] = {
+        {"", {1, true, 3}, {}},
+        {scelta("PageSize", {"A4"}) + "*CustomPageSize True: \"\"\n", {}, {{"media", "Custom.80x100.5mm"}}},
+        {scelta("DocCutType", {"0NoCutDoc", "2FullCutDoc"}) + scelta("PageCutType", {"0NoCutPage", "1PartialCutPage"}),
+         {1, true, 0},
+         {{"PageCutType", "1PartialCutPage"}}},
+        {scelta("TmxPaperCut", {"NoCut", "CutPerJob"}), {1, true, 0}, {{"TmxPaperCut", "CutPerJob"}}},
+        {scelta("TmxPaperCut", {"NoCut", "CutPerJob"}), {1, false, 0}, {}},
+        {scelta("Darkness", {"-1", "1", "30", "16"}), {1, false, 3}, {{"Darkness", "16"}}},
+        {scelta("PrintDensity", {"-2", "-1", "0", "1", "2"}), {1, false, 1}, {{"PrintDensity", "-2"}}},
+        {scelta("Darkness", {"Light"}), {1, true, 5}, {}}};
+    for (const auto &caso : casi)
+        EXPECT_EQ(opzioniDriver(caso.ppd, caso.stampa, QSize(800, 1005)), caso.attese) << caso.ppd.constData();
 }
 
 } // namespace

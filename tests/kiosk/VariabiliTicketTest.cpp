@@ -28,6 +28,7 @@ TEST(VariabileTicket, TakesItsTypeFromTheValue) {
         {u"DATE"_s, u"2013-10-03"_s, u"41550"_s, TipoEtichetta::Data},
         {u"DATETIME"_s, u"2013-10-03 12:00:00"_s, u"41550.5"_s, TipoEtichetta::Data},
         {u"DATETIME"_s, u"18:00:00"_s, u"0.75"_s, TipoEtichetta::Data},
+        {u"TIME"_s, u"06:00"_s, u"0.25"_s, TipoEtichetta::Data},
         {u"DATE"_s, u"1899-12-29"_s, u"-1"_s, TipoEtichetta::Data},
         {u"DATE"_s, u"ieri"_s, u"ieri"_s, TipoEtichetta::Testo},
         {u"DATE"_s, Valore(), u""_s, TipoEtichetta::Testo},

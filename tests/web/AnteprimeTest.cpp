@@ -20,7 +20,7 @@ struct Anteprime : testing::Test {
         server.pagine[u"/"_s] = {"<title>filmato</title>"};
     }
     static bool mostra(const Browser &pagina) {
-        return QTest::qWaitFor([&] { return titoloDi(pagina) == u"filmato"_s; }, Attesa_ms);
+        return aspetta([&] { return titoloDi(pagina) == u"filmato"_s; }, Attesa_ms);
     }
 
     ValoriCondivisi valori;

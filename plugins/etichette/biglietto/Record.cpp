@@ -11,15 +11,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-std::optional<QDateTime> momentoDi(const QString &testo) {
-    for (const QString &formato :
-         {u"yyyy-MM-dd"_s, u"yyyy-MM-dd HH:mm"_s, u"yyyy-MM-dd HH:mm:ss"_s, u"dd/MM/yyyy"_s, u"dd/MM/yyyy HH:mm"_s})
-        if (const QDateTime momento = QDateTime::fromString(testo, formato); momento.isValid())
-            return momento;
-    const QDateTime iso = QDateTime::fromString(testo, Qt::ISODate);
-    return iso.isValid() ? std::optional(iso) : std::nullopt;
-}
-
 // Gives a text the meaning that its type has; one that it can't be read as stays a text.
 Variabile conTipo(const QString &nome, TipoEtichetta tipo, const QString &testo) {
     Variabile v{nome, tipo, testo, {}, {}, {}};
@@ -28,9 +19,9 @@ Variabile conTipo(const QString &nome, TipoEtichetta tipo, const QString &testo)
         if (v.numero)
             v.testo.replace(u'.', u',');
     } else if (tipo == TipoEtichetta::Data) {
-        v.data = momentoDi(testo);
+        v.data = momentoDa(testo);
         if (v.data)
-            v.testo = v.data->toString(v.data->time() == QTime(0, 0) ? u"dd/MM/yyyy"_s : u"dd/MM/yyyy HH:mm"_s);
+            v.testo = testoData(*v.data);
     } else if (tipo == TipoEtichetta::Logico && !testo.isEmpty()) {
         static const QStringList affermativi = {u"1"_s, u"-1"_s, u"true"_s, u"vero"_s, u"sì"_s, u"si"_s};
         v.vero = affermativi.contains(testo.toLower());
@@ -39,27 +30,13 @@ Variabile conTipo(const QString &nome, TipoEtichetta tipo, const QString &testo)
     return v;
 }
 
-TipoEtichetta tipoDi(const QString &dichiarato, const Valore &valore) {
-    for (const QStringView parte : {u"DATE", u"TIME"})
-        if (dichiarato.contains(parte, Qt::CaseInsensitive))
-            return TipoEtichetta::Data;
-    if (valore.typeId() == QMetaType::Bool || dichiarato.contains(u"BOOL", Qt::CaseInsensitive))
-        return TipoEtichetta::Logico;
-    if (!eNull(valore) && valore.typeId() != QMetaType::QString)
-        return TipoEtichetta::Numero;
-    for (const QStringView parte : {u"INT", u"REAL", u"FLOA", u"DOUB", u"NUM"})
-        if (dichiarato.contains(parte, Qt::CaseInsensitive))
-            return TipoEtichetta::Numero;
-    return TipoEtichetta::Testo;
-}
-
 Valori variabiliDi(Recordset &righe) {
     QList<Variabile> variabili;
     auto campi = righe.Fields();
     for (int i = 0; i < campi.Count(); ++i) {
         const auto campo = campi.Item(i);
         const Valore valore = righe.Eof() ? Valore() : campo.Value();
-        const TipoEtichetta tipo = tipoDi(campo.TipoDichiarato(), valore);
+        const TipoEtichetta tipo = tipoEtichetta(campo.TipoDichiarato(), valore);
         const bool logico = tipo == TipoEtichetta::Logico && !eNull(valore);
         variabili << conTipo(campo.Name(), tipo, logico ? (eVero(valore) ? u"1"_s : u"0"_s) : testoDi(valore, u""_s));
     }

@@ -1,14 +1,17 @@
 #pragma once
 
-#include "etichette/logic/Etichetta.h"
+#include "etichette/biglietto/Uscite.h"
 
 namespace zuvora {
 
-// Hands a finished PDF to the printer's queue. Empty when the print system has taken the whole job, else the Italian
-// reason. Copies, cutter and darkness are asked for where the printer's driver offers them.
-QString stampaPdf(const QString &stampante, const QByteArray &pdf, const Stampa &stampa);
+// Draws the ticket, moved as it is told for this printer, and hands it to its queue: without a reason the print system
+// has taken the whole job. Copies, cutter and darkness are asked for where the printer's driver offers them.
+EsitoStampa stampa(const QString &stampante, const Etichetta &etichetta, const Valori &valori);
 
-// The queues of this machine, the default one first.
-QStringList stampanti();
+struct Stampanti {
+    QStringList nomi; // the default one first
+    QString motivo;   // Italian: why the print system can't be asked
+};
+Stampanti stampanti();
 
 } // namespace zuvora

@@ -33,14 +33,10 @@ EsitoStampa esci(const Argomenti &a, const Etichetta &etichetta, const Valori &v
     case Argomenti::Uscita::Stampante:
         break;
     }
-    EsitoStampa esito;
-    const QByteArray byte = pdf(etichetta, valori, etichetta.scostamenti.value(a.destinazione), esito.avvisi);
-    esito.motivo =
-        byte.isEmpty() ? u"Il biglietto non è stato disegnato."_s : stampaPdf(a.destinazione, byte, etichetta.stampa);
-    return esito;
+    return stampa(a.destinazione, etichetta, valori);
 }
 
-int stampa(const Argomenti &a) {
+int esegui(const Argomenti &a) {
     const EtichettaLetta letta = leggiEtichetta(QDir(a.cartella).filePath(nomi::biglietto.toString()));
     if (!letta.etichetta) {
         di(stderr, u"Nessun biglietto stampato: Ticket.lbl nella cartella %1. %2"_s.arg(a.cartella, letta.motivo));
@@ -69,6 +65,7 @@ int stampa(const Argomenti &a) {
 int main(int argc, char *argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     std::signal(SIGXFSZ, SIG_IGN); // a file size limit is a failure to write, not the end of the program
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {}); // English, for developers
     QGuiApplication applicazione(argc, argv);
     const ArgomentiLetti letti = leggiArgomenti(QGuiApplication::arguments().mid(1));
     if (letti.aiuto) {
@@ -79,5 +76,5 @@ int main(int argc, char *argv[]) {
         di(stderr, letti.errore + u"\n\n"_s + usoBiglietto());
         return usoErrato;
     }
-    return stampa(*letti.argomenti);
+    return esegui(*letti.argomenti);
 }

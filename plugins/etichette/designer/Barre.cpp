@@ -60,8 +60,14 @@ void DesignerEtichetta::primaRiga(QBoxLayout &riga) {
             m_progetto.setCarta(*carta);
     });
     bottone(riga, "Modelli", u"Biglietti pronti..."_s, u"Comincia da un biglietto già disegnato"_s, [this] {
-        if (const auto modello = chiediModello(this))
-            m_progetto.sostituisci(*modello, u"Biglietto pronto"_s);
+        auto modello = chiediModello(this);
+        if (!modello)
+            return;
+        const Etichetta prima = m_progetto.etichetta(); // what belongs to the printers stays
+        modello->stampa = prima.stampa;
+        modello->scostamenti = prima.scostamenti;
+        modello->ignoti = prima.ignoti;
+        m_progetto.sostituisci(*modello, u"Biglietto pronto"_s);
     });
     bottone(riga, "Controlla", u"Controlla"_s, u"Che cosa non verrà stampato come si vede"_s, [this] {
         const QStringList avvisi = controlla(m_progetto.etichetta(), m_valori);

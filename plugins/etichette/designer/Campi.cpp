@@ -70,6 +70,7 @@ void CampoTesto::mostra(const QString &testo) {
     m_testo = testo;
     if (toPlainText() != testo)
         setPlainText(testo);
+    document()->setModified(false);
 }
 
 void CampoTesto::applica() {

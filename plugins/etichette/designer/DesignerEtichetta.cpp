@@ -29,6 +29,8 @@ namespace {
 constexpr QSize latoImmagine(1600, 1600);       // points; a roll of 80 mm has 640 across
 constexpr qint64 immagineIntatta = 1024 * 1024; // bytes
 constexpr int bozzaDopo = 2000;                 // milliseconds
+constexpr int avvisiDopo = 150;
+constexpr std::chrono::seconds attesaCartella{20}; // of a kiosk's folder on the network
 const QString filtroImmagini = u"Immagini|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.webp;*.svg"_s;
 const QString tipoAppunti = u"application/x-zuvora-biglietto"_s;
 constexpr std::chrono::seconds attesaImmagine{20};
@@ -54,6 +56,20 @@ ImmaginePresa prendiImmagine(const QString &percorso) {
         return {{}, u"Anche ridotta è troppo grande per un biglietto."_s};
     return {ridotta, {}};
 }
+
+// What is dragged out of it is the variable's name.
+class ElencoVariabili : public QListWidget {
+public:
+    using QListWidget::QListWidget;
+
+protected:
+    QStringList mimeTypes() const override { return {u"text/plain"_s}; }
+    QMimeData *mimeData(const QList<QListWidgetItem *> &voci) const override {
+        auto *dati = new QMimeData;
+        dati->setText(voci.isEmpty() ? QString() : voci.first()->text());
+        return dati;
+    }
+};
 
 } // namespace
 
@@ -89,12 +105,13 @@ DesignerEtichetta::DesignerEtichetta(const Etichetta &etichetta, const Valori &v
     tutto->addWidget(m_nota);
     m_orologio.setSingleShot(true);
     m_orologio.setInterval(bozzaDopo);
-    connect(&m_orologio, &QTimer::timeout, this, [this] {
-        if (!m_progetto.pila().isClean() && !m_bozza.scrivi(m_progetto.etichetta()))
-            di(u"La copia di sicurezza non è stata scritta: la cartella non lo permette."_s);
-    });
+    connect(&m_orologio, &QTimer::timeout, this, &DesignerEtichetta::scriviBozza);
+    m_attesaAvvisi.setSingleShot(true);
+    m_attesaAvvisi.setInterval(avvisiDopo);
+    connect(&m_attesaAvvisi, &QTimer::timeout, this, &DesignerEtichetta::mostraAvvisi);
     connect(&m_progetto, &Progetto::cambiato, this, [this] {
         m_orologio.start();
+        m_attesaAvvisi.start();
         mostraStato();
     });
     connect(&m_progetto.pila(), &QUndoStack::cleanChanged, this, &DesignerEtichetta::mostraStato);
@@ -122,7 +139,7 @@ void DesignerEtichetta::showEvent(QShowEvent *e) {
 
 void DesignerEtichetta::disponiElenco(QBoxLayout &colonna) {
     auto *scritta = new QLabel(u"Varia&bili"_s, this);
-    m_variabili = new QListWidget(this);
+    m_variabili = new ElencoVariabili(this);
     m_variabili->setObjectName(u"variabili"_s);
     m_variabili->setAccessibleName(u"Variabili"_s);
     m_variabili->setToolTip(u"Trascinare una variabile sul foglio, oppure doppio clic o Invio"_s);
@@ -198,8 +215,41 @@ void DesignerEtichetta::scegliImmagine() {
         m_progetto.cambia(u"Immagine"_s, [&](Oggetto &o) { o.immagine = *file; });
 }
 
+// Beside the window, which a folder that doesn't answer must not hold up. What was saved or left meanwhile goes again.
+void DesignerEtichetta::scriviBozza() {
+    if (m_bozzaInCorso)
+        m_orologio.start(); // one at a time: the last must be the last
+    if (m_bozzaInCorso || m_progetto.pila().isClean())
+        return;
+    m_bozzaInCorso = true;
+    m_bozzaSuperata = std::make_shared<std::atomic<bool>>(false);
+    chiedi<QString>(
+        [bozza = m_bozza, etichetta = m_progetto.etichetta(), superata = m_bozzaSuperata] {
+            const QString motivo = scriviEtichetta(bozza.percorso(), etichetta);
+            if (*superata)
+                bozza.togli();
+            return motivo;
+        },
+        *this,
+        [this](const std::optional<QString> &motivo) {
+            m_bozzaInCorso = false;
+            if (motivo != QString() && !m_progetto.pila().isClean())
+                di(u"La copia di sicurezza non è stata scritta. "_s + motivo.value_or(u"La cartella non risponde."_s));
+        },
+        attesaCartella);
+}
+
+void DesignerEtichetta::togliBozza() {
+    if (m_bozzaSuperata)
+        *m_bozzaSuperata = true;
+    m_bozza.togli();
+}
+
 bool DesignerEtichetta::salvaIn(const QString &file) {
-    const QString motivo = scriviEtichetta(file, m_progetto.etichetta());
+    const auto scrittura = chiediEAspetta<QString>(
+        [file, etichetta = m_progetto.etichetta()] { return scriviEtichetta(file, etichetta); }, attesaCartella);
+    const QString motivo =
+        scrittura.value_or(u"La cartella non risponde: non si sa se il biglietto sia stato scritto."_s);
     if (motivo.isEmpty())
         return true;
     avvisa(u"Il biglietto non è stato salvato in %1.\n%2\n\nQuello che è disegnato resta qui: si può "
@@ -211,7 +261,7 @@ bool DesignerEtichetta::salva() {
     if (!salvaIn(m_file))
         return false;
     m_progetto.pila().setClean();
-    m_bozza.togli();
+    togliBozza();
     di(u"Biglietto salvato."_s);
     return true;
 }
@@ -235,24 +285,27 @@ void DesignerEtichetta::esportaPdf() {
 }
 
 void DesignerEtichetta::stampaProva() {
-    const QStringList stampanti = m_mondo.stampanti();
-    if (stampanti.isEmpty()) {
-        avvisa(u"Su questa macchina non c'è nessuna stampante.\nIl biglietto si può provare con "
-               "«Esporta PDF»."_s);
+    const auto [nomi, motivo] = m_mondo.stampanti();
+    if (nomi.isEmpty()) {
+        const QString testo = motivo.isEmpty() ? u"Su questa macchina non c'è nessuna stampante."_s : motivo;
+        if (m_mondo.dialoghi.scegli(
+                this,
+                {titoloMessaggi(), testo + u"\n\nEsportare il biglietto in PDF ?"_s, {u"&Sì"_s, u"&No"_s}, 0, 1}) == 0)
+            esportaPdf();
         return;
     }
-    const auto richiesta = chiediStampa(m_progetto.etichetta(), stampanti, this);
+    const auto richiesta = chiediStampa(m_progetto.etichetta(), nomi, this);
     if (!richiesta)
         return;
     m_progetto.setScostamento(richiesta->stampante, richiesta->scostamento);
     m_progetto.setStampa(richiesta->stampa);
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString motivo = m_mondo.stampa(richiesta->stampante, m_progetto.etichetta(), m_valori);
+    const QString rifiuto = m_mondo.stampa(richiesta->stampante, m_progetto.etichetta(), m_valori);
     QApplication::restoreOverrideCursor();
-    if (motivo.isEmpty())
+    if (rifiuto.isEmpty())
         di(u"Biglietto consegnato alla stampante %1."_s.arg(richiesta->stampante));
     else
-        avvisa(motivo);
+        avvisa(rifiuto);
 }
 
 void DesignerEtichetta::avvisa(const QString &testo) {
@@ -262,9 +315,12 @@ void DesignerEtichetta::avvisa(const QString &testo) {
 void DesignerEtichetta::mostraRecord(int n) {
     m_valori = m_primo;
     if (n > 1) {
-        const auto altri = m_mondo.record(n);
+        const auto lettura =
+            chiediEAspetta<std::optional<Valori>>([record = m_mondo.record, n] { return record(n); }, attesaCartella);
+        const auto altri = lettura.value_or(std::nullopt);
         if (!altri) {
-            di(u"Il record %1 non c'è: si vedono i contenuti del primo."_s.arg(n));
+            di(lettura ? u"Il record %1 non c'è: si vedono i contenuti del primo."_s.arg(n)
+                       : u"La cartella non risponde: si vedono i contenuti del primo record."_s);
             m_foglio->setValori(m_primo);
             return;
         }
@@ -281,11 +337,15 @@ void DesignerEtichetta::di(const QString &testo) {
 // The title tells the unsaved; the line below what will not print well.
 void DesignerEtichetta::mostraStato() {
     setWindowTitle(m_progetto.pila().isClean() ? m_titolo : m_titolo + u" *"_s);
+}
+
+void DesignerEtichetta::mostraAvvisi() {
     if (m_progetto.pila().isClean())
         return;
     const QStringList avvisi = controlla(m_progetto.etichetta(), m_valori);
     di(avvisi.isEmpty()     ? QString()
        : avvisi.size() == 1 ? avvisi.first()
+       : avvisi.size() == 2 ? avvisi.first() + u"  (e un altro avviso, con «Controlla»)"_s
                             : u"%1  (e altri %2 avvisi, con «Controlla»)"_s.arg(avvisi.first()).arg(avvisi.size() - 1));
 }
 
@@ -330,7 +390,7 @@ void DesignerEtichetta::closeEvent(QCloseEvent *e) {
         }
     }
     m_orologio.stop();
-    m_bozza.togli();
+    togliBozza();
     e->accept();
     done(QDialog::Rejected);
 }

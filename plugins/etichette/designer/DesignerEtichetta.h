@@ -1,5 +1,6 @@
 #pragma once
 
+#include "etichette/biglietto/Stampante.h"
 #include "etichette/logic/Bozza.h"
 #include "etichette/logic/Progetto.h"
 #include "etichette/logic/Valori.h"
@@ -7,7 +8,9 @@
 
 #include <QDialog>
 #include <QTimer>
+#include <atomic>
 #include <functional>
+#include <memory>
 
 class QBoxLayout;
 class QComboBox;
@@ -28,7 +31,7 @@ public:
     // What the designer has of the outside: tests give doubles.
     struct Mondo {
         Dialoghi &dialoghi;
-        std::function<QStringList()> stampanti;
+        std::function<Stampanti()> stampanti;
         // The Italian reason, empty when the printer has the ticket.
         std::function<QString(const QString &stampante, const Etichetta &, const Valori &)> stampa;
         // The contents of the n-th record, from 1; nothing when there is none.
@@ -69,6 +72,9 @@ private:
     void avvisa(const QString &testo);
     void mostraRecord(int n);
     void mostraStato();
+    void mostraAvvisi();
+    void scriviBozza();
+    void togliBozza();
     void di(const QString &testo);
     void copia();
     void incolla();
@@ -80,7 +86,10 @@ private:
     QString m_file;
     Mondo m_mondo;
     Bozza m_bozza;
-    QTimer m_orologio; // writes the draft a moment after the last change
+    bool m_bozzaInCorso = false;
+    std::shared_ptr<std::atomic<bool>> m_bozzaSuperata;
+    QTimer m_orologio;     // writes the draft a moment after the last change
+    QTimer m_attesaAvvisi; // and tells what will not print well: a look at every object is not for each key
     Foglio *m_foglio;
     PannelloProprieta *m_proprieta;
     QListWidget *m_variabili;

@@ -2,7 +2,6 @@
 
 #include "etichette/biglietto/Record.h"
 #include "etichette/biglietto/Stampante.h"
-#include "etichette/biglietto/Uscite.h"
 #include "etichette/designer/DesignerEtichetta.h"
 #include "etichette/logic/FileEtichetta.h"
 #include "shell/host/Dialoghi.h"
@@ -16,11 +15,11 @@ namespace {
 
 constexpr int riuscito = 0;
 constexpr int fallito = -1;
+constexpr int sicuroSi = 0;
+constexpr int sicuroNo = 1;
 
 QString stampaProva(const QString &stampante, const Etichetta &e, const Valori &valori) {
-    QStringList avvisi;
-    const QByteArray byte = pdf(e, valori, e.scostamenti.value(stampante), avvisi);
-    return byte.isEmpty() ? u"Il biglietto non è stato disegnato."_s : stampaPdf(stampante, byte, e.stampa);
+    return stampa(stampante, e, valori).motivo;
 }
 
 std::optional<Valori> recordDi(const QString &cartella, int n) {
@@ -49,8 +48,9 @@ int EtichetteQt::LlDefineLayout(QWidget *finestra, const QString &titolo, int /*
     }
 }
 
-bool EtichetteQt::conferma(QWidget *finestra, const QString &testo) {
-    return m_dialoghi.scegli(finestra, {titoloMessaggi(), testo, {u"&Sì"_s, u"&No"_s}, 1, 1}) == 0;
+// `sicuro`: the answer that loses nothing, and the one of Enter and Esc.
+bool EtichetteQt::conferma(QWidget *finestra, const QString &testo, int sicuro) {
+    return m_dialoghi.scegli(finestra, {titoloMessaggi(), testo, {u"&Sì"_s, u"&No"_s}, sicuro, sicuro}) == 0;
 }
 
 int EtichetteQt::disegna(QWidget *finestra, const QString &titolo, const QString &file) {
@@ -59,8 +59,10 @@ int EtichetteQt::disegna(QWidget *finestra, const QString &titolo, const QString
         const EtichettaLetta letta = leggiEtichetta(file);
         if (!letta.etichetta) {
             // What can't be read is somebody's work: it is replaced only when the user says so, and then at a save.
-            if (!conferma(finestra, u"%1 non può essere aperto.\n%2\n\nDisegnare un biglietto nuovo al suo posto ? "
-                                    "Il file resta com'è finché il nuovo non viene salvato."_s.arg(file, letta.motivo)))
+            if (!conferma(finestra,
+                          u"%1 non può essere aperto.\n%2\n\nDisegnare un biglietto nuovo al suo posto ? "
+                          "Il file resta com'è finché il nuovo non viene salvato."_s.arg(file, letta.motivo),
+                          sicuroNo))
                 return fallito;
         } else {
             etichetta = *letta.etichetta;
@@ -78,8 +80,10 @@ int EtichetteQt::disegna(QWidget *finestra, const QString &titolo, const QString
     DesignerEtichetta designer(etichetta, Valori(esempio), titolo, file, std::move(mondo), finestra);
     const Bozza bozza(file);
     if (const auto lasciata = bozza.lasciata()) {
-        if (conferma(finestra, u"L'ultima volta il biglietto non è stato chiuso in ordine.\nRiprendere le modifiche "
-                               "che non erano state salvate ?"_s))
+        if (conferma(finestra,
+                     u"L'ultima volta il biglietto non è stato chiuso in ordine.\nRiprendere le modifiche "
+                     "che non erano state salvate ?"_s,
+                     sicuroSi))
             designer.recupera(*lasciata);
         else
             bozza.togli();

@@ -15,7 +15,7 @@ public:
     int LlDefineLayout(QWidget *finestra, const QString &titolo, int tipoProgetto, const QString &file) override;
 
 private:
-    bool conferma(QWidget *finestra, const QString &testo);
+    bool conferma(QWidget *finestra, const QString &testo, int sicuro);
     int disegna(QWidget *finestra, const QString &titolo, const QString &file);
 
     Dialoghi &m_dialoghi;

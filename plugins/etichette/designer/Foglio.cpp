@@ -10,8 +10,11 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
-constexpr int righello = 22; // pixels
-constexpr int bordo = 24;    // pixels of table round the paper
+constexpr int righello = 22;                     // pixels
+constexpr int bordo = 24;                        // pixels of table round the paper
+constexpr int passoPosto = 50;                   // tenths of a millimetre: where new objects are tried
+constexpr int maniglia = 4;                      // pixels from an object's edge to its grips' edge
+constexpr qint64 puntiDisegno = 2 * 1024 * 1024; // a larger object isn't kept as a picture
 const QColor coloreTavolo(0xd9, 0xde, 0xe3);
 const QColor coloreGriglia(0xe4, 0xea, 0xf0);
 const QColor coloreMargine(0x9a, 0xb4, 0xcc);
@@ -28,28 +31,40 @@ Foglio::Foglio(Progetto &progetto, QWidget *padre) : QAbstractScrollArea(padre),
     viewport()->setMouseTracking(true);
     connect(&progetto, &Progetto::cambiato, this, [this] {
         misuraScorrimento();
+        const int dpi = m_progetto.carta().dpi;
+        if (std::exchange(m_dpi, dpi) != dpi)
+            ridisegna();
         rifai();
     });
-    connect(&progetto, &Progetto::sceltiCambiati, this, &Foglio::rifai);
+    connect(&progetto, &Progetto::sceltiCambiati, viewport(), qOverload<>(&QWidget::update));
 }
 
 void Foglio::setValori(const Valori &valori) {
     m_valori = valori;
-    rifai();
+    ridisegna();
 }
 
 void Foglio::setZoom(int percento) {
+    if (percento == m_zoom) // as the box echoes it
+        return;
+    m_adattato = false;
+    mettiZoom(percento);
+}
+
+void Foglio::mettiZoom(int percento) {
     const int nuovo = std::clamp(percento, 25, 800);
     if (std::exchange(m_zoom, nuovo) == nuovo)
         return;
     misuraScorrimento();
-    rifai();
+    ridisegna();
     Q_EMIT zoomCambiato(nuovo);
 }
 
 void Foglio::adatta() {
+    m_adattato = true;
     const double libera = width() - verticalScrollBar()->sizeHint().width() - righello - 2 * bordo - 4;
-    setZoom(static_cast<int>(libera * decimiPerPollice * 100 / (logicalDpiX() * double(m_progetto.carta().larghezza))));
+    mettiZoom(
+        static_cast<int>(libera * decimiPerPollice * 100 / (logicalDpiX() * double(m_progetto.carta().larghezza))));
 }
 
 void Foglio::setGriglia(int decimi) {
@@ -83,8 +98,22 @@ QPoint Foglio::postoInVista(const QSize &misura) const {
     const QRect carta(QPoint(0, 0), Pittore::misuraCarta(m_progetto.etichetta(), m_valori, Pittore::Modo::Progetto));
     const QRect libera = vista.intersected(carta);
     const QPoint centro = libera.isEmpty() ? carta.center() : libera.center();
-    const QPoint angolo = centro - QPoint(misura.width() / 2, misura.height() / 2);
-    return {std::max(0, std::min(angolo.x(), carta.width() - misura.width())), std::max(0, angolo.y())};
+    const QPoint mezzo = centro - QPoint(misura.width() / 2, misura.height() / 2);
+    QRect posto(QPoint(std::max(0, std::min(mezzo.x(), carta.width() - misura.width())) / passoPosto * passoPosto,
+                       std::max(0, mezzo.y()) / passoPosto * passoPosto),
+                misura);
+    const auto occupato = [this](const QRect &area) {
+        const QRect conSpessore = area.adjusted(0, 0, 1, 1);
+        return std::any_of(m_progetto.oggetti().begin(), m_progetto.oggetti().end(),
+                           [&](const auto &o) { return conSpessore.intersects(o->area.adjusted(0, 0, 1, 1)); });
+    };
+    const QRect prima = posto;
+    for (int y = (libera.y() / passoPosto + 1) * passoPosto; occupato(posto); y += passoPosto) {
+        if (y + misura.height() > libera.y() + libera.height())
+            return prima.topLeft(); // no room is free: in the middle
+        posto.moveTop(y);
+    }
+    return posto.topLeft();
 }
 
 void Foglio::misuraScorrimento() {
@@ -103,8 +132,15 @@ void Foglio::rifai() {
     viewport()->update();
 }
 
+void Foglio::ridisegna() {
+    m_disegni.clear();
+    rifai();
+}
+
 void Foglio::resizeEvent(QResizeEvent *e) {
     QAbstractScrollArea::resizeEvent(e);
+    if (m_adattato)
+        adatta();
     misuraScorrimento();
     rifai();
 }
@@ -113,7 +149,37 @@ void Foglio::scrollContentsBy(int /*dx*/, int /*dy*/) {
     rifai();
 }
 
-void Foglio::dipingiOggetto(QPainter &p, const Oggetto &oggetto, const QRect &area) {
+QRect Foglio::ingombro(const Oggetto &oggetto, const QRect &area) const {
+    const int fuori = static_cast<int>(std::ceil(oggetto.spessore * scala())) + 2;
+    return inPixel(area).toAlignedRect().adjusted(-fuori, -fuori, fuori, fuori);
+}
+
+// At rest or moved: what the object looks like is drawn once. One that is being resized, or is very large, is drawn.
+void Foglio::dipingiOggetto(QPainter &p, const Progetto::OggettoFermo &oggetto, const QRect &area) {
+    const QRect posto = ingombro(*oggetto, area);
+    if (!posto.intersects(viewport()->rect()))
+        return;
+    const double rapporto = devicePixelRatioF();
+    const QSize punti = (QSizeF(posto.size()) * rapporto).toSize();
+    if (area.size() != oggetto->area.size() || qint64{punti.width()} * punti.height() > puntiDisegno)
+        return disegnaOggetto(p, *oggetto, area);
+    const QRect casa = ingombro(*oggetto, oggetto->area);
+    Disegno *disegno = m_disegni.object(oggetto.get());
+    if (disegno == nullptr) {
+        disegno = new Disegno{QPixmap((QSizeF(casa.size()) * rapporto).toSize()), oggetto};
+        disegno->dipinto.setDevicePixelRatio(rapporto);
+        disegno->dipinto.fill(Qt::transparent);
+        QPainter dentro(&disegno->dipinto);
+        dentro.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+        dentro.translate(-casa.topLeft());
+        disegnaOggetto(dentro, *oggetto, oggetto->area);
+        m_disegni.insert(oggetto.get(), disegno, 1 + qint64{punti.width()} * punti.height() / 256);
+    }
+    const QPointF di = inPixel(area).topLeft() - inPixel(oggetto->area).topLeft();
+    p.drawPixmap(casa.topLeft() + di.toPoint(), disegno->dipinto);
+}
+
+void Foglio::disegnaOggetto(QPainter &p, const Oggetto &oggetto, const QRect &area) {
     p.save();
     p.translate(origine());
     p.scale(scala(), scala());
@@ -174,6 +240,8 @@ void Foglio::dipingiFermi() {
     if (m_fermiBuoni)
         return;
     const double rapporto = devicePixelRatioF();
+    if (m_fermi.devicePixelRatio() != rapporto)
+        m_disegni.clear();
     m_fermi = QPixmap((QSizeF(viewport()->size()) * rapporto).toSize());
     m_fermi.setDevicePixelRatio(rapporto);
     m_fermi.fill(coloreTavolo);
@@ -182,7 +250,7 @@ void Foglio::dipingiFermi() {
     dipingiCarta(p);
     for (int i = 0; i < m_progetto.oggetti().size(); ++i)
         if (std::none_of(m_inMoto.begin(), m_inMoto.end(), [i](const auto &m) { return m.first == i; }))
-            dipingiOggetto(p, *m_progetto.oggetti()[i], m_progetto.oggetti()[i]->area);
+            dipingiOggetto(p, m_progetto.oggetti()[i], m_progetto.oggetti()[i]->area);
     m_fermiBuoni = true;
 }
 
@@ -208,13 +276,25 @@ void Foglio::dipingiScelti(QPainter &p) {
     }
 }
 
+// The dragged objects with their grips, and the guide lines.
+QRegion Foglio::regioneInMoto() const {
+    QRegion regione;
+    for (const auto &[indice, area] : m_inMoto)
+        regione += ingombro(*m_progetto.oggetti()[indice], area).adjusted(-maniglia, -maniglia, maniglia, maniglia);
+    for (const int x : m_aggancio.verticali)
+        regione += QRect(static_cast<int>(inPixel(QRect(x, 0, 0, 0)).x()) - 2, 0, 5, viewport()->height());
+    for (const int y : m_aggancio.orizzontali)
+        regione += QRect(0, static_cast<int>(inPixel(QRect(0, y, 0, 0)).y()) - 2, viewport()->width(), 5);
+    return regione;
+}
+
 void Foglio::paintEvent(QPaintEvent * /*e*/) {
     dipingiFermi();
     QPainter p(viewport());
     p.drawPixmap(0, 0, m_fermi);
     p.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     for (const auto &[indice, area] : m_inMoto)
-        dipingiOggetto(p, *m_progetto.oggetti()[indice], area);
+        dipingiOggetto(p, m_progetto.oggetti()[indice], area);
     dipingiScelti(p);
     if (m_gesto == Gesto::Trascina) {
         p.setPen(QPen(QColor(0xd0, 0x40, 0x80), 1));

@@ -9,17 +9,17 @@
 
 namespace zuvora {
 
-// The canvas: the ticket at a zoom between two rulers, and what mouse and keys do to it. Everything that stands still
-// during a drag is painted once.
+// The canvas: the ticket at a zoom between two rulers, and what mouse and keys do to it. Each object is drawn once for
+// a zoom and kept as a picture; everything that stands still during a drag is put together once.
 class Foglio : public QAbstractScrollArea {
     Q_OBJECT
 public:
     Foglio(Progetto &progetto, QWidget *padre);
 
     void setValori(const Valori &valori);
-    void setZoom(int percento); // 25 to 800
+    void setZoom(int percento); // 25 to 800; from then on the paper keeps its size when the window changes its own
     int zoom() const { return m_zoom; }
-    void adatta(); // the paper's width fills the view
+    void adatta(); // the paper's width fills the view, and follows it until a zoom is chosen
     void setGriglia(int decimi);
     int griglia() const { return m_griglia; }
     // Where a new object lies in sight, tenths of a millimetre from the paper's corner.
@@ -58,21 +58,34 @@ private:
     QRectF inPixel(const QRect &area) const;
     Bersaglio bersaglioIn(const QPoint &pixel) const;
     void misuraScorrimento();
-    void rifai(); // everything is painted anew
+    void rifai();                 // everything is put together anew
+    void ridisegna();             // each object is drawn anew as well
+    void mettiZoom(int percento); // 25 to 800
+    QRegion regioneInMoto() const;
+    QRect ingombro(const Oggetto &oggetto, const QRect &area) const; // pixels that its drawing touches
     void dipingiFermi();
     void dipingiCarta(QPainter &p);
     void dipingiRighelli(QPainter &p);
     void dipingiScelti(QPainter &p);
-    void dipingiOggetto(QPainter &p, const Oggetto &oggetto, const QRect &area);
+    void dipingiOggetto(QPainter &p, const Progetto::OggettoFermo &oggetto, const QRect &area);
+    void disegnaOggetto(QPainter &p, const Oggetto &oggetto, const QRect &area);
     void muovi(const QPoint &pixel, bool libero);
+    void scegliVicino(int di);
     QList<QRect> areeFerme() const;
 
     Progetto &m_progetto;
     Valori m_valori;
     Pittore m_pittore;
+    struct Disegno {
+        QPixmap dipinto;
+        Progetto::OggettoFermo oggetto; // kept, so that no other object comes to have its address
+    };
+    QCache<const Oggetto *, Disegno> m_disegni{48 * 1024}; // KB; of each object where it rests
     QPixmap m_fermi;
     bool m_fermiBuoni = false;
+    int m_dpi = 0;
     int m_zoom = 100;
+    bool m_adattato = false;
     int m_griglia = 50;
     Gesto m_gesto = Gesto::Nessuno;
     Presa m_presa = Presa::Nessuna;

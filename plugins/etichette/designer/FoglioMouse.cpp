@@ -51,9 +51,14 @@ Foglio::Bersaglio Foglio::bersaglioIn(const QPoint &pixel) const {
         if (!oggetti[i]->bloccato && presa != Presa::Nessuna && presa != Presa::Corpo)
             return {i, presa};
     }
-    for (int i = static_cast<int>(oggetti.size()) - 1; i >= 0; --i)
-        if (presaIn(oggetti[i]->area, punto, tolleranza / 2) != Presa::Nessuna)
-            return {i, Presa::Corpo};
+    // The empty inside of a frame comes last: what lies in it can be reached.
+    for (const bool dentroCornici : {false, true})
+        for (int i = static_cast<int>(oggetti.size()) - 1; i >= 0; --i) {
+            const Presa presa = presaIn(oggetti[i]->area, punto, tolleranza / 2);
+            const bool dentro = presa == Presa::Corpo && oggetti[i]->tipo == TipoOggetto::Cornice && !oggetti[i]->pieno;
+            if (presa != Presa::Nessuna && (dentroCornici || !dentro))
+                return {i, Presa::Corpo};
+        }
     return {};
 }
 
@@ -96,6 +101,7 @@ QList<QRect> Foglio::areeFerme() const {
 // From the start and the whole distance, never by adding up.
 void Foglio::muovi(const QPoint &pixel, bool libero) {
     const QPoint di = inDecimi(pixel) - inDecimi(m_premuto);
+    const QRegion prima = regioneInMoto();
     m_inMoto = m_partenza;
     for (auto &[indice, area] : m_inMoto)
         area = tira(area, m_presa, di);
@@ -109,7 +115,7 @@ void Foglio::muovi(const QPoint &pixel, bool libero) {
         for (std::size_t k = 0; k < std::size_t(m_inMoto.size()); ++k)
             m_inMoto[qsizetype(k)].second = tira(m_partenza[qsizetype(k)].second, m_presa, di + m_aggancio.correzione);
     }
-    viewport()->update();
+    viewport()->update(prima + regioneInMoto());
 }
 
 void Foglio::mouseMoveEvent(QMouseEvent *e) {
@@ -167,6 +173,21 @@ void Foglio::wheelEvent(QWheelEvent *e) {
     e->accept();
 }
 
+// The object after or before the last one selected, in their order and round again.
+void Foglio::scegliVicino(int di) {
+    const int quanti = static_cast<int>(m_progetto.oggetti().size());
+    if (quanti == 0)
+        return;
+    const int da = m_progetto.scelti().isEmpty() ? (di > 0 ? -1 : quanti) : m_progetto.scelti().last();
+    const int scelto = (da + di + quanti) % quanti;
+    m_progetto.scegli({scelto});
+    const QPoint centro = posizioneSuSchermo(scelto).center() - viewport()->rect().center();
+    if (!viewport()->rect().intersects(posizioneSuSchermo(scelto))) {
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + centro.x());
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + centro.y());
+    }
+}
+
 void Foglio::keyPressEvent(QKeyEvent *e) {
     const int passo = (e->modifiers() & Qt::ShiftModifier) != 0 ? passoLungo : passoTasto;
     switch (e->key()) {
@@ -178,6 +199,8 @@ void Foglio::keyPressEvent(QKeyEvent *e) {
         return m_progetto.sposta({0, -passo}, true);
     case Qt::Key_Down:
         return m_progetto.sposta({0, passo}, true);
+    case Qt::Key_Space:
+        return scegliVicino((e->modifiers() & Qt::ShiftModifier) != 0 ? -1 : 1);
     case Qt::Key_Delete:
     case Qt::Key_Backspace:
         return m_progetto.elimina();

@@ -5,6 +5,7 @@
 
 #include <QFontDatabase>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -55,15 +56,18 @@ PannelloProprieta::PannelloProprieta(Progetto &progetto, QWidget *padre) : QWidg
     scorre->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scorre->setFocusPolicy(Qt::NoFocus);
     auto *dentro = new QWidget(scorre);
-    auto *righe = new QFormLayout(dentro);
+    auto *colonna = new QVBoxLayout(dentro);
+    auto *righe = new QFormLayout;
     m_righe = righe;
-    m_nessuno = new QLabel(u"Nessun oggetto scelto.\n\nClic su un oggetto per sceglierlo, Maiusc+clic per sceglierne "
-                           "altri; una variabile si trascina dall'elenco sul foglio."_s,
-                           dentro);
-    m_nessuno->setWordWrap(true);
     m_titolo = new QLabel(dentro);
-    righe->addRow(m_nessuno);
-    righe->addRow(m_titolo);
+    m_aiuto = new QLabel(dentro);
+    m_aiuto->setWordWrap(true);
+    m_aiuto->setObjectName(u"Impedimento"_s);
+    // A label that wraps stands apart: Qt's form layout is at fault where one is in it with hidden rows.
+    colonna->addWidget(m_titolo);
+    colonna->addWidget(m_aiuto);
+    colonna->addLayout(righe);
+    colonna->addStretch(1);
     disponiPosto(*righe);
     disponiTesto(*righe);
     disponiDisegno(*righe);
@@ -71,6 +75,8 @@ PannelloProprieta::PannelloProprieta(Progetto &progetto, QWidget *padre) : QWidg
     fuori->addWidget(scorre);
     connect(&progetto, &Progetto::cambiato, this, &PannelloProprieta::mostra);
     connect(&progetto, &Progetto::sceltiCambiati, this, &PannelloProprieta::mostra);
+    for (auto *campo : findChildren<QWidget *>())
+        campo->installEventFilter(this);
     mostra();
 }
 
@@ -82,7 +88,7 @@ void PannelloProprieta::aggiungi(QFormLayout &righe, const QString &etichetta, Q
         righe.addRow(etichetta, campo);
     if (campo->accessibleName().isEmpty())
         campo->setAccessibleName(QString(etichetta).remove(u'&').remove(u':'));
-    m_campi << Riga{campo, tipi};
+    m_campi << Riga{campo, tipi, campo->toolTip()};
 }
 
 QComboBox *PannelloProprieta::scelta(const char *nome, const QString &descrizione, const QStringList &voci) {
@@ -236,7 +242,7 @@ void PannelloProprieta::setVariabili(const QStringList &nomi) {
 
 void PannelloProprieta::modificaContenuto() {
     for (QWidget *campo : std::initializer_list<QWidget *>{m_testo, m_immagine, m_spessore})
-        if (!campo->isHidden()) {
+        if (!campo->isHidden() && campo->isEnabled()) {
             campo->setFocus(Qt::ShortcutFocusReason);
             return;
         }
@@ -254,7 +260,6 @@ void PannelloProprieta::mostraPosto() {
 // Of several objects the last one stands for all; what is changed is changed in each.
 void PannelloProprieta::mostraUno(const Oggetto &o) {
     m_rotazione->setCurrentIndex(o.rotazione / 90);
-    m_testo->mostra(o.testo);
     if (m_font->findText(o.stile.famiglia) < 0)
         m_font->addItem(o.stile.famiglia);
     m_font->setCurrentText(o.stile.famiglia);
@@ -276,27 +281,68 @@ void PannelloProprieta::mostraUno(const Oggetto &o) {
     m_bloccato->setChecked(o.bloccato);
 }
 
+// A box in which nothing is being typed leaves the keys of undo and redo to the ticket.
+bool PannelloProprieta::eventFilter(QObject *o, QEvent *e) {
+    if (e->type() == QEvent::ShortcutOverride) {
+        const auto *tasto = static_cast<QKeyEvent *>(e);
+        const auto *testo = qobject_cast<QPlainTextEdit *>(o);
+        const auto *riga =
+            qobject_cast<QAbstractSpinBox *>(o) != nullptr ? o->findChild<QLineEdit *>() : qobject_cast<QLineEdit *>(o);
+        const bool scritto =
+            (testo != nullptr && testo->document()->isModified()) || (riga != nullptr && riga->isModified());
+        if (!scritto && (tasto->matches(QKeySequence::Undo) || tasto->matches(QKeySequence::Redo))) {
+            e->ignore();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(o, e);
+}
+
+bool PannelloProprieta::sempre(const QWidget *campo) const {
+    return campo == m_x || campo == m_y || campo == m_larghezza || campo == m_altezza || campo == m_testo;
+}
+
+void PannelloProprieta::abilita(const Riga &riga, const QString &impedimento) {
+    riga.campo->setEnabled(impedimento.isEmpty());
+    riga.campo->setToolTip(impedimento.isEmpty() ? riga.aiuto : impedimento);
+    riga.campo->setAccessibleDescription(impedimento);
+}
+
 void PannelloProprieta::mostra() {
     m_mostro = true;
     const QList<int> &scelti = m_progetto.scelti();
     const bool nessuno = scelti.isEmpty();
     const auto tipo = comune(m_progetto, [](const Oggetto &o) { return o.tipo; });
-    m_nessuno->setVisible(nessuno);
-    m_titolo->setVisible(!nessuno);
-    m_titolo->setText(scelti.size() == 1 ? nomeTipo(*tipo) : u"%1 oggetti scelti"_s.arg(scelti.size()));
+    const bool fermi = comune(m_progetto, [](const Oggetto &o) { return o.bloccato; }).value_or(false);
+    const QString impedimento = nessuno ? u"Clic su un oggetto per sceglierlo (sul foglio anche con la barra "
+                                          u"spaziatrice), Maiusc+clic per sceglierne altri; una variabile si trascina "
+                                          "dall'elenco sul foglio."_s
+                                : fermi ? u"Bloccato: per cambiarlo togliere «Bloccato»."_s
+                                        : QString();
+    m_titolo->setText(nessuno              ? u"Nessun oggetto scelto"_s
+                      : scelti.size() == 1 ? nomeTipo(*tipo)
+                                           : u"%1 oggetti scelti"_s.arg(scelti.size()));
+    m_aiuto->setText(impedimento);
+    m_aiuto->setVisible(!impedimento.isEmpty());
     for (const Riga &riga : m_campi) {
-        const bool visibile = !nessuno && (riga.tipi.isEmpty() || (tipo && riga.tipi.contains(*tipo)));
+        const bool suo = !nessuno && (riga.tipi.isEmpty() || (tipo && riga.tipi.contains(*tipo)));
+        const bool visibile = suo || sempre(riga.campo);
         riga.campo->setVisible(visibile);
         if (QWidget *etichetta = m_righe->labelForField(riga.campo))
             etichetta->setVisible(visibile);
+        if (riga.campo != m_bloccato)
+            abilita(riga, nessuno ? u"Nessun oggetto scelto."_s
+                          : fermi ? impedimento
+                          : suo   ? QString()
+                                  : u"Solo testi e codici hanno un contenuto."_s);
     }
+    mostraPosto();
+    m_testo->mostra(tipo == TipoOggetto::Testo || tipo == TipoOggetto::Codice
+                        ? m_progetto.oggetti()[scelti.last()]->testo
+                        : QString());
     if (!nessuno) {
-        mostraPosto();
         mostraUno(*m_progetto.oggetti()[scelti.last()]);
         m_seVuota->setVisible(m_condizione->currentIndex() > 0);
-        const bool fermi = comune(m_progetto, [](const Oggetto &o) { return o.bloccato; }).value_or(false);
-        for (const Riga &riga : m_campi)
-            riga.campo->setEnabled(!fermi || riga.campo == m_bloccato);
     }
     m_mostro = false;
 }

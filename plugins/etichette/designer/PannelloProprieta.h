@@ -17,7 +17,8 @@ namespace zuvora {
 class CampoMisura;
 class CampoTesto;
 
-// The selected objects in numbers and words. What only some kinds have is shown for those alone.
+// The selected objects in numbers and words. Place, measures and contents are always there; what only some kinds have
+// is shown for those alone.
 class PannelloProprieta : public QWidget {
     Q_OBJECT
 public:
@@ -28,10 +29,14 @@ public:
 Q_SIGNALS:
     void immagineChiesta();
 
+protected:
+    bool eventFilter(QObject *o, QEvent *e) override;
+
 private:
     struct Riga {
         QWidget *campo;
         QList<TipoOggetto> tipi; // empty: all
+        QString aiuto;           // the field's own, where it isn't told why it can't be used
     };
     void disponiPosto(QFormLayout &righe);
     void disponiTesto(QFormLayout &righe);
@@ -42,6 +47,8 @@ private:
     void mostra();
     void mostraPosto();
     void mostraUno(const Oggetto &o);
+    void abilita(const Riga &riga, const QString &impedimento);
+    bool sempre(const QWidget *campo) const;
     void misura(CampoMisura *campo, void (*azione)(QRect &, int));
     template <class F> void cambia(const QString &testo, F azione) {
         if (!m_mostro)
@@ -52,8 +59,8 @@ private:
     QFormLayout *m_righe = nullptr;
     QList<Riga> m_campi;
     bool m_mostro = false; // the boxes are being filled: nothing was changed by hand
-    QLabel *m_nessuno;
     QLabel *m_titolo;
+    QLabel *m_aiuto; // what to do where nothing can be changed
     CampoMisura *m_x, *m_y, *m_larghezza, *m_altezza, *m_spessore, *m_raggio;
     CampoTesto *m_testo;
     QComboBox *m_font, *m_orizzontale, *m_verticale, *m_rotazione, *m_codice, *m_riduzione, *m_condizione, *m_seVuota;

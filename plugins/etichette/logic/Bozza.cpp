@@ -16,10 +16,6 @@ std::optional<Etichetta> Bozza::lasciata() const {
     return leggiEtichetta(percorso()).etichetta;
 }
 
-bool Bozza::scrivi(const Etichetta &etichetta) const {
-    return scriviEtichetta(percorso(), etichetta).isEmpty();
-}
-
 void Bozza::togli() const {
     QFile::remove(percorso());
 }

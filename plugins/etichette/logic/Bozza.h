@@ -13,7 +13,6 @@ public:
 
     // What an earlier session left behind; nothing when it ended in order or left something that can't be read.
     std::optional<Etichetta> lasciata() const;
-    bool scrivi(const Etichetta &etichetta) const; // false where the folder doesn't take it
     void togli() const;
     QString percorso() const;
 

@@ -23,6 +23,11 @@ QString nomeDi(const Oggetto &o) {
     return {};
 }
 
+QString dentroLaFrase(QString nome) {
+    nome[0] = nome[0].toLower();
+    return nome;
+}
+
 QRect spazio(const Oggetto &o) {
     return o.area.united(QRect(o.area.topLeft(), QSize(std::max(1, o.area.width()), std::max(1, o.area.height()))));
 }
@@ -59,7 +64,7 @@ QStringList controlla(const Etichetta &e, const Valori &valori) {
             avvisi << nomeDi(o) + u" dipende dalla variabile «%1», che non esiste più."_s.arg(o.condizione.variabile);
         for (qsizetype j = i + 1; j < e.oggetti.size(); ++j)
             if (eContenuto(o) && eContenuto(e.oggetti[j]) && spazio(o).intersects(spazio(e.oggetti[j])))
-                avvisi << nomeDi(o) + u" e "_s + nomeDi(e.oggetti[j]).toLower() + u" si sovrappongono."_s;
+                avvisi << nomeDi(o) + u" e "_s + dentroLaFrase(nomeDi(e.oggetti[j])) + u" si sovrappongono."_s;
     }
     Pittore pittore;
     QImage prova(1, 1, QImage::Format_Mono);

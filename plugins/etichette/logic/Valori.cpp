@@ -17,12 +17,7 @@ const QLocale &italiano() {
 QDateTime dataDaGiorni(double giorni) {
     const double interi = std::floor(giorni);
     const auto secondi = static_cast<qint64>(std::llround((giorni - interi) * 86400));
-    return QDateTime(QDate(1899, 12, 30).addDays(static_cast<qint64>(interi)), QTime(0, 0)).addSecs(secondi);
-}
-
-QString dataBreve(const QDateTime &data) {
-    const bool soloGiorno = data.time() == QTime(0, 0);
-    return data.toString(soloGiorno ? u"dd/MM/yyyy"_s : u"dd/MM/yyyy HH:mm"_s);
+    return QDateTime(giornoZero().addDays(static_cast<qint64>(interi)), QTime(0, 0)).addSecs(secondi);
 }
 
 // A number in a pattern of zeros: those before the comma are the least digits, those behind it the decimals.
@@ -84,6 +79,12 @@ template <class Semplice, class Nome> void percorri(QStringView testo, Semplice 
 
 } // namespace
 
+QString testoData(const QDateTime &data) {
+    return data.toString(data.date() == giornoZero()  ? u"HH:mm"_s
+                         : data.time() == QTime(0, 0) ? u"dd/MM/yyyy"_s
+                                                      : u"dd/MM/yyyy HH:mm"_s);
+}
+
 Variabile variabileDaContenuto(const QString &nome, const QString &contenuto, TipoEtichetta tipo) {
     Variabile v{nome, tipo, contenuto, {}, {}, {}};
     bool riuscito = false;
@@ -94,7 +95,7 @@ Variabile variabileDaContenuto(const QString &nome, const QString &contenuto, Ti
         v.testo.replace(u'.', u',');
     } else if (tipo == TipoEtichetta::Data && riuscito && std::abs(numero) < 3e6) {
         v.data = dataDaGiorni(numero);
-        v.testo = dataBreve(*v.data);
+        v.testo = testoData(*v.data);
     } else if (tipo == TipoEtichetta::Logico && !contenuto.isEmpty()) {
         v.vero = contenuto.compare("True"_L1, Qt::CaseInsensitive) == 0;
         v.testo = *v.vero ? u"Sì"_s : u"No"_s;

@@ -20,6 +20,9 @@ struct Variabile {
     std::optional<bool> vero;
 };
 
+// A date as it is printed without a format: its day, its time where it has one; of a time alone the time.
+QString testoData(const QDateTime &data);
+
 // A variable from the contents that the designer is told: a number with a point, "True" or "False", a count of days
 // from 30 December 1899. A content that isn't of its type stays as it is.
 Variabile variabileDaContenuto(const QString &nome, const QString &contenuto, TipoEtichetta tipo);

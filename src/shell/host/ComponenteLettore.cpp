@@ -1,6 +1,6 @@
 #include "shell/host/ComponenteLettore.h"
 
-#include "shell/host/Componente.h"
+#include "shell/logic/Componente.h"
 
 using namespace Qt::Literals::StringLiterals;
 

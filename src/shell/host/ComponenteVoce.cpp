@@ -1,6 +1,6 @@
 #include "shell/host/ComponenteVoce.h"
 
-#include "shell/host/Componente.h"
+#include "shell/logic/Componente.h"
 #include "shell/host/VoceSistema.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,6 +1,6 @@
 #include "shell/host/ComponenteWeb.h"
 
-#include "shell/host/Componente.h"
+#include "shell/logic/Componente.h"
 
 #include <QCoreApplication>
 #include <QOpenGLContext>

@@ -1,4 +1,4 @@
-#include "shell/host/Componente.h"
+#include "shell/logic/Componente.h"
 
 #include <QDir>
 #include <QFile>
