@@ -1,11 +1,12 @@
 // The room of contents: a playlist of 20,000 lines against a bare loop, a key in the search for towns until the list is
-// painted, a film until its first picture, and the window's longest standstill while a station keeps silent.
+// painted, a film until its first picture, and the window's longest standstill while a station or a path keeps silent.
 #include "AmbienteMuto.h"
 #include "Applicazione.h"
 #include "content/forms/AnteprimaRadio.h"
 #include "content/forms/AnteprimaVideo.h"
 #include "content/forms/Form3.h"
 #include "content/forms/ImpostaFoto.h"
+#include "shell/logic/Percorsi.h"
 #include "shell/logic/TestoAnsi.h"
 
 #include <QElapsedTimer>
@@ -19,6 +20,7 @@
 #include <fcntl.h>
 #include <sqlite3.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -229,6 +231,57 @@ void stazioneMuta(benchmark::State &stato) {
     stato.counters["form_ferma_ms"] = ferma;
 }
 
+// A machine one folder of which never answers; the threads that ask for it stay behind.
+class DiscoMuto : public SistemaLocale {
+public:
+    Specie specie(const QString &percorso) const override {
+        attendi(percorso);
+        return SistemaLocale::specie(percorso);
+    }
+    QStringList nomi(const QString &cartella) const override {
+        attendi(cartella);
+        return SistemaLocale::nomi(cartella);
+    }
+
+private:
+    static void attendi(const QString &percorso) {
+        while (percorso.startsWith(u"/mnt/nas"_s))
+            std::this_thread::sleep_for(std::chrono::hours(1));
+    }
+};
+
+// A playlist on a share that hangs: the list, the preview of an entry, files dropped on the list.
+void percorsoMuto(benchmark::State &stato) {
+    Sala sala;
+    QFile file(sala.playlist());
+    file.open(QIODevice::WriteOnly);
+    file.write(QByteArray("/mnt/nas/foto.jpg\r\n").repeated(100));
+    file.close();
+    double fermo = 0;
+    double ferma = 0;
+    for (auto _ : stato) {
+        Ambiente ambiente = sala.ambiente();
+        ambiente.percorsi = Percorsi(std::make_shared<DiscoMuto>());
+        ImpostaFoto form(ambiente, nullptr);
+        form.show();
+        auto &List2 = *form.findChild<ListBox *>(u"List2"_s);
+        if (List2.count() != 100)
+            stato.SkipWithError("the list does not fill at once");
+        fermo = std::max(fermo, buco([&] {
+                             Q_EMIT form.findChild<FileListBox *>(u"File2"_s)->cliccato();
+                             List2.setCurrentRow(7);
+                             Q_EMIT List2.cliccato();
+                             Q_EMIT List2.fileRilasciati({u"/mnt/nas/altra.jpg"_s});
+                         }));
+        form.findChild<Button *>(u"Command5"_s)->click();
+        ImpostaFoto quieta(sala.ambiente(), nullptr);
+        quieta.show();
+        ferma = std::max(ferma, buco([] {}));
+    }
+    stato.counters["fermo_ms"] = fermo;
+    stato.counters["form_ferma_ms"] = ferma;
+}
+
 const bool registrate = [] {
     const auto prepara = [](const char *nome, void (*f)(benchmark::State &), int giri, int ripetizioni) {
         auto *b = benchmark::RegisterBenchmark(nome, f);
@@ -243,6 +296,7 @@ const bool registrate = [] {
     prepara("comuni/tasto", tastoComuni, 50, 3);
     prepara("film/prima_immagine", primaImmagine, 1, 3);
     prepara("radio/muta", stazioneMuta, 1, 2);
+    prepara("percorso/muto", percorsoMuto, 1, 3);
     return true;
 }();
 

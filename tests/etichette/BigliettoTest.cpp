@@ -66,8 +66,8 @@ TEST(Biglietto, LeVariabiliVengonoDalRecordStesso) {
     mettiValore(valori, u"attesa"_s, u"3,25"_s);
     mettiValore(valori, u"Data"_s, u"05/11/2026"_s);
     mettiValore(valori, u"Nuova"_s, u"x"_s);
-    mettiValore(valori, u"Ora"_s, u"14:30"_s);
     mettiValore(valori, u"Numero"_s, u"inf"_s); // a word, not a number
+    mettiValore(valori, u"Ora"_s, u"14:30"_s);
     EXPECT_EQ(valori.componi(u"{Attesa:0,0}|{Data:d/M/yy}|{Nuova}|{Numero:0000}|{Ora:H mm}"_s),
               u"3,3|5/11/26|x|inf|14 30"_s);
 }

@@ -75,6 +75,21 @@ TEST_F(FileTest, UnaScritturaImpeditaLasciaIlFileComEra) {
     EXPECT_EQ(QDir(cartella.path()).entryList(QDir::Files).size(), 1); // nothing half-written stays
 }
 
+TEST_F(FileTest, LegamePermessiENomeLungoRestano) {
+    for (const QString &nome : {u"lista.zvi"_s, QString(255, u'x')}) {
+        file = cartella.filePath(nome);
+        ASSERT_EQ(scriviFile(file, "prima"), QString());
+        const auto permessi = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+        QFile::setPermissions(file, permessi);
+        const QString legame = cartella.filePath(u"legame%1"_s.arg(nome.size()));
+        ASSERT_TRUE(QFile::link(file, legame));
+        EXPECT_EQ(scriviFile(legame, "dopo"), QString());
+        EXPECT_TRUE(QFileInfo(legame).isSymLink());
+        EXPECT_EQ(contenuto(), "dopo");
+        EXPECT_EQ(QFile::permissions(file), permessi);
+    }
+}
+
 TEST_F(FileTest, SoloFileVeriSiAprono) {
     const QString coda = cartella.filePath(u"coda"_s);
     ASSERT_TRUE(creaCoda(coda));

@@ -4,10 +4,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zuvora {
 
-GestioneUtenti::GestioneUtenti(const Ambiente &contesto, const QString &nome, bool attivo, Salva salva,
-                               std::function<void()> salvato, QWidget *padre)
-    : Form(contesto, "GestioneUtenti", "Gestione Servizi", {7575, 3210}, padre), m_salva(std::move(salva)),
-      m_salvato(std::move(salvato)) {
+GestioneUtenti::GestioneUtenti(const Ambiente &contesto, const QString &nome, bool attivo, Salva salva, QWidget *padre)
+    : Form(contesto, "GestioneUtenti", "Gestione Servizi", {7575, 3210}, padre), m_salva(std::move(salva)) {
     CBT_1.setRuolo(Ruolo::Principale);
     text1_0.setSvuotaAppunti(ambiente().piattaforma, Edit::Svuota::AlFuoco);
     text1_0.setSelezionaAlFuoco();
@@ -24,8 +22,7 @@ void GestioneUtenti::registra() {
         return;
     }
     m_salva(text1_0.text(), SA.isChecked());
-    text1_0.setText({});
-    m_salvato();
+    m_salvato = true;
     scarica();
 }
 

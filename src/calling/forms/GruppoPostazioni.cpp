@@ -46,6 +46,7 @@ struct GruppoPostazioni::Linea {
     Label etichetta;
     Schiera<RadioButton> tipi;
     GruppoRadio gruppo{tipi};
+    int scelto = -1; // as it is stored
 };
 
 GruppoPostazioni::GruppoPostazioni(Pagina &pagina)
@@ -66,23 +67,22 @@ void GruppoPostazioni::showEvent(QShowEvent *e) {
 
 void GruppoPostazioni::riempi() {
     const auto scelte = leggiPostazioni(m_pagina.cartella());
-    for (int i = 0; i < numeroPostazioni; ++i)
-        m_linee[std::size_t(i)]->gruppo.setScelto(scelte[std::size_t(i)]);
+    for (std::size_t i = 0; i < scelte.size(); ++i) {
+        m_linee[i]->scelto = scelte[i];
+        m_linee[i]->gruppo.setScelto(scelte[i]);
+    }
 }
 
 void GruppoPostazioni::imposta(int Index) {
+    Linea &linea = *m_linee[std::size_t(Index / 2)];
     try {
         ImpostaPostazione(m_pagina.cartella(), Index);
     } catch (...) {
-        // The buttons go on telling what is stored, as far as that can still be read.
-        try {
-            riempi();
-        } catch (...) {
-            m_linee[std::size_t(Index / 2)]->gruppo.setScelto(-1);
-        }
+        linea.gruppo.setScelto(linea.scelto);
         throw;
     }
-    m_linee[std::size_t(Index / 2)]->tipi(Index).spunta();
+    linea.scelto = Index;
+    linea.tipi(Index).spunta();
 }
 
 } // namespace zuvora

@@ -13,7 +13,7 @@ public:
 
 private:
     void riempi() override;
-    bool vuoto() { return Data3.Recordset().RecordCount() == 0; }
+    bool vuoto() { return gridDD.Rows() == 0; }
     void nuovo();
     void cancella();
     void predefinito();

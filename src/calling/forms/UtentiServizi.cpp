@@ -38,6 +38,12 @@ void UtentiServizi::rileggi() {
     ContaAttivi();
 }
 
+bool UtentiServizi::vuoto() {
+    if (!Data8.aperto())
+        rileggi();
+    return grid.Rows() == 0;
+}
+
 void UtentiServizi::scambia() {
     if (!vuoto() && scambiaStato(Data8.Recordset()))
         rileggi();
@@ -50,9 +56,10 @@ void UtentiServizi::modifica() {
     const QString nome = grid.testo(grid.Row(), colonnaNome);
     const bool attivo = eVero(servizi[u"ServizioAttivo"].Value());
     const auto salva = [this, &servizi](const QString &nuovo, bool acceso) { scriviServizio(servizi, nuovo, acceso); };
-    GestioneUtenti(
-        ambiente(), nome, attivo, salva, [this] { rileggi(); }, this)
-        .mostraModale();
+    GestioneUtenti form(ambiente(), nome, attivo, salva, this);
+    form.mostraModale();
+    if (form.salvato())
+        rileggi();
 }
 
 void UtentiServizi::cancella() {

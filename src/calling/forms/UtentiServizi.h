@@ -14,7 +14,7 @@ public:
     void ContaAttivi(); // shows anew how many are active
 
 private:
-    bool vuoto() { return Data8.Recordset().RecordCount() == 0; }
+    bool vuoto(); // of a list that could not be read again, tries once more
     void rileggi();
     void scambia();
     void modifica();

@@ -1,6 +1,9 @@
 #include "content/forms/Form3.h"
 
 #include "shell/host/Tastiera.h"
+#include "shell/store/EngineError.h"
+
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -10,7 +13,7 @@ Form3::Form3(const Ambiente &contesto, const QString &host, QWidget *padre)
     : Form(contesto, "Form3", "Impostazione Meteo per FrontEnd", {11580, 6255}, padre), m_indirizzo(host) {
     grid.setAccessibleName(u"Comuni"_s);
     grid.lega(Data2);
-    quando(Text4, &QLineEdit::textChanged, [this] { cerca(); });
+    quando(Text4, &QLineEdit::textChanged, [this] { elenca(sorgenteComuni(Text4.text())); });
     alClic(CBT_3, [this] { prova(); });
     quando(grid, &Grid::attivato, [this] { prova(); });
     CBT_2.setRuolo(Ruolo::Principale);
@@ -19,7 +22,7 @@ Form3::Form3(const Ambiente &contesto, const QString &host, QWidget *padre)
     bottoneDi(Text4, CBT_3); // what was searched is tried
     Text4.setFocus();
     // Without the towns a code can still be typed.
-    proteggi([this] { apri(Data2, cartella(), elencoComuni.toString()); });
+    proteggi([this] { elenca(elencoComuni.toString()); });
     proteggi([this] { riempi(); });
 }
 
@@ -30,8 +33,15 @@ void Form3::riempi() {
         wb1.vai(*scelto.meteo);
 }
 
-void Form3::cerca() {
-    apri(Data2, cartella(), sorgenteComuni(Text4.text()));
+// Each key searches: what hinders all of them is told once.
+void Form3::elenca(const QString &sorgente) {
+    try {
+        apri(Data2, cartella(), sorgente);
+        m_elencoGuasto = false;
+    } catch (const EngineError &) {
+        if (!std::exchange(m_elencoGuasto, true))
+            throw;
+    }
 }
 
 void Form3::prova() {

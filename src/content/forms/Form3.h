@@ -17,12 +17,13 @@ public:
 
 private:
     void riempi();
-    void cerca();
+    void elenca(const QString &sorgente);
     void prova();
     void salva();
 
     IndirizzoMeteo m_indirizzo;
     Data Data2;
+    bool m_elencoGuasto = false; // the towns could not be read, and the user knows
 
     Browser wb1{this, "wb1", {120, 120, 6760, 5055}, ambiente().piattaforma};
     GroupBox Codice{this, "GroupBox2", "Codice Comune", {120, 5400, 1455, 735}};

@@ -5,12 +5,16 @@
 #include "content/logic/Predefinita.h"
 #include "shell/host/Dialoghi.h"
 #include "shell/host/Piattaforma.h"
+#include "shell/logic/Domanda.h"
 #include "shell/logic/FileAtomico.h"
 #include "shell/logic/TestoAnsi.h"
 
 #include <QDir>
 #include <QFile>
+#include <algorithm>
 #include <filesystem>
+#include <iterator>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -67,11 +71,7 @@ void FormPlaylist::collega() {
     });
     quando(File2, &FileListBox::cliccato, [this] { clicPlaylist(); });
     quando(List2, &ListBox::cliccato, [this] { clicVoce(voceScelta()); });
-    quando(List2, &ListBox::fileRilasciati, [this](const QStringList &file) {
-        for (const QString &percorso : file)
-            if (eContenuto(m_tipo, percorso))
-                List2.AddItem(percorso);
-    });
+    quando(List2, &ListBox::fileRilasciati, [this](const QStringList &file) { accogli(file); });
     alClic(command1, [this] { aggiungi(); });
     alClic(Command10, [this] { aggiungiTutti(); });
     alClic(Command2, [this] { elimina(); });
@@ -119,8 +119,13 @@ void FormPlaylist::CaricaPlaylist() {
 
 void FormPlaylist::segnalaMancanti(const QStringList &mancanti) {
     const QString motivo = scriviRapporto(m_tipo, mancanti);
-    if (mancanti.isEmpty())
+    if (mancanti.isEmpty()) {
+        const QFileInfo vecchio(percorsoRapporto(m_tipo));
+        if (!motivo.isEmpty() && vecchio.isFile() && vecchio.size() > 0 && !std::exchange(m_dettoVecchio, true))
+            avvisa(u"Il file %1 è di una lista precedente !"_s.arg(m_tipo.rapporto),
+                   u"In questa non manca nulla, ma non si può riscrivere. "_s + motivo);
         return;
+    }
     const auto box = [this](const QString &testo) {
         ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, u"Zuvora3"_s,
                                       u"Uno o più files mancanti.\r"_s + testo);
@@ -132,6 +137,27 @@ void FormPlaylist::segnalaMancanti(const QStringList &mancanti) {
     box(u"Verrà visualizzata la lista !"_s);
     if (!ambiente().piattaforma.apriFile(percorsoRapporto(m_tipo)))
         avvisa(u"Nessun programma per mostrare la lista !"_s, percorsoRapporto(m_tipo));
+}
+
+// Only the disk can tell a folder that is called like a file, and it may not answer.
+void FormPlaylist::accogli(const QStringList &rilasciati) {
+    QStringList adatti;
+    std::ranges::copy_if(rilasciati, std::back_inserter(adatti),
+                         [this](const QString &percorso) { return eContenuto(m_tipo, percorso); });
+    const auto senzaCartelle = [adatti, disco = ambiente().percorsi] {
+        QStringList file;
+        std::ranges::copy_if(adatti, std::back_inserter(file), [&](const QString &percorso) {
+            return disco.esamina(percorso).specie != Specie::Cartella;
+        });
+        return file;
+    };
+    zuvora::chiedi<QStringList>(senzaCartelle, *this,
+                                [this, adatti, lista = PlaylistAperta](const std::optional<QStringList> &file) {
+                                    if (lista != PlaylistAperta)
+                                        return; // another list stands there by now
+                                    for (const QString &percorso : file.value_or(adatti))
+                                        List2.AddItem(percorso);
+                                });
 }
 
 void FormPlaylist::aggiungi() {

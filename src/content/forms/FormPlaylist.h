@@ -35,6 +35,7 @@ private:
     void clicPlaylist();
     void CaricaPlaylist();
     void segnalaMancanti(const QStringList &mancanti);
+    void accogli(const QStringList &rilasciati);
     void aggiungi();
     void aggiungiTutti();
     void elimina();
@@ -46,7 +47,8 @@ private:
 
     QString PlaylistAperta;
     QString FileSelezionato;
-    QString m_illeggibile; // the playlist that could not be read: a save must not cover it
+    QString m_illeggibile;       // the playlist that could not be read: a save must not cover it
+    bool m_dettoVecchio = false; // that the report is an old one
     ControlloPlaylist m_controllo;
 
     Label Label1_0;

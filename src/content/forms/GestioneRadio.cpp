@@ -39,7 +39,6 @@ void GestioneRadio::salva() {
     }
     salvaRadio(m_data4.Recordset(), voce, !m_propria);
     m_salvata = voce.NomeRadio;
-    m_data4.Refresh();
     scarica();
 }
 

@@ -34,7 +34,10 @@ void PaginaRadio::gestisci(const std::optional<VoceRadio> &daModificare) {
         riempi();
     GestioneRadio form(ambiente(), Data4, daModificare, this);
     form.mostraModale();
-    for (int riga = 0; form.salvata() && riga < GridRadio.Rows(); ++riga)
+    if (!form.salvata())
+        return;
+    Data4.Refresh();
+    for (int riga = 0; riga < GridRadio.Rows(); ++riga)
         if (GridRadio.testo(riga, 0) == *form.salvata()) {
             GridRadio.seleziona(riga);
             break;
@@ -47,7 +50,7 @@ void PaginaRadio::modifica() {
 }
 
 void PaginaRadio::cancella() {
-    if (!scelta() || !conferma(u"Cancello voce selezionata ?"_s))
+    if (GridRadio.Rows() == 0 || !conferma(u"Cancello voce selezionata ?"_s))
         return;
     Data4.Recordset().Delete();
     avvisa(u"Voce cancellata !"_s);

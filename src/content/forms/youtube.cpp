@@ -71,16 +71,18 @@ void youtube::ok() {
         avvisa(u"Titolo già presente !"_s);
         return;
     }
-    if (const auto UrlEstratto = EstraiUrl(Codice.text())) {
-        if (!Data1.aperto())
-            apri(Data1, cartella(), elencoYouTube.toString());
-        aggiungiYouTube(Data1.Recordset(), Titolo.text(), *UrlEstratto);
-        Data1.Refresh();
-    } else {
+    const auto UrlEstratto = EstraiUrl(Codice.text());
+    if (!UrlEstratto) {
         ambiente().dialoghi.messaggio(this, Dialoghi::Icona::Informazione, u"Controllare testo"_s,
                                       u"Errore nel testo d incorporamento !"_s);
+        azzera();
+        return;
     }
-    azzera();
+    if (!Data1.aperto())
+        apri(Data1, cartella(), elencoYouTube.toString());
+    aggiungiYouTube(Data1.Recordset(), Titolo.text(), *UrlEstratto);
+    azzera(); // stored, whatever becomes of the list
+    Data1.Refresh();
 }
 
 void youtube::cancella() {

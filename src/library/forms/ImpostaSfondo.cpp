@@ -36,6 +36,13 @@ ImpostaSfondo::ImpostaSfondo(const Ambiente &contesto, ModoSfondo modo, UsoSfond
     Dir1.setFocus();
 }
 
+// The files come after the folders that they follow, not in their place beside the drive.
+void ImpostaSfondo::attivata() {
+    setTabOrder(&Drive1, &Dir1);
+    setTabOrder(&Dir1, &File1);
+    setTabOrder(&File1, &PushButton1);
+}
+
 void ImpostaSfondo::clicFile() {
     SfondoScelto = m_scelta.percorso();
     Label1.hide();

@@ -18,6 +18,9 @@ public:
     // no layout to take a background from, and `uso.elimina` is empty.
     ImpostaSfondo(const Ambiente &ambiente, ModoSfondo modo, UsoSfondo uso, QWidget *padre);
 
+protected:
+    void attivata() override;
+
 private:
     void clicFile();
     void imposta();

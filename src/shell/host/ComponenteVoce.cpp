@@ -1,7 +1,7 @@
 #include "shell/host/ComponenteVoce.h"
 
-#include "shell/logic/Componente.h"
 #include "shell/host/VoceSistema.h"
+#include "shell/logic/Componente.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -257,6 +257,13 @@ void StileCasa::drawComplexControl(ComplexControl controllo, const QStyleOptionC
     QProxyStyle::drawComplexControl(controllo, opzione, pittore, w);
 }
 
+int StileCasa::pixelMetric(PixelMetric misura, const QStyleOption *opzione, const QWidget *w) const {
+    // Room for the ring around what a list shows.
+    if (misura == PM_DefaultFrameWidth && qobject_cast<const QAbstractScrollArea *>(w) != nullptr)
+        return 2;
+    return QProxyStyle::pixelMetric(misura, opzione, w);
+}
+
 int StileCasa::styleHint(StyleHint suggerimento, const QStyleOption *opzione, const QWidget *w,
                          QStyleHintReturn *dati) const {
     // Mnemonics are seen from the start: who doesn't know them can't look for them.

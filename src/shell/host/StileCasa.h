@@ -16,6 +16,7 @@ public:
                        const QWidget *w) const override;
     void drawComplexControl(ComplexControl controllo, const QStyleOptionComplex *opzione, QPainter *pittore,
                             const QWidget *w) const override;
+    int pixelMetric(PixelMetric misura, const QStyleOption *opzione, const QWidget *w) const override;
     int styleHint(StyleHint suggerimento, const QStyleOption *opzione, const QWidget *w,
                   QStyleHintReturn *dati) const override;
 };

@@ -4,13 +4,16 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QSaveFile>
+#include <QRandomGenerator>
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -55,6 +58,61 @@ QString ostacolo(const QString &percorso) {
     return info.exists() && !info.isFile() ? u"Non è un file di dati."_s : QString();
 }
 
+// A file under a passing name beside the one that it is to replace; gone again unless it took that one's place.
+class FileNuovo {
+public:
+    FileNuovo() = default;
+    ~FileNuovo() {
+        if (m_descrittore >= 0)
+            close(m_descrittore);
+        if (!m_nome.isEmpty())
+            unlink(m_nome.constData());
+    }
+    FileNuovo(const FileNuovo &) = delete;
+    FileNuovo &operator=(const FileNuovo &) = delete;
+
+    // With the permissions of the file at `modello`, where there is one. As the other operations: false, and errno.
+    bool crea(const QString &cartella, const QByteArray &modello) {
+        struct stat vecchio {};
+        const bool esiste = stat(modello.constData(), &vecchio) == 0;
+        if (esiste && access(modello.constData(), W_OK) != 0)
+            return false;
+        // Short, so that a name of any length can be replaced.
+        QByteArray nome;
+        do {
+            nome = QFile::encodeName(cartella + u"/.zuvora-"_s +
+                                     QString::number(QRandomGenerator::global()->generate64(), 36));
+            m_descrittore = open(nome.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
+                                 S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH);
+        } while (m_descrittore < 0 && errno == EEXIST);
+        if (m_descrittore < 0)
+            return false;
+        m_nome = nome;
+        // A file system without permissions refuses them.
+        return !esiste || fchmod(m_descrittore, vecchio.st_mode & ALLPERMS) == 0 || errno == EPERM;
+    }
+    bool scrivi(QByteArrayView contenuto) const {
+        while (!contenuto.isEmpty()) {
+            const ssize_t scritti = write(m_descrittore, contenuto.data(), static_cast<size_t>(contenuto.size()));
+            if (scritti < 0 && errno != EINTR)
+                return false;
+            contenuto = contenuto.sliced(std::max<ssize_t>(scritti, 0));
+        }
+        return sincronizza(m_descrittore);
+    }
+    bool prendiPosto(const QByteArray &file) {
+        // Some disks tell only here that there was no room.
+        if (close(std::exchange(m_descrittore, -1)) != 0 || rename(m_nome.constData(), file.constData()) != 0)
+            return false;
+        m_nome.clear();
+        return true;
+    }
+
+private:
+    int m_descrittore = -1;
+    QByteArray m_nome;
+};
+
 } // namespace
 
 QString motivoSistema(int numero) {
@@ -86,22 +144,15 @@ bool sincronizzaCartella(const QString &cartella) {
 QString scriviFile(const QString &percorso, const QByteArray &contenuto) {
     if (QString impedimento = ostacolo(percorso); !impedimento.isEmpty())
         return impedimento;
-    QSaveFile file(percorso);
-    errno = 0;
-    if (!file.open(QIODevice::WriteOnly))
-        return motivoDi(file);
-    // A commit may call a full disk a success: nothing is committed before all of it is on the disk.
-    const bool scritto = file.write(contenuto) == contenuto.size() && file.flush() &&
-                         file.error() == QFileDevice::NoError && sincronizza(file.handle());
-    if (!scritto) {
-        QString motivo = motivoDi(file);
-        file.cancelWriting();
-        return motivo;
-    }
-    errno = 0;
-    if (!file.commit())
-        return motivoDi(file);
-    sincronizzaCartella(QFileInfo(percorso).path()); // a folder that may not be read has its file all the same
+    const QString collegato = QFileInfo(percorso).symLinkTarget(); // a link goes on pointing at the file
+    const QString meta = collegato.isEmpty() ? percorso : collegato;
+    const QByteArray file = QFile::encodeName(meta);
+    const QString cartella = QFileInfo(meta).path();
+    FileNuovo nuovo;
+    // The name appears only when every byte is on the disk: a power cut finds the old file or the new one.
+    if (!nuovo.crea(cartella, file) || !nuovo.scrivi(contenuto) || !nuovo.prendiPosto(file))
+        return motivoSistema(errno);
+    sincronizzaCartella(cartella); // a folder that may not be read has its file all the same
     return {};
 }
 

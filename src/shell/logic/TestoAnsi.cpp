@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,24 +30,20 @@ qsizetype postoFuori(QStringView testo) {
     return std::ranges::find_if(testo, fuori) - testo.begin();
 }
 
-// Appends the text's bytes; false, and nothing appended, when a character has none.
-bool aggiungi(QByteArray &byte, QStringView testo) {
-    const qsizetype inizio = byte.size();
-    byte.resize(inizio + testo.size());
-    char *dove = byte.data() + inizio;
+// Puts the text's bytes at `dove`, where there is room for one a character; false when a character has none.
+bool copia(char *dove, QStringView testo) {
     // Nearly every text is plain, which shows without looking its characters up one by one.
     char16_t insieme = 0;
-    for (const QChar c : testo) {
-        insieme |= c.unicode();
-        *dove++ = static_cast<char>(c.unicode());
+    for (qsizetype i = 0; i < testo.size(); ++i) {
+        const char16_t c = testo.utf16()[i];
+        insieme |= c;
+        dove[i] = static_cast<char>(c);
     }
     if (insieme < inizioTabella)
         return true;
-    if (postoFuori(testo) < testo.size()) {
-        byte.truncate(inizio);
+    if (postoFuori(testo) < testo.size())
         return false;
-    }
-    std::ranges::transform(testo, byte.data() + inizio, [](QChar c) { return static_cast<char>(byteDi(c.unicode())); });
+    std::ranges::transform(testo, dove, [](QChar c) { return static_cast<char>(byteDi(c.unicode())); });
     return true;
 }
 
@@ -61,8 +58,8 @@ QString daAnsi(QByteArrayView byte) {
 }
 
 std::optional<QByteArray> inAnsi(QStringView testo) {
-    QByteArray byte;
-    return aggiungi(byte, testo) ? std::optional(byte) : std::nullopt;
+    QByteArray byte(testo.size(), Qt::Uninitialized);
+    return copia(byte.data(), testo) ? std::optional(byte) : std::nullopt;
 }
 
 QString fuoriAnsi(QStringView testo) {
@@ -93,15 +90,18 @@ QString scriviRighe(const QString &percorso, const QStringList &righe) {
     qsizetype misura = 0;
     for (const QString &riga : righe)
         misura += riga.size() + 2;
-    QByteArray contenuto;
-    contenuto.reserve(misura);
+    QByteArray contenuto(misura, Qt::Uninitialized);
+    char *dove = contenuto.data();
     for (qsizetype i = 0; i < righe.size(); ++i) {
-        if (righe[i].contains(u'\n'))
-            return u"La riga %1 contiene un a capo, che il file non può contenere."_s.arg(i + 1);
-        if (!aggiungi(contenuto, righe[i]))
+        const QStringView riga = righe[i];
+        if (!copia(dove, riga))
             return u"La riga %1 contiene il carattere «%2», che il file non può contenere."_s.arg(i + 1).arg(
-                fuoriAnsi(righe[i]));
-        contenuto.append("\r\n", 2);
+                fuoriAnsi(riga));
+        if (std::memchr(dove, '\n', static_cast<std::size_t>(riga.size())) != nullptr)
+            return u"La riga %1 contiene un a capo, che il file non può contenere."_s.arg(i + 1);
+        dove += riga.size();
+        *dove++ = '\r';
+        *dove++ = '\n';
     }
     return scriviFile(percorso, contenuto);
 }
