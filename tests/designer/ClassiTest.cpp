@@ -50,6 +50,7 @@ TEST_F(Proprieta, ClassGetsTheStyleAndNoOtherElementDoes) {
 }
 
 TEST_F(Proprieta, OnlyServicesLineUpAndOnlyTitlesTakeTheText) {
+    campi.RB1 = bottoneDi(Allineamento::Sinistra);
     for (const Classe classe : {Classe::Numeri, Classe::Postazione, Classe::Servizio, Classe::Titolo, Classe::Data})
         applicaClasse(layout, classe, campi);
     EXPECT_EQ(layout.elemento(TipoElemento::Text1, 17).area, (Area{77, 1200, 6615, 720}));
@@ -57,12 +58,13 @@ TEST_F(Proprieta, OnlyServicesLineUpAndOnlyTitlesTakeTheText) {
     EXPECT_EQ(layout.elemento(TipoElemento::Text1, 0).area.left, 960);
     EXPECT_EQ(layout.elemento(TipoElemento::Text9, 0).didascalia, u"Benvenuti"_s);
     EXPECT_EQ(layout.elemento(TipoElemento::Text9, 2).didascalia, u"Giovedi 29 Settembre 2011"_s);
+    EXPECT_EQ(layout.elemento(TipoElemento::Text9, 2).allineamento, Allineamento::Sinistra);
     EXPECT_EQ(layout.elemento(TipoElemento::Text1, 5).didascalia, u"Servizio (2)"_s);
 }
 
 TEST_F(Proprieta, EmptyOrImpossibleFieldsChangeNothing) {
     const std::pair<int, QStringList> casi[] = {{0, {u""_s}},
-                                                {1, {u""_s, u"0"_s, u"dodici"_s, u"99999"_s}},
+                                                {1, {u""_s, u"0"_s, u"dodici"_s, u"2161"_s}},
                                                 {2, {u""_s, u"-1"_s, u"16777216"_s}},
                                                 {3, {u""_s, u"rosso"_s}}};
     for (const auto &[campo, testi] : casi)

@@ -83,6 +83,7 @@ TEST_F(Lettura, BadValuesLeaveTheirPropertyAndOnlyRowsFrom33Tell) {
     EXPECT_TRUE(esito.avvisi.value(2).contains(u"Riga 36, Decorazione 2")) << esito.testo().toStdString();
     EXPECT_TRUE(esito.avvisi.value(1).contains(u"Riga 34, Colore dello schermo"));
     EXPECT_EQ(esito.testo(2).count(u'\n'), 2);
+    EXPECT_EQ(esito.testo(5).count(u'\n'), 4);
 }
 
 TEST_F(Lettura, ATableWithoutAColumnIsReadAsFarAsItGoes) {
