@@ -13,6 +13,7 @@
 #include <QHash>
 #include <QListWidget>
 #include <QPainter>
+#include <QTimer>
 #include <algorithm>
 #include <benchmark/benchmark.h>
 
@@ -212,7 +213,9 @@ void totemMuto(benchmark::State &stato) {
     for (auto _ : stato) {
         const auto sistema = std::make_shared<FintoSistema>();
         sistema->muta = u"/lontano"_s;
-        VarieImpostaTotem form(i.ambiente, nullptr, Percorsi(sistema));
+        Ambiente ambiente = i.ambiente;
+        ambiente.percorsi = Percorsi(sistema);
+        VarieImpostaTotem form(ambiente, nullptr);
         form.show();
         stato.counters["fermo_ms"] = fermoPiuLungo([&] { return !form.isVisible(); });
         sistema->risveglia();

@@ -114,7 +114,7 @@ void anteprimaFoto(benchmark::State &stato) {
         preparaFoto(percorso);
     QWidget finestra;
     finestra.resize(600, 500);
-    AnteprimaImmagine anteprima(&finestra, "Image1", {120, 120, 7935, 5895});
+    AnteprimaImmagine anteprima(&finestra, "Image1", {120, 120, 7935, 5895}, Percorsi());
     finestra.show();
     double fermo = 0;
     for (auto _ : stato) {
