@@ -225,7 +225,7 @@ void DesignerEtichetta::scriviBozza() {
     m_bozzaSuperata = std::make_shared<std::atomic<bool>>(false);
     chiedi<QString>(
         [bozza = m_bozza, etichetta = m_progetto.etichetta(), superata = m_bozzaSuperata] {
-            const QString motivo = scriviEtichetta(bozza.percorso(), etichetta);
+            QString motivo = scriviEtichetta(bozza.percorso(), etichetta);
             if (*superata)
                 bozza.togli();
             return motivo;

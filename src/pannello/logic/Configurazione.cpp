@@ -1,6 +1,7 @@
 #include "pannello/logic/Configurazione.h"
 
 #include "shell/logic/Risoluzioni.h"
+#include "shell/store/Data.h"
 #include "shell/store/Riga.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -23,10 +24,11 @@ int risoluzioneDi(const Valore &v) {
 
 StatoAvvio leggiStatoAvvio(const QString &cartella) {
     StatoAvvio stato;
-    const Riga versione = leggiRiga(cartella, u"Versione"_s);
+    Data dato;
+    const Riga versione = leggiRiga(dato, cartella, u"Versione"_s);
     stato.numero = versione.testo(u"Numero", u"n.d."_s);
     stato.data = versione.testo(u"Data", u"n.d."_s);
-    const Riga riga = leggiRiga(cartella, tabella);
+    const Riga riga = leggiRiga(dato, cartella, tabella);
     stato.risoluzione = risoluzioneDi(riga[u"MisuraFormWH"]);
     stato.nominativo = riga.testo(u"Nominativo", u"Non definito"_s);
     stato.autoAccensione = numeroDi(riga[u"TempoChiamata"]) == 1;

@@ -6,6 +6,7 @@
 #include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
 #include <QTableView>
+#include <QTextDocument>
 #include <QToolTip>
 
 using namespace Qt::Literals::StringLiterals;

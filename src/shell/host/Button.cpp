@@ -1,5 +1,6 @@
 #include "shell/host/Button.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QStyleOptionButton>

@@ -17,6 +17,16 @@ Recordset &prima(Data &dato, const QString &archivio, const QString &tabella) {
     return dato.Recordset();
 }
 
+Riga leggi(Data &dato, const QString &archivio, const QString &tabella) {
+    Recordset &rs = prima(dato, archivio, tabella);
+    if (rs.RecordCount() == 0)
+        throw errore(Errore::NessunRecord, {archivio, Azione::Lettura, tabella});
+    QList<Valore> valori;
+    for (int n = 0; n < rs.Fields().Count(); ++n)
+        valori += rs.Fields().Item(n).Value();
+    return {archivio, rs.Fields().Names(), valori};
+}
+
 } // namespace
 
 Riga::Riga(QString archivio, QStringList nomi, QList<Valore> valori)
@@ -45,13 +55,7 @@ bool Riga::vero(QStringView colonna) const {
 
 Riga leggiRigaDi(const QString &archivio, const QString &tabella) {
     Data dato;
-    Recordset &rs = prima(dato, archivio, tabella);
-    if (rs.RecordCount() == 0)
-        throw errore(Errore::NessunRecord, {archivio, Azione::Lettura, tabella});
-    QList<Valore> valori;
-    for (int n = 0; n < rs.Fields().Count(); ++n)
-        valori += rs.Fields().Item(n).Value();
-    return {archivio, rs.Fields().Names(), valori};
+    return leggi(dato, archivio, tabella);
 }
 
 void scriviRigaDi(const QString &archivio, const QString &tabella, const QList<Assegno> &valori) {
@@ -65,6 +69,10 @@ void scriviRigaDi(const QString &archivio, const QString &tabella, const QList<A
 
 Riga leggiRiga(const QString &cartella, const QString &tabella) {
     return leggiRigaDi(percorsoArchivio(cartella), tabella);
+}
+
+Riga leggiRiga(Data &dato, const QString &cartella, const QString &tabella) {
+    return leggi(dato, percorsoArchivio(cartella), tabella);
 }
 
 void scriviRiga(const QString &cartella, const QString &tabella, const QList<Assegno> &valori) {

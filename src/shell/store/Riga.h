@@ -9,6 +9,8 @@
 
 namespace zuvora {
 
+class Data;
+
 // The one way to a row of settings: the first row of a table, as it stands in the file now. Columns are found without
 // regard to case. Everything here throws EngineError; 3021 when the table has no row.
 
@@ -40,6 +42,9 @@ struct Assegno {
 Riga leggiRiga(const QString &cartella, const QString &tabella);
 // Only the columns named, in one statement; nothing is written when one of them fails.
 void scriviRiga(const QString &cartella, const QString &tabella, const QList<Assegno> &valori);
+
+// Over a connection that stays open: for who reads several rows.
+Riga leggiRiga(Data &dato, const QString &cartella, const QString &tabella);
 
 // The same for any database file, as the kiosk's.
 Riga leggiRigaDi(const QString &archivio, const QString &tabella);
