@@ -259,6 +259,12 @@ void percorsoMuto(benchmark::State &stato) {
     file.close();
     double fermo = 0;
     double ferma = 0;
+    QTimer lettore; // presses the button of the box that tells of the missing files
+    QObject::connect(&lettore, &QTimer::timeout, &lettore, [] {
+        if (QWidget *box = QApplication::activeModalWidget())
+            box->close();
+    });
+    lettore.start(20);
     for (auto _ : stato) {
         Ambiente ambiente = sala.ambiente();
         ambiente.percorsi = Percorsi(std::make_shared<DiscoMuto>());
