@@ -3,7 +3,6 @@
 #include "kiosk/logic/ArchivioTotem.h"
 #include "kiosk/logic/Disposizione.h"
 #include "shell/store/Database.h"
-#include "shell/store/Riga.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -64,7 +63,7 @@ void RigaTotem::carica() {
 }
 
 void RigaTotem::caricaInizio() {
-    Recordset &riga = apri(Data8, m_cartella, tabellaTotem.toString());
+    const Riga riga = leggiRiga(Data8, m_cartella, tabellaTotem.toString());
     mostra(CampoTotem::RisoluzioneTotem, riga);
     mostra(CampoTotem::PercorsoReteTotem, riga);
 }
@@ -80,8 +79,9 @@ bool RigaTotem::caricaServizi() {
 
 void RigaTotem::caricaResto() {
     for (int giro = 0; giro < 2; ++giro) {
+        std::optional<Riga> riga;
         try {
-            apri(Data8, m_cartella, tabellaTotem.toString());
+            riga = leggiRiga(Data8, m_cartella, tabellaTotem.toString());
         } catch (const EngineError &e) {
             m_guasto = e;
             // The box is emptied, the row keeps its path: what a failure took away is nothing that the user decided.
@@ -92,10 +92,9 @@ void RigaTotem::caricaResto() {
             return;
         }
         try {
-            Recordset &riga = Data8.Recordset();
             for (std::size_t i = indice(CampoTotem::SfondoTotem); i < indice(CampoTotem::TestoVisibile); ++i)
-                mostra(static_cast<CampoTotem>(i), riga);
-            if (mostraVisibilita(riga))
+                mostra(static_cast<CampoTotem>(i), *riga);
+            if (mostraVisibilita(*riga))
                 return;
             AggiungiColonneTotem(m_cartella);
         } catch (const EngineError &e) {
@@ -106,7 +105,7 @@ void RigaTotem::caricaResto() {
 }
 
 // False when the database is older than these columns.
-bool RigaTotem::mostraVisibilita(Recordset &riga) {
+bool RigaTotem::mostraVisibilita(const Riga &riga) {
     try {
         mostra(CampoTotem::TestoVisibile, riga);
         mostra(CampoTotem::DataVisibile, riga);
@@ -118,9 +117,9 @@ bool RigaTotem::mostraVisibilita(Recordset &riga) {
     }
 }
 
-void RigaTotem::mostra(CampoTotem campo, Recordset &riga) {
+void RigaTotem::mostra(CampoTotem campo, const Riga &riga) {
     const ColonnaTotem &questa = colonna(campo);
-    m_contenuto[campo] = testoMostrato(questa, riga[questa.nome].Value());
+    m_contenuto[campo] = testoMostrato(questa, riga[questa.nome]);
     m_mostrati.set(indice(campo));
 }
 

@@ -3,6 +3,7 @@
 #include "kiosk/logic/ConfigurazioneTotem.h"
 #include "shell/store/Data.h"
 #include "shell/store/EngineError.h"
+#include "shell/store/Riga.h"
 
 #include <QStringList>
 #include <bitset>
@@ -32,8 +33,8 @@ public:
     void salva(const ContenutoTotem &adesso);
 
 private:
-    void mostra(CampoTotem campo, Recordset &riga);
-    bool mostraVisibilita(Recordset &riga);
+    void mostra(CampoTotem campo, const Riga &riga);
+    bool mostraVisibilita(const Riga &riga);
     void scrivi(const ContenutoTotem &adesso, QList<CampoTotem> campi);
     bool daScrivere(CampoTotem campo, const ContenutoTotem &adesso) const;
 

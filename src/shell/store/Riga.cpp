@@ -3,6 +3,7 @@
 #include "shell/store/Data.h"
 #include "shell/store/Frasi.h"
 
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <utility>
 
@@ -12,7 +13,7 @@ namespace {
 Recordset &prima(Data &dato, const QString &archivio, const QString &tabella) {
     dato.DatabaseName = archivio;
     dato.RecordSource = tabella;
-    dato.limite = 1;
+    const QScopedValueRollback<int> unaSola(dato.limite, 1);
     dato.Refresh();
     return dato.Recordset();
 }

@@ -1,6 +1,7 @@
 #include "shell/store/Sorgente.h"
 
 #include <algorithm>
+#include <optional>
 #include <sqlite3.h>
 #include <string>
 #include <unordered_set>
@@ -10,6 +11,8 @@ namespace zuvora {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+constexpr char numeroRiga[] = "rowid";
 
 bool eSql(const QString &testo) {
     for (const QStringView parola : {QStringView(u"select"), QStringView(u"with")})
@@ -24,14 +27,18 @@ QString senzaParentesi(const QString &nome) {
     return nome.startsWith(u'[') && nome.endsWith(u']') ? nome.mid(1, nome.size() - 2) : nome;
 }
 
-// The table's column that is its row key (an INTEGER PRIMARY KEY alone); empty when it has none.
+// The table's column that is its row key (an INTEGER PRIMARY KEY alone): the one that the row number is taken from.
+// Empty when it has none, as a view or a table without row numbers.
 QByteArray chiaveDi(Connessione &c, const QByteArray &tabella) {
-    Istruzione i = c.prepara("SELECT name, type FROM pragma_table_info(?1) WHERE pk > 0", Azione::Lettura);
-    i.lega(1, QString::fromUtf8(tabella));
-    QByteArray nome;
-    for (int n = 0; i.avanti(); ++n)
-        nome = n == 0 && i.testo(1).compare(u"INTEGER", Qt::CaseInsensitive) == 0 ? i.testo(0).toUtf8() : QByteArray();
-    return nome;
+    try {
+        const Istruzione i = c.prepara("SELECT rowid FROM " + nomeSql(tabella), Azione::Lettura);
+        const QByteArray origine(sqlite3_column_origin_name(i.grezza(), 0));
+        return origine == numeroRiga ? QByteArray() : origine;
+    } catch (const EngineError &e) {
+        if (e.numero() == Errore::ColonnaNonTrovata)
+            return {};
+        throw;
+    }
 }
 
 Colonna colonna(const char *nome, const char *origine, const char *tipo) {
@@ -39,15 +46,19 @@ Colonna colonna(const char *nome, const char *origine, const char *tipo) {
     return {QString::fromUtf8(nome), QByteArray(origine), dichiarato, tipoColonna(dichiarato)};
 }
 
+Colonna colonna(sqlite3_stmt *s, int n) {
+    return colonna(sqlite3_column_name(s, n), sqlite3_column_origin_name(s, n), sqlite3_column_decltype(s, n));
+}
+
 // A select's columns, and its table when every column comes from one table, each once, and one of them is the key.
+// The statement has made its first step: only then its columns are those of the file as it is now.
 void descrivi(Connessione &c, sqlite3_stmt *s, Sorgente &sorgente) {
     const int quante = sqlite3_column_count(s);
     bool unica = quante > 0;
     QByteArray tabella;
     std::unordered_set<std::string> viste;
     for (int i = 0; i < quante; ++i) {
-        sorgente.colonne.push_back(
-            colonna(sqlite3_column_name(s, i), sqlite3_column_origin_name(s, i), sqlite3_column_decltype(s, i)));
+        sorgente.colonne.push_back(colonna(s, i));
         const QByteArray di(sqlite3_column_table_name(s, i));
         if (i == 0)
             tabella = di;
@@ -65,46 +76,66 @@ void descrivi(Connessione &c, sqlite3_stmt *s, Sorgente &sorgente) {
     sorgente.colonnaChiave = static_cast<int>(trovata - sorgente.colonne.begin());
 }
 
+Valori valori(const Istruzione &i, int daColonna, const Sorgente &sorgente) {
+    Valori riga;
+    for (const Colonna &c : sorgente.colonne)
+        riga.append(i.valore(daColonna++, c.tipo));
+    return riga;
+}
+
 void apriSelect(Connessione &c, const QString &sql, int limite, Sorgente &sorgente) {
     Istruzione i = c.preparaUnica(sql, Azione::Lettura);
     if (sqlite3_column_count(i.grezza()) == 0 || sqlite3_stmt_readonly(i.grezza()) == 0)
         throw c.errore(Errore::Sintassi, Azione::Lettura);
+    bool altra = i.avanti();
     descrivi(c, i.grezza(), sorgente);
-    const int colonne = static_cast<int>(sorgente.colonne.size());
-    while (i.avanti()) {
-        if (sorgente.quante() >= limite)
-            return;
-        if (sorgente.aChiavi()) {
+    for (; altra && sorgente.quante() < limite; altra = i.avanti()) {
+        if (sorgente.aChiavi())
             sorgente.chiavi.push_back(i.intero(sorgente.colonnaChiave));
-            continue;
-        }
-        Valori riga;
-        for (int n = 0; n < colonne; ++n)
-            riga.append(i.valore(n, sorgente.colonne[static_cast<size_t>(n)].tipo));
-        sorgente.righe.push_back(riga);
+        else
+            sorgente.righe.push_back(valori(i, 0, sorgente));
     }
 }
 
-void apriTabella(Connessione &c, const QByteArray &tabella, int limite, Sorgente &sorgente) {
-    sorgente.tabella = tabella;
-    const QByteArray chiave = chiaveDi(c, tabella);
-    sorgente.chiave = chiave.isEmpty() ? "rowid" : nomeSql(chiave);
-    Istruzione colonne = c.prepara("SELECT name, type FROM pragma_table_info(?1) ORDER BY cid", Azione::Lettura);
-    colonne.lega(1, QString::fromUtf8(tabella));
-    while (colonne.avanti()) {
-        const QByteArray nome = colonne.testo(0).toUtf8();
-        if (nome == chiave)
-            sorgente.colonnaChiave = static_cast<int>(sorgente.colonne.size());
-        sorgente.colonne.push_back(colonna(nome.constData(), nome.constData(), colonne.testo(1).toUtf8().constData()));
+// Columns, key and first row of a table in one statement, for most tables have one row. False when its rows have no
+// number: a view, or a table made without.
+bool apriTabella(Connessione &c, const QString &nome, int limite, Sorgente &sorgente) {
+    const QByteArray daTabella = " FROM main." + nomeSql(nome.toUtf8());
+    std::optional<Istruzione> prima;
+    try {
+        prima.emplace(c.prepara("SELECT rowid,*" + daTabella + " ORDER BY rowid", Azione::Lettura));
+    } catch (const EngineError &e) {
+        if (e.numero() == Errore::TabellaNonTrovata)
+            throw c.errore(Errore::TabellaNonTrovata, Azione::Lettura, nome);
+        if (e.numero() != Errore::ColonnaNonTrovata)
+            throw;
+        return false;
     }
-    // Ordered, or the engine might walk an index that covers the key.
-    Istruzione righe = c.prepara(
-        "SELECT " + sorgente.chiave + " FROM " + nomeSql(tabella) + " ORDER BY " + sorgente.chiave, Azione::Lettura);
-    while (righe.avanti()) {
-        if (sorgente.quante() >= limite)
-            return;
+    sqlite3_stmt *s = prima->grezza();
+    if (sqlite3_column_origin_name(s, 0) == nullptr) // before the first row: a view may be endless
+        return false;
+    const bool qualcuna = prima->avanti();
+    const QByteArray chiave(sqlite3_column_origin_name(s, 0));
+    sorgente.tabella = QByteArray(sqlite3_column_table_name(s, 0));
+    sorgente.chiave = chiave == numeroRiga ? chiave : nomeSql(chiave);
+    for (int n = 1; n < sqlite3_column_count(s); ++n) {
+        sorgente.colonne.push_back(colonna(s, n));
+        if (sorgente.colonne.back().origine == chiave)
+            sorgente.colonnaChiave = n - 1;
+    }
+    if (!qualcuna)
+        return true;
+    sorgente.chiavi.push_back(prima->intero(0));
+    if (limite == 1)
+        sorgente.prima = valori(*prima, 1, sorgente);
+    if (limite == 1 || !prima->avanti())
+        return true;
+    // The many rows of a list: their keys alone.
+    Istruzione righe = c.prepara("SELECT rowid" + daTabella + " WHERE rowid>?1 ORDER BY rowid", Azione::Lettura);
+    righe.lega(1, sorgente.chiavi.front());
+    while (sorgente.quante() < limite && righe.avanti())
         sorgente.chiavi.push_back(righe.intero(0));
-    }
+    return true;
 }
 
 } // namespace
@@ -125,22 +156,8 @@ Sorgente apriSorgente(Connessione &c, const QString &testo, int limite) {
         return sorgente;
     }
     const QString nome = senzaParentesi(netto);
-    QByteArray tabella;
-    bool conNumero = false; // rows with a row number: not so in a view
-    {
-        Istruzione i = c.prepara("SELECT name, type = 'table' AND NOT wr FROM pragma_table_list "
-                                 "WHERE schema = 'main' AND name = ?1 COLLATE NOCASE",
-                                 Azione::Lettura);
-        i.lega(1, nome);
-        if (!i.avanti())
-            throw c.errore(Errore::TabellaNonTrovata, Azione::Lettura, nome);
-        tabella = i.testo(0).toUtf8();
-        conNumero = i.intero(1) != 0;
-    }
-    if (conNumero) {
-        apriTabella(c, tabella, limite, sorgente);
-    } else {
-        sorgente.testo = u"SELECT * FROM "_s + QString::fromUtf8(nomeSql(tabella));
+    if (!apriTabella(c, nome, limite, sorgente)) {
+        sorgente.testo = u"SELECT * FROM "_s + QString::fromUtf8(nomeSql(nome.toUtf8()));
         apriSelect(c, sorgente.testo, limite, sorgente);
     }
     return sorgente;

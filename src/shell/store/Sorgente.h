@@ -3,6 +3,7 @@
 #include "shell/store/Connessione.h"
 
 #include <QList>
+#include <optional>
 #include <vector>
 
 namespace zuvora {
@@ -25,7 +26,8 @@ struct Sorgente {
     std::vector<Colonna> colonne;
     int colonnaChiave = -1; // the column that is the key, -1 when none shows it
     std::vector<qint64> chiavi;
-    std::vector<Valori> righe; // the picture
+    std::vector<Valori> righe;   // the picture
+    std::optional<Valori> prima; // the first row, read with its key; only of a table opened for one row
 
     bool aChiavi() const { return !tabella.isEmpty(); }
     int quante() const { return static_cast<int>(aChiavi() ? chiavi.size() : righe.size()); }

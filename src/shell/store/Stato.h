@@ -4,6 +4,7 @@
 #include "shell/store/Sorgente.h"
 
 #include <optional>
+#include <utility>
 
 namespace zuvora {
 
@@ -11,7 +12,8 @@ namespace zuvora {
 struct Recordset::Stato {
     enum class Modo { Lettura, Modifica, Nuovo };
 
-    Stato(Connessione &c, Sorgente s) : connessione(c), sorgente(std::move(s)) {}
+    Stato(Connessione &c, Sorgente s)
+        : connessione(c), sorgente(std::move(s)), m_riga(std::exchange(sorgente.prima, std::nullopt)) {}
 
     bool suRecord() const { return !cancellato && posto >= 0 && posto < sorgente.quante(); }
     // Leaves the row: what was stored without Update is dropped, and the next reading goes to the file.
