@@ -156,12 +156,20 @@ double secondi(const std::function<void()> &lavoro) {
     return static_cast<double>(orologio.nsecsElapsed()) / 1e9;
 }
 
-// Preview and picture in turns, so that a machine that is busy elsewhere slows both.
-void inTurni(benchmark::State &stato, const std::function<double()> &nostro, const std::function<double()> &metro) {
+// Preview and picture in turns, so that a machine that is busy elsewhere slows both; of many turns the quickest of
+// each.
+void inTurni(benchmark::State &stato, int turni, const std::function<double()> &nostro,
+             const std::function<double()> &metro) {
     double altro = 0;
     for (auto _ : stato) {
-        stato.SetIterationTime(nostro());
-        altro += metro();
+        double minimoNostro = nostro();
+        double minimoMetro = metro();
+        for (int turno = 1; turno < turni; ++turno) {
+            minimoNostro = std::min(minimoNostro, nostro());
+            minimoMetro = std::min(minimoMetro, metro());
+        }
+        stato.SetIterationTime(minimoNostro);
+        altro += minimoMetro;
     }
     stato.counters["metro"] = altro * 1000 / static_cast<double>(stato.iterations());
     stato.counters["limite"] = 2;
@@ -174,7 +182,7 @@ void dipingiAnteprima(benchmark::State &stato) {
     mostraEDipingi(*anteprima);
     mostraEDipingi(immagine);
     inTurni(
-        stato, [&] { return ridipingi(*anteprima); }, [&] { return ridipingi(immagine); });
+        stato, 100, [&] { return ridipingi(*anteprima); }, [&] { return ridipingi(immagine); });
 }
 
 // From the made window to its first picture on the screen.
@@ -183,7 +191,7 @@ void mostraAnteprima(benchmark::State &stato) {
     const QPixmap immagine(sfondoIntero());
     const auto mostra = [](QWidget &finestra) { return secondi([&] { mostraEDipingi(finestra); }); };
     inTurni(
-        stato, [&] { return mostra(*anteprimaPiena()); },
+        stato, 20, [&] { return mostra(*anteprimaPiena()); },
         [&] {
             SoloImmagine sola(immagine);
             return mostra(sola);
@@ -243,14 +251,14 @@ void comune(benchmark::internal::Benchmark *b) {
 }
 
 void aTurni(benchmark::internal::Benchmark *b) {
-    b->Unit(benchmark::kMillisecond)->UseManualTime()->Repetitions(7)->ComputeStatistics("min", minimo);
+    b->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(1)->Repetitions(7)->ComputeStatistics("min", minimo);
 }
 
 BENCHMARK(apriImpostatotem)->Name("Totem/apertura/nostro")->Apply(comune);
 BENCHMARK(apriSemplice<copiaDelKit>)->Name("Totem/apertura/metro")->Apply(comune);
 BENCHMARK(apriSemplice<copiaNuda>)->Name("Totem/aperturaNuda")->Apply(comune);
-BENCHMARK(dipingiAnteprima)->Name("Totem/anteprima/nostro")->Iterations(100)->Apply(aTurni);
-BENCHMARK(mostraAnteprima)->Name("Totem/mostra/nostro")->Iterations(10)->Apply(aTurni);
+BENCHMARK(dipingiAnteprima)->Name("Totem/anteprima/nostro")->Apply(aTurni);
+BENCHMARK(mostraAnteprima)->Name("Totem/mostra/nostro")->Apply(aTurni);
 BENCHMARK(totemMuto)->Name("Totem/muto")->Iterations(1)->Apply(comune);
 BENCHMARK(formFerma)->Name("Totem/fermo")->Iterations(1)->Apply(comune);
 

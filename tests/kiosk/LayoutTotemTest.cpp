@@ -4,6 +4,7 @@
 #include "kit/InstallazioneProva.h"
 
 #include <QFile>
+#include <QSet>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -127,6 +128,24 @@ TEST_F(ProvaLayoutTotem, ThePictureStandsAtItsOwnSize) {
     sfondo(i.file(u"grande.bmp"_s));
     LayoutTotem form(i.ambiente, richiesta(0), nullptr);
     EXPECT_EQ(form.grab().toImage().pixel(1919, 0), qRgb(0, 0, 255));
+}
+
+TEST_F(ProvaLayoutTotem, ButtonsTextsAndNoticeStandInThePicture) {
+    sfondo({});
+    LayoutTotem form(i.ambiente, richiesta(15), nullptr);
+    const QImage vista = form.grab().toImage();
+    const auto tinte = [&](const char *nome) {
+        QSet<QRgb> trovate;
+        const QRect posto = trova<QWidget>(form, nome).geometry() & vista.rect();
+        for (int y = posto.top(); y <= posto.bottom(); y += 2)
+            for (int x = posto.left(); x <= posto.right(); ++x)
+                trovate << vista.pixel(x, y);
+        return trovate;
+    };
+    for (const char *nome : {"Bottone(1)", "Bottone(15)", "TitoloTXT", "Label1", "Avviso"})
+        EXPECT_GT(tinte(nome).size(), 4) << nome << " has no text";
+    EXPECT_TRUE(tinte("Bottone(9)").contains(qRgb(0xF4, 0xF7, 0xFB)));
+    EXPECT_TRUE(tinte("Avviso").contains(qRgb(0xFF, 0xF4, 0xC4)));
 }
 
 TEST_F(ProvaLayoutTotem, NamesAreWrappedAndNeverCut) {

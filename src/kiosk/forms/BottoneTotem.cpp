@@ -3,7 +3,6 @@
 #include "shell/host/Grassetto.h"
 
 #include <QFontMetrics>
-#include <QPaintEvent>
 #include <QPainter>
 
 namespace zuvora {
@@ -25,7 +24,6 @@ QColor fondoPer(const QColor &testo) {
 
 BottoneTotem::BottoneTotem(QWidget *padre, const char *nome, const QString &didascalia, const Posto &posto)
     : Controllo(padre, nome, posto), m_font(font()) {
-    setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_TransparentForMouseEvents); // a press on it moves the window, as one beside it
     setCaption(didascalia);
 }
@@ -46,14 +44,7 @@ void BottoneTotem::setColoreTesto(const QColor &colore) {
     dimentica();
 }
 
-void BottoneTotem::setSfondo(const QPixmap &sfondo) {
-    m_sfondo = sfondo;
-    m_faccia = {};
-    update();
-}
-
 void BottoneTotem::dimentica() {
-    m_fronte = {};
     m_faccia = {};
     update();
 }
@@ -83,36 +74,21 @@ QSize BottoneTotem::pixel(QSize misura) const {
 }
 
 void BottoneTotem::prepara(QSize misura) {
-    if (m_fronte.size() == pixel(misura))
+    if (m_faccia.size() == pixel(misura))
         return;
-    m_fronte = QPixmap(pixel(misura));
-    m_fronte.setDevicePixelRatio(devicePixelRatioF());
-    m_fronte.fill(Qt::transparent);
-    QPainter pittore(&m_fronte);
-    dipingiFronte(pittore, misura);
-}
-
-void BottoneTotem::componi() {
-    if (m_faccia.size() == pixel(size()))
-        return;
-    prepara(size());
-    m_faccia = QPixmap(pixel(size()));
+    m_faccia = QPixmap(pixel(misura));
     m_faccia.setDevicePixelRatio(devicePixelRatioF());
+    m_faccia.fill(Qt::transparent);
     QPainter pittore(&m_faccia);
-    pittore.fillRect(rect(), palette().color(QPalette::Window));
-    pittore.drawPixmap(QPoint(), m_sfondo, geometry());
-    pittore.drawPixmap(QPoint(), m_fronte);
-    m_fronte = {};
+    dipingiFaccia(pittore, misura);
 }
 
-void BottoneTotem::paintEvent(QPaintEvent *e) {
-    componi();
-    const QRectF parte = e->rect();
-    QPainter(this).drawPixmap(parte, m_faccia,
-                              {parte.topLeft() * devicePixelRatioF(), parte.size() * devicePixelRatioF()});
+void BottoneTotem::paintEvent(QPaintEvent * /*e*/) {
+    prepara(size());
+    QPainter(this).drawPixmap(QPoint(), m_faccia);
 }
 
-void BottoneTotem::dipingiFronte(QPainter &pittore, QSize misura) const {
+void BottoneTotem::dipingiFaccia(QPainter &pittore, QSize misura) const {
     const QColor fondo = fondoPer(m_colore);
     pittore.setRenderHint(QPainter::Antialiasing);
     pittore.setPen(QPen(fondo.lightness() > 128 ? fondo.darker(150) : fondo.lighter(170), 2));

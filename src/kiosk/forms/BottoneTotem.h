@@ -17,13 +17,9 @@ public:
     const QString &Caption() const { return m_caption; }
     void setFontTesto(const QFont &font);
     void setColoreTesto(const QColor &colore);
-    // The picture of the window behind, from the window's corner on: it is seen beside the rounded corners.
-    void setSfondo(const QPixmap &sfondo);
-    // Draws what doesn't depend on the background, for the size that the button is about to take: with this done
-    // beforehand, showing it costs what a picture costs.
+    // Draws the face for the size that the button is about to take: with this done beforehand, showing it costs what a
+    // picture costs.
     void prepara(QSize misura);
-    // The same of the whole face, at the size that the button has.
-    void componi();
     // The font in which the name finds room on the face: the set one, or smaller.
     QFont fontMostrato() const;
 
@@ -36,16 +32,12 @@ private:
     QFont fontPer(QSize misura) const;
     QSize pixel(QSize misura) const;
     void dimentica();
-    void dipingiFronte(QPainter &pittore, QSize misura) const;
+    void dipingiFaccia(QPainter &pittore, QSize misura) const;
 
     QString m_caption;
     QFont m_font;
     QColor m_colore = Qt::black;
-    QPixmap m_sfondo;
-    QPixmap m_fronte; // plate and name; the corners let the background through
-    // Drawn once and without holes: the window beneath needs no painting, and twenty buttons cost what their part of
-    // the picture would.
-    QPixmap m_faccia;
+    QPixmap m_faccia; // plate and name; the corners let the background through
 };
 
 } // namespace zuvora

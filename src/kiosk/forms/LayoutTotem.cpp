@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QWindow>
 
@@ -69,8 +70,13 @@ LayoutTotem::LayoutTotem(const Ambiente &contesto, const RichiestaAnteprima &ric
     else
         avverti(u"Nessuna disposizione dei pulsanti per questa risoluzione: scegliere 1280 x 1024, 1920 x 1080 o "
                 "1440 x 900."_s);
-    componiPulsanti();
+    if (!m_aspetto.rifiutati.isEmpty())
+        avverti(u"Valori che non si possono usare, e valgono quelli consueti: "_s + m_aspetto.rifiutati.join(u", "_s) +
+                u'.');
     mostraAvvisi();
+    for (QWidget *figlio : findChildren<QWidget *>(Qt::FindDirectChildrenOnly))
+        figlio->installEventFilter(this);
+    componi();
 }
 
 void LayoutTotem::DisponiPulsanti(int schermo) {
@@ -124,17 +130,6 @@ void LayoutTotem::vestiPulsanti() {
     }
 }
 
-void LayoutTotem::componiPulsanti() {
-    for (const auto &[indice, bottone] : Bottone) {
-        bottone->setSfondo(m_sfondo);
-        if (!bottone->isHidden())
-            bottone->componi();
-    }
-    if (!m_aspetto.rifiutati.isEmpty())
-        avverti(u"Valori che non si possono usare, e valgono quelli consueti: "_s + m_aspetto.rifiutati.join(u", "_s) +
-                u'.');
-}
-
 void LayoutTotem::avverti(const QString &frase) {
     if (!frase.isEmpty())
         m_avvisi << frase;
@@ -152,17 +147,35 @@ void LayoutTotem::mostraAvvisi() {
     Avviso.setPosto({Avviso.Left(), Avviso.Top(), twipsDa(spazio.width() + 1), twipsDa(spazio.height())});
     Avviso.setFontBase(leggibile);
     Avviso.setCaption(testo);
-    Avviso.setColori(Qt::black, QColor(0xFF, 0xF4, 0xC4));
+    Avviso.setColori(Qt::black);
     Avviso.raise();
 }
 
+void LayoutTotem::componi() {
+    const QScopedValueRollback<bool> adesso(m_componendo, true);
+    m_schermata = QPixmap(size() * devicePixelRatioF());
+    m_schermata.setDevicePixelRatio(devicePixelRatioF());
+    QPainter pittore(&m_schermata);
+    pittore.fillRect(rect(), palette().window());
+    pittore.drawPixmap(QPoint(), m_sfondo);
+    if (!Avviso.isHidden())
+        pittore.fillRect(Avviso.geometry(), QColor(0xFF, 0xF4, 0xC4));
+    for (QWidget *figlio : findChildren<QWidget *>(Qt::FindDirectChildrenOnly))
+        if (!figlio->isHidden())
+            figlio->render(&pittore, figlio->pos(), {}, {});
+}
+
+// What is in the picture isn't painted again over it. No child has a ground of its own: that would be.
+bool LayoutTotem::eventFilter(QObject *figlio, QEvent *e) {
+    return (e->type() == QEvent::Paint && !m_componendo) || Form::eventFilter(figlio, e);
+}
+
 void LayoutTotem::paintEvent(QPaintEvent *e) {
-    QPainter pittore(this);
-    const QRegion coperta = m_sfondo.hasAlphaChannel() ? QRegion() : QRegion(m_sfondo.rect());
-    for (const QRect &scoperta : e->region() - coperta)
-        pittore.fillRect(scoperta, palette().window());
-    if (!m_sfondo.isNull())
-        pittore.drawPixmap(e->rect().topLeft(), m_sfondo, e->rect());
+    const qreal scala = devicePixelRatioF();
+    if (m_schermata.size() != size() * scala) // moved to a monitor of another scale
+        componi();
+    const QRectF parte = e->rect();
+    QPainter(this).drawPixmap(parte, m_schermata, {parte.topLeft() * scala, parte.size() * scala});
 }
 
 // A window larger than the monitor begins in its corner, with the frame in view.

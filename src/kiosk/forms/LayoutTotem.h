@@ -25,6 +25,7 @@ public:
     LayoutTotem(const Ambiente &ambiente, const RichiestaAnteprima &richiesta, QWidget *padre);
 
 protected:
+    bool eventFilter(QObject *figlio, QEvent *e) override;
     void keyPressEvent(QKeyEvent *e) override;
     void mousePressEvent(QMouseEvent *e) override;
     void mouseMoveEvent(QMouseEvent *e) override;
@@ -36,13 +37,16 @@ private:
     bool mostraSfondo(const std::function<void()> &intanto);
     void scriviTitoloEData(int schermo);
     void vestiPulsanti();
-    void componiPulsanti();
     void avverti(const QString &frase);
     void mostraAvvisi();
+    void componi();
 
     RichiestaAnteprima m_richiesta;
     AspettoTotem m_aspetto;
     QPixmap m_sfondo; // at its own size from the top left corner
+    // The whole screen with its buttons and texts, drawn once: showing and moving it costs what its background would.
+    QPixmap m_schermata;
+    bool m_componendo = false;
     QStringList m_avvisi;
     QPoint m_presa; // of the press that moves the window, within its frame
 
