@@ -47,7 +47,8 @@ void apriImpostatotem(benchmark::State &stato) {
     stato.counters["limite"] = 1.5;
 }
 
-// As many controls of each kind, with the texts and at the places of the form's own, but without its data and handlers.
+// As many controls of each kind, with the texts, entries and places of the form's own, but without its data and
+// handlers.
 template <class C> QWidget *copiaDi(const C &controllo, QWidget *padre, const QString &testo) {
     return new C(padre, "copia", testo.toUtf8().constData(), controllo.posto());
 }
@@ -65,8 +66,12 @@ QWidget *copiaDelKit(const QWidget *controllo, QWidget *padre, Dialoghi &dialogh
         return new ColorPicker(padre, "copia", c->posto(), dialoghi);
     if (const auto *c = qobject_cast<const GroupBox *>(controllo))
         return copiaDi(*c, padre, c->title());
-    if (const auto *c = qobject_cast<const ListBox *>(controllo))
-        return new ListBox(padre, "copia", c->posto());
+    if (const auto *c = qobject_cast<const ListBox *>(controllo)) {
+        auto *copia = new ListBox(padre, "copia", c->posto());
+        for (int riga = 0; riga < c->ListCount(); ++riga)
+            copia->AddItem(c->List(riga));
+        return copia;
+    }
     if (const auto *c = qobject_cast<const PictureBox *>(controllo))
         return new PictureBox(padre, "copia", c->posto(), Disegno::Pulisci);
     if (const auto *c = qobject_cast<const Label *>(controllo))
@@ -86,8 +91,12 @@ QWidget *copiaNuda(const QWidget *controllo, QWidget *padre, Dialoghi &) {
         return new QPushButton(u"testo"_s, padre);
     if (qobject_cast<const QGroupBox *>(controllo) != nullptr)
         return new QGroupBox(u"testo"_s, padre);
-    if (qobject_cast<const QListWidget *>(controllo) != nullptr)
-        return new QListWidget(padre);
+    if (const auto *c = qobject_cast<const QListWidget *>(controllo)) {
+        auto *copia = new QListWidget(padre);
+        for (int riga = 0; riga < c->count(); ++riga)
+            copia->addItem(c->item(riga)->text());
+        return copia;
+    }
     return new QLabel(u"testo"_s, padre);
 }
 

@@ -165,7 +165,7 @@ void LayoutTotem::componi() {
             figlio->render(&pittore, figlio->pos(), {}, {});
 }
 
-// What is in the picture isn't painted again over it. No child has a ground of its own: that would be.
+// What is in the picture isn't painted again over it. A child with a ground of its own would cover it.
 bool LayoutTotem::eventFilter(QObject *figlio, QEvent *e) {
     return (e->type() == QEvent::Paint && !m_componendo) || Form::eventFilter(figlio, e);
 }
