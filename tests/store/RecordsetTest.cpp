@@ -1,5 +1,7 @@
 #include "store/Archivio.h"
 
+#include "shell/store/Riga.h"
+
 #include <QDir>
 
 namespace zuvora::prova {
@@ -122,6 +124,41 @@ TEST_F(RecordsetTest, IlCambioDiUnFratelloSiVede) {
     EXPECT_EQ(f.righe(u"SELECT count(*) FROM radio WHERE PercorsoURL='perso'"_s).value(0), u"0"_s);
     d.Refresh();
     EXPECT_EQ(rs.RecordCount(), 3); // the reference stays good over a Refresh
+}
+
+// The statement of the first Refresh is used again by the second: its columns have to be those of the file now.
+TEST_F(RecordsetTest, UnaColonnaAggiuntaDaUnFratelloSiVedeDopoRefresh) {
+    int giro = 0;
+    for (const QString &sorgente : {u"radio"_s, u"select * from radio"_s, u"[Vuota]"_s, u"select * from Attivi"_s}) {
+        Data d;
+        Recordset &rs = apri(d, sorgente);
+        const qsizetype prima = rs.Fields().Count();
+        const QString nuova = u"Nuova%1"_s.arg(++giro);
+        const bool vista = sorgente.endsWith(u"Attivi"_s);
+        Fratello(percorso())
+            .esegui(vista
+                        ? u"DROP VIEW Attivi; CREATE VIEW Attivi AS SELECT Servizio, 7 AS %1 FROM Servizi"_s.arg(nuova)
+                        : u"ALTER TABLE %1 ADD COLUMN %2 INTEGER DEFAULT 7"_s.arg(
+                              sorgente.endsWith(u"radio"_s) ? u"radio"_s : u"Vuota"_s, nuova));
+        d.Refresh();
+        EXPECT_EQ(rs.Fields().Count(), prima + 1) << sorgente.toStdString();
+        const Valore letto = rs.RecordCount() > 0 ? rs[nuova].Value() : Valore(7LL);
+        EXPECT_EQ(letto, Valore(7LL)) << sorgente.toStdString();
+    }
+}
+
+TEST_F(RecordsetTest, UnaTabellaSenzaNumeriDiRigaSiLegge) {
+    Fratello(percorso())
+        .esegui(u"CREATE TABLE Sola(Nome TEXT PRIMARY KEY, Valore TEXT) WITHOUT ROWID; "
+                "INSERT INTO Sola VALUES('b','2'),('a','1')"_s);
+    Data d;
+    Recordset &rs = apri(d, u"sola"_s);
+    EXPECT_EQ(rs.RecordCount(), 2);
+    EXPECT_EQ(rs[u"Valore"].Value(), Valore(u"1"_s));
+    EXPECT_EQ(numeroDi([&] { rs.Edit(); }), 3027);
+    EXPECT_EQ(leggiRiga(d, cartella(), u"[Sola]"_s).testo(u"nome"), u"a"_s);
+    d.Refresh();
+    EXPECT_EQ(rs.RecordCount(), 2) << "the limit of one row was for the reading of one";
 }
 
 TEST_F(RecordsetTest, AggiungereECancellare) {
