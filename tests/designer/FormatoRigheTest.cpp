@@ -92,6 +92,16 @@ TEST_F(FormatoRighe, ATableComesBackAsItWas) {
     EXPECT_EQ(layout.elemento(TipoElemento::WB1).area.height, 5055);
 }
 
+TEST_F(FormatoRighe, NullOverNullIsNoChangeAndStaysNull) {
+    for (const auto &tavola : {u"Layout1"_s, u"Layout2"_s})
+        righeVuote(tavola);
+    imposta(u"Layout1"_s, 2, u"top"_s, u"0"_s); // zero is none
+    Data sorgente;
+    Data destinazione;
+    EXPECT_EQ(copiaRighe(apri(sorgente, u"Layout1"_s), apri(destinazione, u"Layout2"_s)).cambiate, 1);
+    EXPECT_EQ(tabella(u"Layout2"_s), tabella(u"Layout1"_s));
+}
+
 } // namespace
 
 } // namespace zuvora::prova

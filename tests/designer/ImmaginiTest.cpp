@@ -56,6 +56,14 @@ TEST_F(Immagini, APictureReplacedOnDiskIsReadAgain) {
     EXPECT_EQ(immagini.immagine(file(u"a.png"_s)).width(), 10);
     disegna(u"a.png"_s, {20, 150}, "PNG");
     EXPECT_EQ(immagini.immagine(file(u"a.png"_s)).width(), 20);
+    const QDateTime allora = QDateTime::currentDateTime().addDays(-1);
+    for (const int lato : {8, 12}) { // as many bytes, at another time
+        disegna(u"b.bmp"_s, {lato, 96 / lato}, "BMP");
+        QFile bmp(file(u"b.bmp"_s));
+        ASSERT_TRUE(bmp.open(QIODevice::ReadWrite) && bmp.size() == 342);
+        ASSERT_TRUE(bmp.setFileTime(allora.addSecs(lato), QFileDevice::FileModificationTime));
+        EXPECT_EQ(immagini.immagine(file(u"b.bmp"_s)).width(), lato);
+    }
     QFile::remove(file(u"a.png"_s));
     EXPECT_FALSE(immagini.carica(file(u"a.png"_s)));
 }

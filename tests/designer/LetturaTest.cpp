@@ -1,5 +1,6 @@
 #include "designer/logic/LetturaLayout.h"
 #include "designer/logic/ScritturaLayout.h"
+#include "designer/logic/Strumenti.h"
 #include "shell/logic/Percorsi.h"
 #include "shell/store/EngineError.h"
 #include "shell/store/NomiFile.h"
@@ -166,6 +167,8 @@ TEST_F(Lettura, ADecorationWithoutItsPictureIsMarkedAndKeepsItsPath) {
     EXPECT_LT(esito.avvisi[0].size(), 300);
     SalvaLayout(layout, cartella());
     EXPECT_EQ(valore(tavola, 37, u"PercorsoImmagine"_s), u"/manca.gif"_s);
+    EXPECT_TRUE(applicaDecorazione(layout, 3, u"/bella.gif"_s, false, immagini));
+    EXPECT_FALSE(layout.elemento(TipoElemento::Image1, 3).immagineMancante);
 }
 
 TEST_F(Lettura, AFreeDecorationShowsTheFrameAndSavesItsOwnPath) {

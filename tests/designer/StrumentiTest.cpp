@@ -131,6 +131,9 @@ TEST(Finestra, AFormOfWhichNothingCanBeTakenGetsAnotherTopAndNoOtherDoes) {
     EXPECT_EQ(top(5000, 300), 300); // beside all screens: Esc brings it back as it is
     EXPECT_EQ(top(5000, -900), 0);
     EXPECT_EQ(topRaggiungibile({0, -900, 10, 10}, {}, {}), -900);
+    const QList<QRect> scalati{{1920, 2000, 1920, 1080}, {0, 0, 1920, 1080}};
+    for (const auto &[x, atteso] : {std::pair(1912, 0), {1913, 2000}}) // eight pixels beside the edge, and seven
+        EXPECT_EQ(topRaggiungibile({x - 24, 0, 1920, 1080}, {{x, 24, 193, 28}}, scalati), atteso);
 }
 
 TEST(Finestra, OnlyALargerFormIsShiftedAndOnlyToItsEdges) {

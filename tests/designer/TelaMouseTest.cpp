@@ -33,6 +33,14 @@ TEST(Contorno, LElementoSaltaAlRilascioEPrendeLeManiglie) {
     EXPECT_EQ(tela.rettangolo("WB1").center(), presa + QPoint(-100, 20));
     EXPECT_TRUE(maniglieVisibili(tela));
     EXPECT_EQ(QWidget::mouseGrabber(), nullptr);
+    tela.premi(tela.rettangolo("MP1").center());
+    EXPECT_FALSE(maniglieVisibili(tela)); // from the press on
+    tela.rilascia(tela.rettangolo("MP1").center());
+    EXPECT_TRUE(maniglieVisibili(tela));
+    tela.premi(tela.rettangolo("picHandle(4)").center());
+    EXPECT_FALSE(maniglieVisibili(tela));
+    tela.rilascia(tela.rettangolo("picHandle(4)").center());
+    QTest::mouseClick(&tela.w("WB1"), Qt::LeftButton, {}, QPoint(40, 40));
     tela.clicca(QPoint(1915, 600)); // the bare canvas
     EXPECT_FALSE(maniglieVisibili(tela));
     EXPECT_EQ(tela.form->ElementoSelezionato(), u"WB1"_s);

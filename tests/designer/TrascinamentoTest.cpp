@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <limits>
+#include <tuple>
 
 namespace zuvora {
 
@@ -101,6 +102,14 @@ TEST(CRect, ExtremeEdgesStayWithin32Bits) {
     EXPECT_EQ(r.bottom(), massimo);
     r.NormalizeRect();
     EXPECT_EQ(r, CRect(minimo, massimo, -1, massimo));
+    const CRect dentro(10, 20, 30, 40); // left and top belong to it, right and bottom don't
+    for (const auto &[x, y, attesa] : {std::tuple(10.F, 20.F, true),
+                                       {29.5F, 39.5F, true},
+                                       {30.F, 25.F, false},
+                                       {15.F, 40.F, false},
+                                       {9.5F, 25.F, false},
+                                       {15.F, 19.5F, false}})
+        EXPECT_EQ(dentro.PtInRect(x, y), attesa) << x << ' ' << y;
     EXPECT_EQ(interoVicino(1e300), massimo);
     EXPECT_EQ(interoVicino(-1e300), minimo);
     EXPECT_EQ(interoVicino(2.5), 2); // halves to the even number

@@ -185,7 +185,7 @@ void Form1::mouseStriscia(Fase fase, const QMouseEvent &evento) {
 void Form1::mouseStrumenti(Fase fase, const QMouseEvent &evento) {
     if (fase != Fase::Premuto)
         mouseElemento(postoTela, fase, evento);
-    else if (evento.button() == Qt::MiddleButton && fermo())
+    else if (evento.button() == Qt::MiddleButton)
         m_trascinamento.prendiFinestra(pos(), cursoreDi(evento));
 }
 
