@@ -44,24 +44,39 @@ guasto() {
     aperti=1
 }
 
+# controlla FOLDER SEES WINDOWS: the rooms that the sources of FOLDER find are all among SEES; widgets only with WINDOWS=1.
+controlla() {
+    local comando radici trovati trovato stanza
+    comando=$(grep -F "\"command\"" "$build/compile_commands.json" | grep -F -- "-c $PWD/$1/" | head -n 1 || true)
+    radici=$(grep -oE -- '(-I ?|-isystem )[^ "]+' <<<"$comando" || true)
+    # shellcheck disable=SC2086 # one word an option
+    trovati=$(c++ -x c++ -std=c++20 -E -P $radici "$domande" | awk '$1 == "TROVA" { print $2 }')
+    grep -q "^${2%% *}/" <<<"$trovati" || guasto "$1: non trova nemmeno le intestazioni di ${2%% *}, il controllo non vale"
+    for trovato in $trovati; do
+        stanza=${trovato%/*}
+        if [ "$stanza" = widgets ]; then
+            [ "$3" = 1 ] || guasto "muro aperto: $1 vede <${trovato#*/}>"
+        elif [[ " $2 " != *" $stanza "* ]]; then
+            guasto "muro aperto: $1 vede $trovato"
+        fi
+    done
+}
+
 for cartella in $(find src -mindepth 2 -maxdepth 2 -type d | sed 's|^src/||' | sort); do
     if [ -z "${vede[$cartella]+c}" ]; then
         guasto "src/$cartella manca nella tabella di cmake/muri.sh"
         continue
     fi
-    comando=$(grep -F "\"command\"" "$build/compile_commands.json" | grep -F -- "-c $PWD/src/$cartella/" | head -n 1 || true)
-    radici=$(grep -oE -- '(-I ?|-isystem )[^ "]+' <<<"$comando" || true)
-    # shellcheck disable=SC2086 # one word an option
-    trovati=$(c++ -x c++ -std=c++20 -E -P $radici "$domande" | awk '$1 == "TROVA" { print $2 }')
-    grep -q "^$cartella/" <<<"$trovati" || guasto "src/$cartella: non trova nemmeno le sue intestazioni, il controllo non vale"
-    for trovato in $trovati; do
-        stanza=${trovato%/*}
-        if [ "$stanza" = widgets ]; then
-            [[ $cartella =~ $finestre ]] || guasto "muro aperto: src/$cartella vede <${trovato#*/}>"
-        elif [ "$stanza" != "$cartella" ] && [[ " ${vede[$cartella]} " != *" $stanza "* ]]; then
-            guasto "muro aperto: src/$cartella vede $trovato"
-        fi
-    done
+    finestra=0
+    [[ $cartella =~ $finestre ]] && finestra=1
+    controlla "src/$cartella" "$cartella ${vede[$cartella]}" "$finestra"
+done
+
+# Beside the program: the installer, which knows the version's and the display's rules too, and the components.
+controlla installer "$logica pannello/logic" 0
+controlla plugins/etichette/logic "$logica" 0
+for componente in etichette/designer film voce web; do
+    controlla "plugins/$componente" "$logica shell/host" 1
 done
 
 # Ways around the include roots.
