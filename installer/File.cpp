@@ -107,7 +107,7 @@ QString nativo(const QString &percorso) {
 }
 
 QString posto(const QString &file) {
-    static const QRegularExpression preparazione(u"/\\.zuvora-installa-[^/]*"_s);
+    static const QRegularExpression preparazione(u"/\\.zuvora-installa-scambio/nuovi|/?\\.zuvora-installa-[^/]*"_s);
     return nativo(QString(file).remove(preparazione));
 }
 

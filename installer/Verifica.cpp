@@ -4,6 +4,7 @@
 #include "installer/ControlloFile.h"
 #include "installer/ControlloValori.h"
 #include "installer/Riferimenti.h"
+#include "installer/copia/Scambio.h"
 
 #include "shell/logic/Percorsi.h"
 
@@ -52,6 +53,8 @@ Rapporto verificaInstallazione(const QString &cartella) {
         if (const QString difetto = difettoDi(percorsoIn(base, file), Atteso::NonVuoto); !difetto.isEmpty())
             rapporto.difetti += u"Nell'installazione %1"_s.arg(difetto);
     controllaProgramma(rapporto, base);
+    if (const QString sospeso = scambioSospeso(base); !sospeso.isEmpty())
+        rapporto.difetti.prepend(sospeso);
     return rapporto;
 }
 

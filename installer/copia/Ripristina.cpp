@@ -7,9 +7,9 @@
 #include "installer/Interruzione.h"
 #include "installer/copia/Archivio.h"
 #include "installer/copia/Salva.h"
+#include "installer/copia/Scambio.h"
 #include "installer/copia/Svolta.h"
 
-#include "shell/logic/FileAtomico.h"
 #include "shell/store/Database.h"
 #include "shell/store/EngineError.h"
 #include "shell/store/NomiFile.h"
@@ -17,8 +17,6 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
-#include <QLockFile>
-#include <QTemporaryDir>
 
 namespace zuvora::installa {
 using namespace Qt::Literals::StringLiterals;
@@ -66,71 +64,63 @@ void ripristinaNuova(const OpzioniRipristina &opzioni, const QString &cartella) 
     cantiere.pubblica();
 }
 
-// The file takes its place at once, or the one that is there stays.
-void sostituisci(const QString &da, const QString &a) {
-    creaCartella(QFileInfo(a).path());
-    const QString parziale = a + u".parziale"_s;
-    rimuovi(parziale);
-    copia(da, parziale);
-    sposta(parziale, a);
-}
+struct Sostituita {
+    QString prima;          // where the installation that was there is saved
+    bool annullato = false; // a restoring that had been cut off was undone first
+};
 
-void sostituisciArchivio(const QString &da, const QString &a) {
-    if (!QFileInfo::exists(a)) {
-        sostituisci(da, a);
-        return;
-    }
-    Database nuovo = Database::apriInLettura(da);
-    Database::OpenDatabase(a).copiaDa(nuovo);
-}
-
-QString ripristinaSopra(const OpzioniRipristina &opzioni, const QString &cartella) {
-    const QString archivio = cartella + u'/' + nomi::archivio.toString();
-    if (!QFileInfo(archivio).isFile())
+void ripristinaSopra(const OpzioniRipristina &opzioni, const QString &cartella, Sostituita &esito) {
+    if (!QFileInfo(cartella + u'/' + nomi::archivio.toString()).isFile())
         throw Guasto{u"Nella cartella %1 non c'è un'installazione da sostituire."_s.arg(nativo(cartella))};
-    QLockFile guardia(cartella + u"/.zuvora-installa.lock"_s);
-    guardia.setStaleLockTime(0);
-    if (!guardia.tryLock() && guardia.error() == QLockFile::LockFailedError)
-        throw Guasto{
-            u"Nella cartella %1 è già in corso un'installazione: attendere che finisca."_s.arg(nativo(cartella))};
-    const QTemporaryDir appoggio(cartella + u"/.zuvora-installa-XXXXXX"_s);
-    if (!appoggio.isValid())
-        throw Guasto{u"Impossibile scrivere nella cartella %1: nulla è stato modificato."_s.arg(nativo(cartella))};
-    const Elenco elenco = prepara(opzioni.file, appoggio.path(), cartella);
-    QString prima = u"%1/prima-del-ripristino-%2.zuvora"_s.arg(
+    Scambio scambio(cartella, opzioni.passo);
+    esito.annullato = scambio.annullato();
+    const Elenco elenco = prepara(opzioni.file, scambio.preparazione(), cartella);
+    esito.prima = u"%1/prima-del-ripristino-%2.zuvora"_s.arg(
         cartella, QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss"_s));
-    const Esito salvata = salvaInstallazione({cartella, prima, 0}, [](const QString &) {});
+    const Esito salvata = salvaInstallazione({cartella, esito.prima, 0}, [](const QString &) {});
     if (!salvata.riuscito)
         throw Guasto{u"L'installazione presente non si può salvare, quindi resta com'è. "_s + salvata.messaggio};
-    QStringList archivi;
-    for (const VoceCopia &voce : elenco.voci) {
-        fermaSeInterrotto();
-        if (eArchivio(voce.nome))
-            archivi.prepend(voce.nome);
-        else
-            sostituisci(appoggio.filePath(voce.nome), cartella + u'/' + voce.nome);
-    }
-    for (const QString &nome : archivi) // Zuvora.mdb, the first of a copy, comes last
-        sostituisciArchivio(appoggio.filePath(nome), cartella + u'/' + nome);
-    return prima;
+    QStringList nomi;
+    for (const VoceCopia &voce : elenco.voci)
+        nomi += voce.nome;
+    scambio.esegui(nomi, esito.prima);
+}
+
+// What came of putting a copy in place of the installation, in words.
+Esito riferisci(const Sostituita &sostituita, const QString &cartella, const QString &guasto) {
+    QStringList frasi;
+    if (sostituita.annullato)
+        frasi += u"Un ripristino interrotto a metà è stato prima annullato."_s;
+    if (guasto.isEmpty())
+        frasi += u"Installazione ripristinata nella cartella %1. Quella di prima è salvata in %2."_s.arg(
+            nativo(cartella), nativo(sostituita.prima));
+    else
+        frasi += guasto;
+    if (const QString sospeso = scambioSospeso(cartella); !sospeso.isEmpty())
+        frasi += sospeso;
+    return {guasto.isEmpty(), frasi.join(u' ')};
 }
 } // namespace
 
 Esito ripristinaInstallazione(const OpzioniRipristina &opzioni) {
     const QString cartella = QDir::cleanPath(QFileInfo(opzioni.crea.cartella).absoluteFilePath());
+    Sostituita sostituita;
+    QString guasto;
     try {
-        if (!opzioni.sopra) {
+        if (opzioni.sopra)
+            ripristinaSopra(opzioni, cartella, sostituita);
+        else
             ripristinaNuova(opzioni, cartella);
-            return {true, u"Installazione ripristinata nella cartella %1."_s.arg(nativo(cartella))};
-        }
-        const QString prima = ripristinaSopra(opzioni, cartella);
-        return {true, u"Installazione ripristinata nella cartella %1. Quella di prima è salvata in %2."_s.arg(
-                          nativo(cartella), nativo(prima))};
-    } catch (const Guasto &guasto) {
-        return {false, guasto.frase};
+    } catch (const Guasto &g) {
+        guasto = g.frase;
     } catch (const EngineError &errore) {
-        return {false, errore.frase()};
+        guasto = errore.frase();
     }
+    if (opzioni.sopra)
+        return riferisci(sostituita, cartella, guasto);
+    if (guasto.isEmpty())
+        return {true, u"Installazione ripristinata nella cartella %1."_s.arg(nativo(cartella))};
+    return {false, guasto};
 }
 
 } // namespace zuvora::installa

@@ -5,6 +5,7 @@
 #include "installer/Guasto.h"
 #include "installer/copia/Archivio.h"
 #include "installer/copia/Raccolta.h"
+#include "installer/copia/Scambio.h"
 
 #include "shell/logic/FileAtomico.h"
 #include "shell/logic/Percorsi.h"
@@ -91,6 +92,8 @@ QString salva(const OpzioniSalva &opzioni, const Progresso &progresso) {
         throw Guasto{u"%1 è una cartella: indicare il file della copia."_s.arg(nativo(file))};
     if (!QFileInfo(QFileInfo(file).path()).isDir())
         throw Guasto{u"La cartella %1 non esiste: nessuna copia è stata fatta."_s.arg(nativo(QFileInfo(file).path()))};
+    if (const QString sospeso = scambioSospeso(cartella); !sospeso.isEmpty())
+        throw Guasto{sospeso};
     QLockFile guardia(base + u".lock"_s);
     guardia.setStaleLockTime(0);
     if (!guardia.tryLock() && guardia.error() == QLockFile::LockFailedError)

@@ -1,4 +1,5 @@
 #include "installer/Banco.h"
+#include "installer/Guasto.h"
 #include "installer/Verifica.h"
 #include "installer/copia/Archivio.h"
 #include "installer/copia/Ripristina.h"
@@ -8,7 +9,10 @@
 #include <QFile>
 #include <archive.h>
 #include <archive_entry.h>
+#include <csignal>
 #include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace prova;
@@ -107,6 +111,76 @@ TEST_F(Copia, SopraSalvaPrimaQuellaCheCE) {
     copia = sala + u'/' + prima.first();
     ASSERT_TRUE(ripristina(percorso(u"prima"_s)).riuscito);
     EXPECT_EQ(vale(percorso(u"prima"_s), nominativo), u"DOPO"_s);
+}
+
+// Whichever step is the last that the process lives to, or that fails: all of the old installation is there again, and
+// the restoring done anew succeeds.
+TEST_F(Copia, SopraRiesceTuttoONiente) {
+    for (const auto &pesante : {u"Immagini"_s, u"Filmati"_s}) // fewer steps
+        QDir(sala + u'/' + pesante).removeRecursively();
+    scrivi(u"impianto/Nuova/sua/nota.txt"_s, "nota");
+    ASSERT_TRUE(salva().riuscito);
+    QDir(sala + u"/Nuova"_s).removeRecursively();
+    scrivi(u"impianto/mia.zvi"_s, "altra playlist");
+    vale(sala, u"UPDATE Configurazione SET Nominativo = 'DOPO'"_s);
+    const QString totem = sala + u"/Totem/TotemZuvora.mdb"_s;
+    sql(totem, u"UPDATE NumerazioneIniziale SET P1 = 77"_s);
+    const auto stato = [&] { // databases by what they hold
+        auto file = istantanea(sala);
+        file.removeIf([](const auto &voce) {
+            return voce.key().contains(u"prima-del-ripristino"_s) || voce.key().contains(u".mdb"_s);
+        });
+        file[u"nominativo"_s] = vale(sala, nominativo).toUtf8();
+        file[u"totem"_s] = sql(totem, u"SELECT P1 FROM NumerazioneIniziale"_s).toUtf8();
+        return file;
+    };
+    const auto prima = stato();
+    const QString guasta = percorso(u"guasta"_s);
+    scrivi(u"guasta"_s, "non una copia");
+    int sospesi = 0;
+    const auto fino = [&](const QString &file, int ultimo, bool uccidi) {
+        int passi = 0;
+        return zuvora::installa::ripristinaInstallazione({file, true, opzioni(sala, false), [&passi, ultimo, uccidi] {
+                                                              if (++passi != ultimo)
+                                                                  return;
+                                                              if (uccidi)
+                                                                  raise(SIGKILL);
+                                                              throw zuvora::installa::Guasto{u"Basta."_s};
+                                                          }});
+    };
+    const auto muore = [&](const QString &file, int ultimo) { // before that step
+        const pid_t figlio = fork();
+        if (figlio == 0)
+            _exit(fino(file, ultimo, true).riuscito ? 0 : 1);
+        int fine = 0;
+        waitpid(figlio, &fine, 0);
+        return WIFSIGNALED(fine);
+    };
+    int riuccisi = 0;
+    for (int ultimo = 1; !fino(copia, ultimo, false).riuscito; ++ultimo) {
+        ASSERT_TRUE(stato() == prima) << "failed at " << ultimo;
+        ASSERT_TRUE(muore(copia, ultimo)) << ultimo;
+        const QString sospeso = verificaInstallazione(sala).difetti.value(0);
+        const bool ameta = sospeso.contains(u"interrotto a metà"_s);
+        if (ameta) {
+            ++sospesi;
+            EXPECT_TRUE(sospeso.contains(u"prima-del-ripristino-"_s)) << qPrintable(sospeso);
+            EXPECT_FALSE(salva().riuscito) << "a mixture is no copy";
+            riuccisi += muore(guasta, 1 + sospesi % 9) ? 1 : 0; // while it is undone
+        } else {
+            EXPECT_EQ(vale(sala, nominativo), u"DOPO"_s) << ultimo;
+        }
+        const Esito rifiuto = fino(guasta, 0, false);
+        EXPECT_FALSE(rifiuto.riuscito);
+        EXPECT_EQ(rifiuto.messaggio.contains(u"prima annullato"_s), ameta) << qPrintable(rifiuto.messaggio);
+        ASSERT_TRUE(stato() == prima) << "killed at " << ultimo;
+    }
+    EXPECT_GT(sospesi, 8) << "the kills must hit";
+    EXPECT_GT(riuccisi, 8);
+    EXPECT_EQ(vale(sala, nominativo), u"L'ATRIO"_s);
+    EXPECT_EQ(leggi(sala + u"/Nuova/sua/nota.txt"_s), "nota");
+    EXPECT_EQ(verificaInstallazione(sala).difetti, QStringList());
+    EXPECT_FALSE(stato().keys().join(u' ').contains(u".zuvora-installa"_s));
 }
 
 // The kiosk's folder elsewhere on this machine comes into the installation.
