@@ -206,6 +206,14 @@ TEST(Apritori, LoSfondoCambiaMentreLaSuaFinestraEAperta) {
     ApritoriTela apritori;
     apritori.sfondo = [&](QWidget *padre, const UsoSfondo &uso) {
         EXPECT_FALSE(uso.imposta(aperta->installazione.archivio()));
+        const QString stesso = aperta->installazione.file(u"nuovo.png"_s);
+        for (const Qt::GlobalColor colore : {Qt::red, Qt::blue}) { // the same file, drawn anew
+            QImage figura(8, 8, QImage::Format_RGB32);
+            figura.fill(colore);
+            ASSERT_TRUE(figura.save(stesso));
+            EXPECT_TRUE(uso.imposta(stesso));
+            EXPECT_EQ(QColor(aperta->vista()(QPoint(1915, 1075))), QColor(colore));
+        }
         EXPECT_TRUE(uso.imposta(aperta->installazione.file(u"ZuvoraSfondiHD/FH_blu_4post_.jpg"_s)));
         durante = padre->grab().toImage();
         uso.elimina();

@@ -242,7 +242,7 @@ void DesignerEtichetta::scriviBozza() {
 void DesignerEtichetta::togliBozza() {
     if (m_bozzaSuperata)
         *m_bozzaSuperata = true;
-    m_bozza.togli();
+    affidaEAspetta([bozza = m_bozza] { bozza.togli(); });
 }
 
 bool DesignerEtichetta::salvaIn(const QString &file) {

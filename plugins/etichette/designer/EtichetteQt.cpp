@@ -3,10 +3,13 @@
 #include "etichette/biglietto/Record.h"
 #include "etichette/biglietto/Stampante.h"
 #include "etichette/designer/DesignerEtichetta.h"
+#include "etichette/logic/Bozza.h"
 #include "etichette/logic/FileEtichetta.h"
 #include "shell/host/Dialoghi.h"
+#include "shell/logic/Domanda.h"
 
 #include <QFileInfo>
+#include <chrono>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,6 +20,7 @@ constexpr int riuscito = 0;
 constexpr int fallito = -1;
 constexpr int sicuroSi = 0;
 constexpr int sicuroNo = 1;
+constexpr std::chrono::seconds attesaCartella{20}; // a kiosk's folder on the network
 
 QString stampaProva(const QString &stampante, const Etichetta &e, const Valori &valori) {
     return stampa(stampante, e, valori).motivo;
@@ -25,6 +29,20 @@ QString stampaProva(const QString &stampante, const Etichetta &e, const Valori &
 std::optional<Valori> recordDi(const QString &cartella, int n) {
     const RecordLetto letto = leggiRecord(cartella, n);
     return letto.motivo.isEmpty() ? std::optional(letto.valori) : std::nullopt;
+}
+
+// What lies in the kiosk's folder when the designer opens.
+struct Trovato {
+    std::optional<EtichettaLetta> biglietto; // nothing where there is no file
+    std::optional<Etichetta> bozza;
+};
+
+Trovato cerca(const QString &file) {
+    Trovato trovato;
+    if (QFileInfo::exists(file) || QFileInfo(file).isSymLink())
+        trovato.biglietto = leggiEtichetta(file);
+    trovato.bozza = Bozza(file).lasciata();
+    return trovato;
 }
 
 } // namespace
@@ -54,19 +72,23 @@ bool EtichetteQt::conferma(QWidget *finestra, const QString &testo, int sicuro) 
 }
 
 int EtichetteQt::disegna(QWidget *finestra, const QString &titolo, const QString &file) {
+    const auto trovato = chiediEAspetta<Trovato>([file] { return cerca(file); }, attesaCartella);
+    if (!trovato) {
+        m_dialoghi.messaggio(
+            finestra, Dialoghi::Icona::Critica, titoloMessaggi(),
+            u"La cartella del totem non risponde: il biglietto non può essere aperto.\n%1"_s.arg(file));
+        return fallito;
+    }
     Etichetta etichetta = modelliPronti().first().etichetta;
-    if (QFileInfo::exists(file) || QFileInfo(file).isSymLink()) {
-        const EtichettaLetta letta = leggiEtichetta(file);
-        if (!letta.etichetta) {
-            // What can't be read is somebody's work: it is replaced only when the user says so, and then at a save.
-            if (!conferma(finestra,
-                          u"%1 non può essere aperto.\n%2\n\nDisegnare un biglietto nuovo al suo posto ? "
-                          "Il file resta com'è finché il nuovo non viene salvato."_s.arg(file, letta.motivo),
-                          sicuroNo))
-                return fallito;
-        } else {
-            etichetta = *letta.etichetta;
-        }
+    if (const auto &letta = trovato->biglietto; letta && letta->etichetta)
+        etichetta = *letta->etichetta;
+    else if (letta) {
+        // What can't be read is somebody's work: it is replaced only when the user says so, and then at a save.
+        if (!conferma(finestra,
+                      u"%1 non può essere aperto.\n%2\n\nDisegnare un biglietto nuovo al suo posto ? "
+                      "Il file resta com'è finché il nuovo non viene salvato."_s.arg(file, letta->motivo),
+                      sicuroNo))
+            return fallito;
     }
     // Without a record, a variable shows its own name.
     const bool vuoti =
@@ -78,15 +100,14 @@ int EtichetteQt::disegna(QWidget *finestra, const QString &titolo, const QString
     DesignerEtichetta::Mondo mondo{m_dialoghi, stampanti, stampaProva,
                                    [cartella = QFileInfo(file).path()](int n) { return recordDi(cartella, n); }};
     DesignerEtichetta designer(etichetta, Valori(esempio), titolo, file, std::move(mondo), finestra);
-    const Bozza bozza(file);
-    if (const auto lasciata = bozza.lasciata()) {
+    if (trovato->bozza) {
         if (conferma(finestra,
                      u"L'ultima volta il biglietto non è stato chiuso in ordine.\nRiprendere le modifiche "
                      "che non erano state salvate ?"_s,
                      sicuroSi))
-            designer.recupera(*lasciata);
+            designer.recupera(*trovato->bozza);
         else
-            bozza.togli();
+            affidaEAspetta([bozza = Bozza(file)] { bozza.togli(); });
     }
     designer.exec();
     return riuscito;

@@ -71,6 +71,7 @@ private:
     // What a press or a button leads to.
     void lampo(int posto);
     void apriForm2(int posto);
+    bool rileggi(const QString &percorso);
     void apriDecorazione(int indice);
     void apriSfondo();
     void apriAnteprimaTG();

@@ -3,6 +3,7 @@
 #include "designer/forms/Form1.h"
 #include "designer/forms/Form2.h"
 #include "designer/logic/ScritturaLayout.h"
+#include "shell/host/Attesa.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,13 +15,25 @@ void Form1::apriForm2(int posto) {
         .mostraModale();
 }
 
+// A chosen file may have changed since it was read. False when the user called the reading off.
+bool Form1::rileggi(const QString &percorso) {
+    if (percorso.isEmpty())
+        return true;
+    const auto letta =
+        aspettaEsito<QImage>(ambiente(), this, u"Lettura dell'immagine in corso..."_s, m_immagini.lettura(percorso));
+    if (!letta)
+        return false;
+    m_immagini.tieni(percorso, *letta);
+    m_scena.immagini().dimentica(percorso);
+    return true;
+}
+
 void Form1::apriDecorazione(int indice) {
     const auto scelta = m_apritori.decorazione(this, indice);
-    if (!scelta)
+    if (!scelta || !rileggi(scelta->percorso))
         return;
     if (!applicaDecorazione(m_layout, indice, scelta->percorso, scelta->secondoPiano, m_immagini))
         return mostra({u"L'immagine scelta per la decorazione"_s, u"non si trova o non è leggibile."_s});
-    m_scena.immagini().dimentica(scelta->percorso);
     const int posto = DisplayLayout::postoDi(TipoElemento::Image1, indice);
     m_elementi.impila(posto, picHandle.front()->presa());
     aggiorna(posto);
@@ -28,11 +41,9 @@ void Form1::apriDecorazione(int indice) {
 
 void Form1::apriSfondo() {
     const auto imposta = [this](const QString &percorso) {
-        const bool caricata = applicaSfondo(m_layout, percorso, m_immagini);
-        if (caricata) {
-            m_scena.immagini().dimentica(percorso);
+        const bool caricata = rileggi(percorso) && applicaSfondo(m_layout, percorso, m_immagini);
+        if (caricata)
             aggiornaTutto();
-        }
         return caricata;
     };
     m_apritori.sfondo(this, {imposta, [imposta] { imposta({}); }});

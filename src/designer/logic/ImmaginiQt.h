@@ -1,13 +1,14 @@
 #pragma once
 
 #include "designer/logic/Squadra.h"
+#include "shell/logic/Avanzamento.h"
 
 #include <QCache>
-#include <QDateTime>
 #include <QHash>
 #include <QImage>
 #include <QSize>
 #include <QString>
+#include <functional>
 
 namespace zuvora {
 
@@ -22,8 +23,8 @@ public:
 };
 
 // Loads pictures for the canvas: regular files only, format told by content, large ones decoded at a reduced size.
-// What was decoded is kept, so that the canvas gets at once what the reading of a layout has loaded; a file that has
-// changed on disk is decoded again.
+// What was decoded is kept, and so is what could not be, so that the canvas gets at once what the reading of a layout
+// has loaded and its thread asks no disk; a file is read again when it is chosen again.
 class ImmaginiQt final : public CaricatoreImmagini {
 public:
     // Pictures larger than `massimo` (pixels) in either direction are reduced to fit, proportions kept. `fili`: how
@@ -34,21 +35,16 @@ public:
     bool carica(const QString &percorso) override;
     // The picture, null when it can't be loaded.
     QImage immagine(const QString &percorso);
+    // The reading of a file anew, for a thread that nobody may wait for, and the keeping of what came of it.
+    std::function<QImage(Avanzamento &)> lettura(const QString &percorso) const;
+    void tieni(const QString &percorso, const QImage &immagine);
     // For more work on pictures.
     Squadra &squadra() { return m_squadra; }
 
 private:
-    struct Voce {
-        QImage immagine;
-        QDateTime modifica;
-        qint64 byte = 0;
-    };
-    static Voce decodifica(const QString &percorso, QSize massimo);
-    bool attuale(const QString &percorso);
-
     QSize m_massimo;
-    QCache<QString, Voce> m_decodificate; // cost in KiB
-    QHash<QString, std::shared_future<Voce>> m_attese;
+    QCache<QString, QImage> m_decodificate; // cost in KiB
+    QHash<QString, std::shared_future<QImage>> m_attese;
     Squadra m_squadra;
 };
 
