@@ -23,6 +23,8 @@ TEST_F(ProvaCopia, CopiaDellaBaseSuUnLayout) {
              "SELECT rowid*10,'vecchio','/vecchio.gif',1 FROM LayoutBase"_s); // rows correspond by position alone
     const QStringList altra = tabella(u"Layout4"_s);
     CopiaLayout form(i.ambiente, nullptr);
+    form.show();
+    EXPECT_EQ(form.focusWidget()->objectName(), u"L0(0)"_s);
     EXPECT_EQ(premi(form, "Btn(1)"), u"Impossibile copiare un \nLayout su se stesso ! "_s);
     clicca(form, "L0(10)");
     clicca(form, "L1(2)");

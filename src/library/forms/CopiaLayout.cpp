@@ -42,6 +42,7 @@ CopiaLayout::CopiaLayout(const Ambiente &contesto, QWidget *padre)
            [this](int n) { Label3(1).setCaption(nomeLinea(layoutDestinazione(n))); });
     alClic(Btn(1), [this] { copia(); });
     alClic(Btn(0), [this] { scarica(); });
+    L0(0).setFocus(); // the stored choices can't be copied: one of them has to change first
 }
 
 void CopiaLayout::ImpostaSorgente() {
