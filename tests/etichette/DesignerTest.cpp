@@ -160,6 +160,36 @@ TEST_F(Finestra, IlTrascinamentoAgganciaEAltLoSospende) {
     EXPECT_NEAR(salvati()[1].area.x(), 117, 3);
 }
 
+// While the button is down another change comes: the drag is given up, and only what the key does happens.
+TEST_F(Finestra, UnAltraModificaFaRinunciareAlTrascinamento) {
+    const Etichetta pronta = modelliPronti().first().etichetta;
+    for (const int tasto : {Qt::Key_Delete, Qt::Key_Escape})
+        for (const bool mosso : {true, false}) {
+            QFile::remove(ticket);
+            apri(pronta);
+            auto &foglio = trova<Foglio>("foglio");
+            QWidget *vista = foglio.viewport();
+            const QPoint da = foglio.posizioneSuSchermo(0).center();
+            const auto muovi = [&](QPoint a) {
+                QMouseEvent e(QEvent::MouseMove, a, vista->mapToGlobal(a), Qt::NoButton, Qt::LeftButton, {});
+                QApplication::sendEvent(vista, &e);
+            };
+            QTest::mousePress(vista, Qt::LeftButton, {}, da);
+            if (mosso)
+                muovi(da + QPoint(30, 40));
+            QTest::keyClick(&foglio, Qt::Key(tasto));
+            muovi(da + QPoint(60, 80));
+            QTest::mouseRelease(vista, Qt::LeftButton, {}, da + QPoint(60, 80));
+            QList<Oggetto> attesi = pronta.oggetti;
+            if (tasto == Qt::Key_Delete)
+                attesi.removeFirst();
+            const auto oggetti = salvati();
+            ASSERT_EQ(oggetti.size(), attesi.size());
+            for (qsizetype i = 0; i < oggetti.size(); ++i)
+                EXPECT_EQ(oggetti[i].area, attesi[i].area) << tasto << mosso << i;
+        }
+}
+
 TEST_F(Finestra, DentroUnaCorniceSiSceglieQuelloCheCiSta) {
     Etichetta e;
     e.oggetti << nuovoOggetto(TipoOggetto::Testo, QPoint(150, 150))

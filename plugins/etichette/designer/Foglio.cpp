@@ -30,6 +30,7 @@ Foglio::Foglio(Progetto &progetto, QWidget *padre) : QAbstractScrollArea(padre),
     setAcceptDrops(true);
     viewport()->setMouseTracking(true);
     connect(&progetto, &Progetto::cambiato, this, [this] {
+        rinuncia(); // what is dragged may be gone, or be another by its number
         misuraScorrimento();
         const int dpi = m_progetto.carta().dpi;
         if (std::exchange(m_dpi, dpi) != dpi)

@@ -70,6 +70,7 @@ private:
     void dipingiOggetto(QPainter &p, const Progetto::OggettoFermo &oggetto, const QRect &area);
     void disegnaOggetto(QPainter &p, const Oggetto &oggetto, const QRect &area);
     void muovi(const QPoint &pixel, bool libero);
+    void rinuncia();
     void scegliVicino(int di);
     QList<QRect> areeFerme() const;
 

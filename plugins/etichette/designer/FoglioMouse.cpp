@@ -118,6 +118,16 @@ void Foglio::muovi(const QPoint &pixel, bool libero) {
     viewport()->update(prima + regioneInMoto());
 }
 
+// Gives up a drag, also one that a press has only prepared: nothing has moved.
+void Foglio::rinuncia() {
+    if (m_partenza.isEmpty())
+        return;
+    m_gesto = Gesto::Nessuno;
+    m_inMoto.clear();
+    m_partenza.clear();
+    rifai();
+}
+
 void Foglio::mouseMoveEvent(QMouseEvent *e) {
     if ((e->buttons() & Qt::LeftButton) == 0) {
         viewport()->setCursor(cursore(bersaglioIn(e->pos()).presa));
@@ -210,13 +220,8 @@ void Foglio::keyPressEvent(QKeyEvent *e) {
             Q_EMIT modificaChiesta();
         return;
     case Qt::Key_Escape:
-        if (m_gesto == Gesto::Trascina) {
-            m_gesto = Gesto::Nessuno;
-            m_inMoto.clear();
-            m_partenza.clear();
-            rifai();
-            return;
-        }
+        if (!m_partenza.isEmpty())
+            return rinuncia();
         if (!m_progetto.scelti().isEmpty())
             return m_progetto.scegli({});
         break;
