@@ -47,12 +47,7 @@ TEST_F(ProvaPagineChiamata, UnSuonoNuovoPrendeLaFormaDiRete) {
 TEST_F(ProvaPagineChiamata, CancellaPredefinitoEUso) {
     EXPECT_EQ(premi(pannello, "btnDD(1)"), u"DinDon predefinito impostato !"_s);
     EXPECT_EQ(riga(u"dindon"_s), u"\\\\PC-PROVA\\a.wav"_s);
-    EXPECT_EQ(premi(pannello, "btnDD(2)", 0), u"Cancello voce selezionata ?"_s);
-    EXPECT_EQ(suoni().size(), 2);
-    QString esito;
-    guida.messaggio(nullptr, 1).messaggio(&esito);
-    clicca(pannello, "btnDD(2)");
-    EXPECT_EQ(esito, u"Voce cancellata !"_s);
+    EXPECT_EQ(cancella(pannello, "btnDD(2)"), u"Voce cancellata !"_s);
     EXPECT_EQ(suoni().size(), 1);
     EXPECT_EQ(riga(u"dindon"_s), u"\\\\PC-PROVA\\a.wav"_s); // not tied
     EXPECT_TRUE(trova<QCheckBox>(pannello, "CheckBox1").isChecked());

@@ -1,7 +1,6 @@
-// Every save of the room to the database, against what may hinder it; every form, looked at.
+// Every save of the room to the database, against what may hinder it.
 #include "kit/Salvataggi.h"
 #include "Composizione.h"
-#include "calling/forms/Boccuccia.h"
 #include "calling/forms/GestioneUtenti.h"
 #include "calling/forms/UtentiServizi.h"
 #include "calling/logic/Servizi.h"
@@ -52,22 +51,6 @@ TEST(SalvataggiChiamata, UnOstacoloSiDiceENonSiPerdeNulla) {
         {"accensione", "Configurazione", pagina("PushButton1"), preme("cbAutoaccensioneFE")},
         {"postazione", "PostazioneUtente", pagina("PB1(10)"), preme("PosSS(0)")},
     });
-}
-
-TEST(AspettoChiamata, NullaSiTagliaEOgniCampoHaUnNome) {
-    InstallazioneProva i;
-    const std::pair<const char *, Finestra> forme[] = {
-        {"UtentiServizi", servizi(i)},
-        {"GestioneUtenti", apriForm<GestioneUtenti>(i.ambiente, QString(), true, nullptr, nullptr)},
-        {"PaginaDinDon", pagina("PushButton1")(i)},
-        {"PaginaClient", pagina("PB1(10)")(i)},
-        {"Boccuccia", apriForm<Boccuccia>(i.ambiente, nullptr)},
-    };
-    for (const auto &[nome, forma] : forme) {
-        EXPECT_EQ(didascalieTagliate(*forma), QStringList()) << nome;
-        EXPECT_EQ(campiSenzaNome(*forma), QStringList()) << nome;
-        fotografa(*forma, QString::fromLatin1(nome));
-    }
 }
 
 } // namespace

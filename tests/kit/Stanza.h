@@ -80,6 +80,16 @@ struct Stanza : testing::Test {
         QFile file(QDir(i.cartella()).filePath(nome));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(manca)");
     }
+    // Clicks a button that deletes: a first question is refused and nothing goes. Gives what is said after the second.
+    QString cancella(QWidget &radice, const char *bottone) {
+        const QByteArray prima = i.contenuto();
+        EXPECT_EQ(premi(radice, bottone, 0), u"Cancello voce selezionata ?"_s);
+        EXPECT_EQ(i.contenuto(), prima);
+        QString fine;
+        guida.messaggio(nullptr, 1).messaggio(&fine);
+        clic(radice, bottone);
+        return fine;
+    }
     QVariant riga(const QString &colonna) const { return i.valore(u"SELECT "_s + colonna + u" FROM Configurazione"_s); }
     InstallazioneProva i;
     Guida guida;

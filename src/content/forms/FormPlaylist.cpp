@@ -85,6 +85,13 @@ void FormPlaylist::collega() {
     alClic(Command5, [this] { scarica(); });
 }
 
+// The files come after the folders that they follow, not in their place beside the drive.
+void FormPlaylist::attivata() {
+    setTabOrder(&Drive1, &Dir1);
+    setTabOrder(&Dir1, &File1);
+    setTabOrder(&File1, &Command6);
+}
+
 void FormPlaylist::ElencaPlaylist() {
     File2.setPath(cartella());
     if (File2.ListCount() > 0)

@@ -20,6 +20,7 @@ ImpostaFoto::ImpostaFoto(const Ambiente &contesto, QWidget *padre) : FormPlaylis
         if (m_tace && !Image1.guasto().isEmpty())
             Image1.svuota();
     });
+    text1.clear(); // a time that can't be read must not be stored over with another
     proteggi([this] {
         const QString secondi = leggiSecondi(cartella());
         text1.setMaxLength(std::max<int>(massimeCifre, static_cast<int>(secondi.size()))); // a stored time stays whole

@@ -7,6 +7,7 @@ namespace zuvora {
 P1::P1(const Ambiente &contesto, const QString &indirizzo, const QUrl &sito, QWidget *padre)
     : Form(contesto, "P1", "Anteprima Video YT", {10395, 7050}, padre) {
     alClic(ok, [this] { scarica(); });
+    ok.setFocus();
     if (const auto cornice = corniceFilmato(indirizzo, sito))
         wb1.mostraHtml(cornice->html, cornice->provenienza);
     else

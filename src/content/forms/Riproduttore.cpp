@@ -79,7 +79,9 @@ void Riproduttore::costruisci() {
     comandi->addWidget(m_pausa);
     comandi->addWidget(m_posizione, 1);
     comandi->addWidget(m_tempo);
-    comandi->addWidget(new QLabel(u"Volume"_s, this));
+    auto *volume = new QLabel(u"&Volume"_s, this);
+    volume->setBuddy(m_volume);
+    comandi->addWidget(volume);
     comandi->addWidget(m_volume);
     auto *tutto = new QVBoxLayout(this);
     tutto->setContentsMargins(0, 0, 0, 0);

@@ -29,6 +29,7 @@ SalvaNuovoIM::SalvaNuovoIM(const Ambiente &contesto, const TipoPlaylist &tipo, c
     FE.setSoloDigitato();
     FE.setSvuotaAppunti(ambiente().piattaforma, Edit::Svuota::AdOgniTasto);
     FE.setAccessibleName(u"Nome del file"_s);
+    FE.setToolTip(u"Solo lettere minuscole senza accento e cifre"_s);
     PushButton1.setRuolo(Ruolo::Principale);
     alClic(PushButton1, [this] { salva(); });
     alClic(Command5, [this] { scarica(); });

@@ -63,7 +63,6 @@ Browser::Browser(QWidget *padre, const char *nome, const Posto &posto, const Pia
     : Controllo(padre, nome, posto), m_piattaforma(piattaforma), m_pila(new QStackedLayout(this)),
       m_avviso(new QPlainTextEdit(this)) {
     m_avviso->setReadOnly(true);
-    m_avviso->setFrameStyle(QFrame::NoFrame);
     m_avviso->setTabChangesFocus(true);
     m_avviso->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_avviso->document()->setDocumentMargin(margineAvviso);

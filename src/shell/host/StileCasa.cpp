@@ -245,7 +245,11 @@ void StileCasa::drawComplexControl(ComplexControl controllo, const QStyleOptionC
     if (const auto *cursore = qstyleoption_cast<const QStyleOptionSlider *>(opzione)) {
         QStyleOptionSlider copia = *cursore;
         copia.palette = conBordoVisibile(copia.palette);
+        if (!ha(opzione, State_Enabled))
+            copia.palette.setColor(QPalette::Highlight, tavolozza::bordo);
         QProxyStyle::drawComplexControl(controllo, &copia, pittore, w);
+        if (controllo == CC_Slider && ha(opzione, State_HasFocus))
+            disegnaAnello(*pittore, subControlRect(CC_Slider, &copia, SC_SliderHandle, w));
         return;
     }
     if (const auto *numero = qstyleoption_cast<const QStyleOptionSpinBox *>(opzione)) {
