@@ -97,11 +97,15 @@ TEST_F(ProvaImpostatotem, PaletteAndBoxAreTwoViewsOfOneColour) {
 }
 
 TEST_F(ProvaImpostatotem, ThePathComesFromItsFormOnlyWhenConfirmed) {
-    i.dialoghi.cartelle = {u"/altro totem"_s, u"/altro totem"_s};
+    const QString altro =
+        u"\\\\ALTRO-SERVER\\archivi_dell_ospedale\\"_s + u"sala_d'attesa_al_piano_terra\\"_s.repeated(3);
+    i.dialoghi.cartelle = {altro, altro};
     // In one step: the form asks the disk before its dialog comes.
     const auto scegliE = [this](const char *bottone) {
         guida.quando("ImpoRete", [bottone](QWidget &w) {
             clicca(w, "cbt(1)");
+            EXPECT_EQ(didascalieTagliate(w), QStringList());
+            EXPECT_EQ(w.focusWidget(), &trova<QWidget>(w, "cbt(2)")) << "Enter confirms what was chosen";
             clicca(w, bottone);
         });
     };
@@ -110,7 +114,7 @@ TEST_F(ProvaImpostatotem, ThePathComesFromItsFormOnlyWhenConfirmed) {
     EXPECT_EQ(casella("PRT").text(), i.file(u"Totem"_s));
     scegliE("cbt(2)");
     clic("PercorsoTotem");
-    EXPECT_EQ(casella("PRT").text(), u"/altro totem"_s);
+    EXPECT_EQ(casella("PRT").text(), altro);
     EXPECT_EQ(riga(u"PercorsoReteTotem"_s), i.file(u"Totem"_s));
 
     i.esegui(u"UPDATE ConfigurazioneTotem SET PercorsoReteTotem=NULL"_s);
@@ -118,7 +122,7 @@ TEST_F(ProvaImpostatotem, ThePathComesFromItsFormOnlyWhenConfirmed) {
     guida.premi("ImpoRete", "cbt(2)").messaggio(&righe).premi("ImpoRete", "cbt(0)");
     clic("PercorsoTotem");
     EXPECT_EQ(righe, u"Selezionare un Percorso per gli archivi !"_s);
-    EXPECT_EQ(casella("PRT").text(), u"/altro totem"_s);
+    EXPECT_EQ(casella("PRT").text(), altro);
 }
 
 TEST_F(ProvaImpostatotem, ThePreviewGetsTheScreenOfTheForm) {
