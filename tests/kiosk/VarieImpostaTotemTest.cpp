@@ -180,9 +180,13 @@ TEST_F(ProvaImpostazione, TakingTheFocusEmptiesTheClipboardAndSelectsAll) {
     QTest::keyClick(form->focusWidget(), Qt::Key_Tab);    // to the first number
     EXPECT_EQ(form->focusWidget(), &casella("NumIniz(1)"));
     EXPECT_EQ(i.piattaforma.appuntiSvuotati, prima);
-    QTest::mouseClick(&casella("Modifnr(2)"), Qt::LeftButton);
+    QTest::keyClick(form->focusWidget(), Qt::Key_Tab); // to the next line, not to the column's button
+    EXPECT_EQ(form->focusWidget(), &casella("Modifnr(2)"));
     EXPECT_EQ(i.piattaforma.appuntiSvuotati, prima + 1);
     EXPECT_EQ(casella("Modifnr(2)").selectedText(), u"0"_s);
+    QTest::mouseClick(&casella("Modifnr(3)"), Qt::LeftButton);
+    EXPECT_EQ(i.piattaforma.appuntiSvuotati, prima + 2);
+    EXPECT_EQ(casella("Modifnr(3)").selectedText(), u"0"_s);
 }
 
 TEST_F(ProvaImpostazione, AWriteThatFailsIsToldAndKeepsWhatWasTyped) {
