@@ -29,7 +29,7 @@ constexpr std::array riferimenti{
     Riferimento{"Configurazione"_L1, "playlistFoto"_L1},
     Riferimento{"Configurazione"_L1, "playlistVideo"_L1},
     Riferimento{"Configurazione"_L1, "cartellamp3"_L1, Atteso::Cartella},
-    Riferimento{"ConfigurazioneTotem"_L1, "SfondoTotem"_L1, Atteso::Immagine},
+    Riferimento{"ConfigurazioneTotem"_L1, "SfondoTotem"_L1, Atteso::SfondoTotem},
     Riferimento{"Servizi"_L1, "Percorsofoto"_L1, Atteso::Immagine},
     Riferimento{"DinDon"_L1, "DinDon"_L1},
 };

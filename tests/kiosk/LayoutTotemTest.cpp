@@ -4,6 +4,7 @@
 #include "kit/InstallazioneProva.h"
 
 #include <QFile>
+#include <QScreen>
 #include <QSet>
 #include <QTest>
 
@@ -35,6 +36,16 @@ protected:
         auto &etichetta = trova<Label>(form, "Avviso");
         return etichetta.isVisibleTo(&form) ? etichetta.Caption() : QString();
     }
+    // The colours that stand where a part of the form is.
+    static QSet<QRgb> tinte(LayoutTotem &form, const char *nome) {
+        const QImage vista = form.grab().toImage();
+        const QRect posto = trova<QWidget>(form, nome).geometry() & vista.rect();
+        QSet<QRgb> trovate;
+        for (int y = posto.top(); y <= posto.bottom(); y += 2)
+            for (int x = posto.left(); x <= posto.right(); ++x)
+                trovate << vista.pixel(x, y);
+        return trovate;
+    }
     InstallazioneProva i;
 };
 
@@ -50,6 +61,31 @@ TEST_F(ProvaLayoutTotem, PlacesTitleDateAndButtons) {
     EXPECT_EQ(data.geometry().right() + 1, (19200 - 240) / 15);
     EXPECT_EQ(data.Caption(), dataInParole(QDate::currentDate()));
     EXPECT_EQ(avviso(form), QString());
+}
+
+TEST_F(ProvaLayoutTotem, TextsHaveTheStoredLook) {
+    sfondo({});
+    const auto bottone1 = [this](const char *colore) {
+        i.esegui(u"UPDATE ConfigurazioneTotem SET FontForecolor='%1',FontSize='60'"_s.arg(QLatin1String(colore)));
+        LayoutTotem form(i.ambiente, richiesta(1), nullptr);
+        return tinte(form, "Bottone(1)");
+    };
+    EXPECT_TRUE(bottone1("255").contains(qRgb(255, 0, 0)));
+    EXPECT_TRUE(bottone1("").contains(qRgb(0, 0, 0))) << "an empty colour leaves the button's own";
+    i.esegui(u"UPDATE ConfigurazioneTotem SET FontTitolo='Verdana',FontSizeTitolo='33',FontForecolorTitolo='255',"
+             "FontBoldTitolo=1,FontItalicTitolo=0,FontData='Courier',FontSizeData='22',FontForecolorData='65280',"
+             "FontBoldData=0,FontItalicData=1,FontSize='grande'"_s);
+    LayoutTotem form(i.ambiente, richiesta(1), nullptr);
+    const std::tuple<const char *, const char *, QColor> casi[] = {{"TitoloTXT", "Verdana 33 1 0", Qt::red},
+                                                                   {"Label1", "Courier 22 0 1", Qt::green}};
+    for (const auto &[nome, atteso, colore] : casi) {
+        const auto &etichetta = trova<Label>(form, nome);
+        const QFont f = etichetta.font();
+        EXPECT_EQ(u"%1 %2 %3 %4"_s.arg(f.family()).arg(f.pointSize()).arg(f.bold()).arg(f.italic()),
+                  QLatin1String(atteso));
+        EXPECT_EQ(etichetta.palette().color(QPalette::WindowText), colore) << nome;
+    }
+    EXPECT_TRUE(avviso(form).contains(u"misura del font dei pulsanti"_s));
 }
 
 TEST_F(ProvaLayoutTotem, TheBoxesOfTheSettingsHideTitleAndDate) {
@@ -133,19 +169,10 @@ TEST_F(ProvaLayoutTotem, ThePictureStandsAtItsOwnSize) {
 TEST_F(ProvaLayoutTotem, ButtonsTextsAndNoticeStandInThePicture) {
     sfondo({});
     LayoutTotem form(i.ambiente, richiesta(15), nullptr);
-    const QImage vista = form.grab().toImage();
-    const auto tinte = [&](const char *nome) {
-        QSet<QRgb> trovate;
-        const QRect posto = trova<QWidget>(form, nome).geometry() & vista.rect();
-        for (int y = posto.top(); y <= posto.bottom(); y += 2)
-            for (int x = posto.left(); x <= posto.right(); ++x)
-                trovate << vista.pixel(x, y);
-        return trovate;
-    };
     for (const char *nome : {"Bottone(1)", "Bottone(15)", "TitoloTXT", "Label1", "Avviso"})
-        EXPECT_GT(tinte(nome).size(), 4) << nome << " has no text";
-    EXPECT_TRUE(tinte("Bottone(9)").contains(qRgb(0xF4, 0xF7, 0xFB)));
-    EXPECT_TRUE(tinte("Avviso").contains(qRgb(0xFF, 0xF4, 0xC4)));
+        EXPECT_GT(tinte(form, nome).size(), 4) << nome << " has no text";
+    EXPECT_TRUE(tinte(form, "Bottone(9)").contains(qRgb(0xF4, 0xF7, 0xFB)));
+    EXPECT_TRUE(tinte(form, "Avviso").contains(qRgb(0xFF, 0xF4, 0xC4)));
 }
 
 TEST_F(ProvaLayoutTotem, NamesAreWrappedAndNeverCut) {
@@ -171,6 +198,7 @@ TEST_F(ProvaLayoutTotem, IsMovedByAnyPlaceOfIt) {
     LayoutTotem form(i.ambiente, richiesta(3), nullptr);
     form.show();
     const QPoint prima = form.pos();
+    EXPECT_EQ(prima, form.screen()->availableGeometry().topLeft()) << "larger than the monitor, with its frame in view";
     QWidget *bersaglio = form.childAt(600, 400);
     EXPECT_EQ(bersaglio, nullptr) << "a press on a button reaches the window";
     QTest::mousePress(&form, Qt::LeftButton, {}, {600, 400});

@@ -50,6 +50,8 @@ TEST_F(Numeri, TheFirstNumbersAreWrittenTogetherOrNotAtAll) {
 TEST_F(Numeri, TheKioskIsMissingOnlyWhenItsFileOrFolderIs) {
     EXPECT_FALSE(totemRaggiungibile(cartella() + u"/TotemZuvora.mdb"_s));
     EXPECT_FALSE(totemRaggiungibile(u"/TotemZuvora.mdb"_s)) << "no path is set";
+    for (const int numero : {76, 3024, 3044})
+        EXPECT_TRUE(percorsoMancante(static_cast<Errore>(numero))) << numero;
     QFile file(totem());
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("no database, but a text that is long enough to be taken for one at first sight");

@@ -37,13 +37,21 @@ TEST_F(Totem, EveryColumnGoesToItsBoxAndBack) {
     EXPECT_EQ(mostrati(a).join(u'|'), piena.toString());
     EXPECT_EQ(a.servizi(), (QStringList{u"Cassa"_s, u""_s}));
 
+    // What the boxes show is saved, whatever another program wrote meanwhile.
+    imposta(u"TitoloTotem='altro',TestoVisibile=0"_s);
+    a.salva(a.contenuto());
+    EXPECT_EQ(riga(), piena.toString());
+
     // Every box gets a value of its own; the row must hold them column by column.
     ContenutoTotem adesso;
-    const QStringList valori = u"1|/q|/r|T|A|1|11|0|1|B|2|22|1|0|C|3|33|0|0|0|1"_s.split(u'|');
+    const QStringList valori = u"3|/q|/r|T|A|1|11|0|1|B|2|22|1|0|C|3|33|0|0|0|1"_s.split(u'|');
     for (std::size_t i = 0; i < colonneTotem.size(); ++i)
         adesso[static_cast<CampoTotem>(i)] = valori[static_cast<int>(i)];
     a.salva(adesso);
     EXPECT_EQ(riga(), valori.join(u'|'));
+    RigaTotem dopo(cartella());
+    dopo.carica();
+    EXPECT_EQ(mostrati(dopo), valori);
 }
 
 TEST_F(Totem, NullShowsAnEmptyBoxButASizeItsFirstValue) {
@@ -112,19 +120,20 @@ TEST_F(Totem, AFileThatGoesDuringTheLoadEmptiesThePathInTheBoxAloneAnotherFailur
 }
 
 TEST_F(Totem, AnOlderDatabaseGainsItsTwoColumns) {
-    for (const bool entrambe : {true, false}) {
-        esegui(zuvora(), u"ALTER TABLE ConfigurazioneTotem DROP COLUMN DataVisibile"_s);
-        if (entrambe)
-            esegui(zuvora(), u"ALTER TABLE ConfigurazioneTotem DROP COLUMN TestoVisibile"_s);
+    const std::vector<std::pair<QStringList, QString>> casi = {{{u"DataVisibile"_s, u"TestoVisibile"_s}, u"|0|0"_s},
+                                                               {{u"DataVisibile"_s}, u"|1|0"_s},
+                                                               {{u"TestoVisibile"_s}, u"|0|1"_s}};
+    for (const auto &[mancanti, mostrate] : casi) {
+        for (const QString &colonna : mancanti)
+            esegui(zuvora(), u"ALTER TABLE ConfigurazioneTotem DROP COLUMN "_s + colonna);
         RigaTotem a(cartella());
         a.carica();
         EXPECT_FALSE(a.guasto());
-        EXPECT_EQ(mostrati(a).join(u'|'),
-                  QString(piena.toString()).replace(u"|1|1|1|0"_s, entrambe ? u"|1|1|0|0"_s : u"|1|1|1|0"_s));
+        EXPECT_EQ(mostrati(a).join(u'|'), piena.chopped(4).toString() + mostrate);
         EXPECT_EQ(esegui(zuvora(), u"SELECT name, type FROM pragma_table_info('ConfigurazioneTotem') "
                                    "WHERE name LIKE '%Visibile' ORDER BY name DESC"_s),
                   (QStringList{u"TestoVisibile|BOOLEAN"_s, u"DataVisibile|BOOLEAN"_s}));
-        imposta(u"TestoVisibile=1"_s);
+        imposta(u"TestoVisibile=1,DataVisibile=1"_s);
     }
 }
 
@@ -136,6 +145,12 @@ TEST_F(Totem, AMissingOldColumnEndsTheLoadWithTheBoxesFilledSoFar) {
     EXPECT_EQ(a.guasto()->numero(), Errore::ColonnaNonTrovata);
     EXPECT_EQ(a.contenuto()[CampoTotem::FontTitolo], u"Tahoma"_s);
     EXPECT_EQ(a.contenuto()[CampoTotem::FontSize], u"10"_s);
+
+    esegui(zuvora(), u"ALTER TABLE Servizi RENAME TO Altri"_s);
+    RigaTotem b(cartella());
+    b.carica();
+    EXPECT_TRUE(b.guasto()) << "no services for another reason than that none is active";
+    EXPECT_EQ(b.contenuto()[CampoTotem::PercorsoReteTotem], u"/totem"_s);
 }
 
 TEST_F(Totem, WithoutItsRowNothingOpensAndNothingIsWritten) {
@@ -146,17 +161,43 @@ TEST_F(Totem, WithoutItsRowNothingOpensAndNothingIsWritten) {
 }
 
 TEST_F(Totem, TheLookIsTheStoredRow) {
-    imposta(u"FontSize='19,5',FontForecolorData=NULL,FontSizeTitolo='grande',FontForecolor='',FontSizeData='1e30',"
-            "FontTitolo=NULL"_s);
+    imposta(u"FontTitolo=NULL,FontSizeTitolo='grande',FontForecolorData='rosso',FontForecolor=''"_s);
     const AspettoTotem aspetto = leggiAspetto(cartella());
-    EXPECT_EQ(aspetto.stilePulsanti.misura, 20);
-    EXPECT_FALSE(aspetto.stilePulsanti.coloreDato);
-    EXPECT_EQ(aspetto.stileData.colore, 0);
     EXPECT_EQ(aspetto.stileTitolo.font, u"Arial"_s);
     EXPECT_EQ(aspetto.stileTitolo.colore, 255);
     EXPECT_TRUE(aspetto.stileTitolo.grassetto);
-    EXPECT_EQ(aspetto.rifiutati, (QStringList{u"FontSizeTitolo"_s, u"FontSizeData"_s}));
-    EXPECT_EQ(aspetto.stileTitolo.misura, 10);
+    EXPECT_FALSE(aspetto.stileTitolo.italico);
+    EXPECT_FALSE(aspetto.stileData.grassetto);
+    EXPECT_TRUE(aspetto.stileData.italico);
+    EXPECT_FALSE(aspetto.stilePulsanti.coloreDato);
+    EXPECT_EQ(aspetto.rifiutati, (QStringList{u"misura del font del titolo"_s, u"colore della data"_s}));
+}
+
+TEST_F(Totem, SizesAndColoursBecomeWholeNumbersWithinTheirBounds) {
+    struct Caso {
+        const char *assegno;
+        int atteso;
+        bool rifiutato = false;
+    };
+    for (const Caso &caso : std::initializer_list<Caso>{{"FontSize='19,5'", 20},
+                                                        {"FontSize='18,5'", 18},
+                                                        {"FontSize=NULL", 10},
+                                                        {"FontSize='0'", 10, true},
+                                                        {"FontSize='1000'", 1000},
+                                                        {"FontSize='1001'", 10, true},
+                                                        {"FontSize='1e30'", 10, true},
+                                                        {"FontForecolor='-5'", -5},
+                                                        {"FontForecolor=NULL", 0},
+                                                        {"FontForecolor='3e9'", 0, true}}) {
+        imposta(u"FontSize='12',FontForecolor='12'"_s);
+        imposta(QString::fromLatin1(caso.assegno));
+        const AspettoTotem aspetto = leggiAspetto(cartella());
+        const StileTotem &stile = aspetto.stilePulsanti;
+        EXPECT_EQ(QLatin1String(caso.assegno).startsWith(u"FontSize"_s) ? stile.misura : stile.colore, caso.atteso)
+            << caso.assegno;
+        EXPECT_EQ(!aspetto.rifiutati.isEmpty(), caso.rifiutato) << caso.assegno;
+        EXPECT_TRUE(stile.coloreDato) << caso.assegno;
+    }
 }
 
 TEST(DataTotem, IsInItalianWords) {

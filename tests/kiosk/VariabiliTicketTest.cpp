@@ -27,6 +27,7 @@ TEST(VariabileTicket, TakesItsTypeFromTheValue) {
         {u"BYTE"_s, qlonglong{5}, u"5"_s, TipoEtichetta::Testo},
         {u"DATE"_s, u"2013-10-03"_s, u"41550"_s, TipoEtichetta::Data},
         {u"DATETIME"_s, u"2013-10-03 12:00:00"_s, u"41550.5"_s, TipoEtichetta::Data},
+        {u"DATETIME"_s, u"2013-10-03 08:10:00"_s, u"41550.34"_s, TipoEtichetta::Data}, // single precision
         {u"DATETIME"_s, u"18:00:00"_s, u"0.75"_s, TipoEtichetta::Data},
         {u"TIME"_s, u"06:00"_s, u"0.25"_s, TipoEtichetta::Data},
         {u"DATE"_s, u"1899-12-29"_s, u"-1"_s, TipoEtichetta::Data},

@@ -99,6 +99,21 @@ TEST_F(ProvaVarie, AKioskThatGoesAwayBeforeTheClickClosesTheForm) {
     }
 }
 
+TEST_F(ProvaVarie, AClickDuringTheTestWaitsForItsEnd) {
+    const auto sistema = std::make_shared<FintoSistema>();
+    sistema->albero[totem()] = Specie::File;
+    sistema->muta = totem();
+    i.ambiente.percorsi = Percorsi(sistema);
+    VarieImpostaTotem form(i.ambiente, nullptr);
+    guida.quando("VarieImpostaTotem", [&](QWidget &w) {
+        QTest::mouseClick(&trova<QWidget>(w, "PB1(3)"), Qt::LeftButton);
+        sistema->risveglia();
+    });
+    guida.premi("Impostazione", "PB1(0)");
+    guida.quando("VarieImpostaTotem", [](QWidget &w) { QTest::keyClick(&w, Qt::Key_Escape); });
+    form.mostraModale();
+}
+
 TEST_F(ProvaVarie, TheTicketDesignerGetsItsCallsInOrder) {
     QStringList chiamate;
     std::function<void()> durante = [] {};
@@ -135,6 +150,7 @@ TEST_F(ProvaVarie, WithoutTheDesignerASentenceSaysSo) {
 class ProvaImpostazione : public ProvaVarie {
 protected:
     void SetUp() override {
+        i.esegui(u"UPDATE Servizi SET Servizio='Esami' WHERE ID=3"_s);
         form = std::make_unique<Impostazione>(i.ambiente, i.file(u"Totem"_s), nullptr);
         form->show();
         form->activateWindow();
@@ -150,6 +166,8 @@ protected:
 };
 
 TEST_F(ProvaImpostazione, EnterWritesTheOneNumber) {
+    EXPECT_EQ(trova<Label>(*form, "Label2(3)").Caption(), u"Esami"_s);
+    EXPECT_EQ(casella("Modifnr(3)").accessibleName(), u"Numero attuale, Esami"_s);
     scrivi("Modifnr(3)", "4x2");
     QTest::keyClick(&casella("Modifnr(3)"), Qt::Key_Enter, Qt::KeypadModifier);
     EXPECT_EQ(i.dialoghi.unicoMessaggio(), u"Numero Modificato !"_s);
@@ -180,9 +198,13 @@ TEST_F(ProvaImpostazione, TakingTheFocusEmptiesTheClipboardAndSelectsAll) {
     QTest::keyClick(form->focusWidget(), Qt::Key_Tab);    // to the first number
     EXPECT_EQ(form->focusWidget(), &casella("NumIniz(1)"));
     EXPECT_EQ(i.piattaforma.appuntiSvuotati, prima);
-    QTest::mouseClick(&casella("Modifnr(2)"), Qt::LeftButton);
+    QTest::keyClick(form->focusWidget(), Qt::Key_Tab); // to the next line, not to the column's button
+    EXPECT_EQ(form->focusWidget(), &casella("Modifnr(2)"));
     EXPECT_EQ(i.piattaforma.appuntiSvuotati, prima + 1);
     EXPECT_EQ(casella("Modifnr(2)").selectedText(), u"0"_s);
+    QTest::mouseClick(&casella("Modifnr(3)"), Qt::LeftButton);
+    EXPECT_EQ(i.piattaforma.appuntiSvuotati, prima + 2);
+    EXPECT_EQ(casella("Modifnr(3)").selectedText(), u"0"_s);
 }
 
 TEST_F(ProvaImpostazione, AWriteThatFailsIsToldAndKeepsWhatWasTyped) {

@@ -86,6 +86,18 @@ TEST_F(ProvaSfondo, UnaImmagineIllegibileNonCambiaNulla) {
         EXPECT_TRUE(premi(*form, "PushButton1").startsWith(u"Impossibile caricare"_s));
         EXPECT_TRUE(impostati.isEmpty());
     }
+    // One that would fit into a layout, but not at its own size into the memory.
+    QFile enorme(u"aa.jpg"_s);
+    ASSERT_TRUE(enorme.open(QIODevice::WriteOnly));
+    enorme.write(QByteArray::fromHex("89504E470D0A1A0A 0000000D 49484452 00004E20 00004E20 0802000000 6C12D16E"
+                                     "00000000 49444154 35AF061E 00000000 49454E44 AE426082"));
+    enorme.close();
+    const auto totem = apri(ModoSfondo::SfondoTotem);
+    scegli(*totem, 0);
+    EXPECT_TRUE(premi(*totem, "PushButton1").contains(u"20000 x 20000"_s));
+    EXPECT_TRUE(impostati.isEmpty());
+    enorme.remove();
+
     riesce = false;
     const auto form = apri(ModoSfondo::Layout);
     scegli(*form, 0);

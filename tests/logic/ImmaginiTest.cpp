@@ -147,6 +147,7 @@ TEST_F(Immagini, QuelleTroppoGrandiNonSonoIllegibili) {
              {png("49484452 00004E20 00004E20 0802000000 6C12D16E"), u"20000 x 20000"_s, true}}) {
         const QString motivo = u"L'immagine è troppo grande (%1 punti)."_s.arg(misura);
         EXPECT_EQ(difettoImmagine(metti(byte)), ridotta ? QString() : motivo) << misura.toStdString();
+        EXPECT_EQ(difettoImmagine(metti(byte), Lettura::Ritaglio), motivo);
         EXPECT_EQ(leggiRitaglio(metti(byte), stanza).motivo, motivo);
     }
 }

@@ -16,6 +16,9 @@ const QString daImpostare = u"Percorso da impostare!"_s;
 
 ImpoRete::ImpoRete(const Ambiente &contesto, QWidget *padre)
     : Form(contesto, "ImpoRete", "Impostazione Percorso di Rete Server del Totem", {7215, 1905}, padre) {
+    txtshortcutdir.setPercorso(true);
+    cbt(2).setRuolo(Ruolo::Principale);
+    cbt(1).setFocus(); // to choose comes before to confirm
     alClic(cbt(1), [this] { ScegliCartellaTotem(); });
     alClic(cbt(2), [this] { confermaPercorso(); });
     alClic(cbt(0), [this] { scarica(); });
@@ -34,8 +37,10 @@ void ImpoRete::ScegliCartellaTotem() {
     // The dialog would hang on a folder that doesn't answer.
     const auto attuale = ambiente().percorsi.chiediEAspetta(txtshortcutdir.Caption());
     const QString prima = attuale.specie == Specie::Cartella ? attuale.percorso : QString();
-    if (const auto scelta = ambiente().dialoghi.scegliCartella(this, u"Selezionare la cartella"_s, prima))
+    if (const auto scelta = ambiente().dialoghi.scegliCartella(this, u"Selezionare la cartella"_s, prima)) {
         txtshortcutdir.setCaption(*scelta);
+        cbt(2).setFocus();
+    }
 }
 
 void ImpoRete::confermaPercorso() {

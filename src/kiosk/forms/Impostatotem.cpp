@@ -107,8 +107,6 @@ void Impostatotem::mostra() {
         else
             legame.spunta->setChecked(caricato[legame.campo] == u"1"_s);
     }
-    for (GruppoFont *font : {&m_titolo, &m_data, &m_pulsanti})
-        font->mostraColore();
     if (const QString &schermo = caricato[CampoTotem::RisoluzioneTotem]; !schermo.isEmpty()) {
         m_schermo.setScelto(schermo.toInt());
         scegliSchermo(schermo.toInt());

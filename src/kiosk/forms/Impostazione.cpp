@@ -60,6 +60,12 @@ Impostazione::Impostazione(const Ambiente &contesto, const QString &cartellaTote
     leggi();
 }
 
+// The tall button comes after the column that it writes, not after its first line.
+void Impostazione::attivata() {
+    setTabOrder(&NumIniz(serviziNumerati), &Salvain);
+    setTabOrder(&Salvain, &PB1_0);
+}
+
 // A kiosk that doesn't answer must not freeze the window: it is asked off the thread, and no key or click gets through
 // meanwhile.
 template <class F> void Impostazione::conTotem(F lavoro) {

@@ -12,6 +12,7 @@ public:
     Impostazione(const Ambiente &ambiente, const QString &cartellaTotem, QWidget *padre);
 
 protected:
+    void attivata() override;
     bool puoScaricarsi() override { return !m_occupata; }
 
 private:

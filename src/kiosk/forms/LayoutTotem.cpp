@@ -68,8 +68,9 @@ LayoutTotem::LayoutTotem(const Ambiente &contesto, const RichiestaAnteprima &ric
     if (richiesta.schermo && schermiTotem.at(std::size_t(*richiesta.schermo)).larghezza > 0)
         DisponiPulsanti(*richiesta.schermo);
     else
-        avverti(u"Nessuna disposizione dei pulsanti per questa risoluzione: scegliere 1280 x 1024, 1920 x 1080 o "
-                "1440 x 900."_s);
+        avverti((richiesta.schermo ? u"Nessuna disposizione dei pulsanti per questa risoluzione"_s
+                                   : u"Nessuna risoluzione scelta"_s) +
+                u": scegliere 1280 x 1024, 1920 x 1080 o 1440 x 900."_s);
     if (!m_aspetto.rifiutati.isEmpty())
         avverti(u"Valori che non si possono usare, e valgono quelli consueti: "_s + m_aspetto.rifiutati.join(u", "_s) +
                 u'.');

@@ -16,14 +16,16 @@ namespace {
 
 struct ColonneStile {
     CampoTotem font, misura, colore, grassetto, italico;
+    QStringView di; // ends the names of its boxes
 };
 
-constexpr ColonneStile perTitolo = {CampoTotem::FontTitolo, CampoTotem::FontSizeTitolo, CampoTotem::FontForecolorTitolo,
-                                    CampoTotem::FontBoldTitolo, CampoTotem::FontItalicTitolo};
-constexpr ColonneStile perData = {CampoTotem::FontData, CampoTotem::FontSizeData, CampoTotem::FontForecolorData,
-                                  CampoTotem::FontBoldData, CampoTotem::FontItalicData};
-constexpr ColonneStile perPulsanti = {CampoTotem::Font, CampoTotem::FontSize, CampoTotem::FontForecolor,
-                                      CampoTotem::FontBold, CampoTotem::FontItalic};
+constexpr ColonneStile perTitolo = {CampoTotem::FontTitolo,          CampoTotem::FontSizeTitolo,
+                                    CampoTotem::FontForecolorTitolo, CampoTotem::FontBoldTitolo,
+                                    CampoTotem::FontItalicTitolo,    u"del titolo"};
+constexpr ColonneStile perData = {CampoTotem::FontData,     CampoTotem::FontSizeData,   CampoTotem::FontForecolorData,
+                                  CampoTotem::FontBoldData, CampoTotem::FontItalicData, u"della data"};
+constexpr ColonneStile perPulsanti = {CampoTotem::Font,     CampoTotem::FontSize,   CampoTotem::FontForecolor,
+                                      CampoTotem::FontBold, CampoTotem::FontItalic, u"dei pulsanti"};
 
 constexpr int misuraMassima = 1000; // points; larger letters fill no screen
 
@@ -41,21 +43,21 @@ public:
 
     void leggi(StileTotem &stile, const ColonneStile &colonne) {
         stile.font = m_riga.testo(colonna(colonne.font).nome, u"Arial"_s);
-        numero(stile.misura, colonne.misura, u"10"_s, 1, misuraMassima);
+        if (!numero(stile.misura, colonne.misura, u"10"_s, 1, misuraMassima))
+            m_aspetto.rifiutati << u"misura del font %1"_s.arg(colonne.di);
         stile.coloreDato = m_riga.testo(colonna(colonne.colore).nome, u"0"_s) != QString();
-        if (stile.coloreDato)
-            numero(stile.colore, colonne.colore, u"0"_s, std::numeric_limits<int>::min(),
-                   std::numeric_limits<int>::max());
+        if (stile.coloreDato && !numero(stile.colore, colonne.colore, u"0"_s, std::numeric_limits<int>::min(),
+                                        std::numeric_limits<int>::max()))
+            m_aspetto.rifiutati << u"colore %1"_s.arg(colonne.di);
         stile.grassetto = m_riga.vero(colonna(colonne.grassetto).nome);
         stile.italico = m_riga.vero(colonna(colonne.italico).nome);
     }
 
 private:
-    void numero(int &valore, CampoTotem campo, const QString &seNull, double minimo, double massimo) {
-        if (const auto letto = interoFra(m_riga.testo(colonna(campo).nome, seNull), minimo, massimo))
-            valore = *letto;
-        else
-            m_aspetto.rifiutati << colonna(campo).nome.toString();
+    bool numero(int &valore, CampoTotem campo, const QString &seNull, double minimo, double massimo) {
+        const auto letto = interoFra(m_riga.testo(colonna(campo).nome, seNull), minimo, massimo);
+        valore = letto.value_or(valore);
+        return letto.has_value();
     }
 
     const Riga &m_riga;

@@ -24,7 +24,7 @@ struct AspettoTotem {
     StileTotem stileTitolo;
     StileTotem stileData;
     StileTotem stilePulsanti;
-    QStringList rifiutati; // columns whose text is no number: the value above is the usual one
+    QStringList rifiutati; // boxes whose text is no number that serves: the value above is the usual one
 };
 
 // Throws EngineError.

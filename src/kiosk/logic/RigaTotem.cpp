@@ -145,10 +145,8 @@ void RigaTotem::scrivi(const ContenutoTotem &adesso, QList<CampoTotem> campi) {
     if (valori.isEmpty())
         return;
     scriviRiga(m_cartella, tabellaTotem.toString(), valori);
-    for (const CampoTotem campo : std::as_const(campi)) {
-        m_contenuto[campo] = adesso[campo];
+    for (const CampoTotem campo : std::as_const(campi))
         m_mostrati.set(indice(campo));
-    }
 }
 
 void AggiungiColonneTotem(const QString &cartella) {

@@ -57,7 +57,9 @@ void ImpostaSfondo::imposta() {
     const bool totem = m_modo == ModoSfondo::SfondoTotem;
     if (SfondoScelto.isEmpty() && totem)
         return;
-    if (!SfondoScelto.isEmpty() && avvisaSeIllegibile(ambiente(), SfondoScelto, this))
+    // The kiosk's screen shows it at its own size, which asks for more memory than fitting it into a layout.
+    const Lettura uso = totem ? Lettura::Ritaglio : Lettura::Ridotta;
+    if (!SfondoScelto.isEmpty() && avvisaSeIllegibile(ambiente(), SfondoScelto, this, uso))
         return;
     if (m_uso.imposta(totem ? ambiente().percorsi.diRete(SfondoScelto) : SfondoScelto))
         PushButton1.spunta();

@@ -97,6 +97,8 @@ void Form::mostraModale() {
     if (apritore == nullptr)
         return;
     --apritore->m_sopra;
+    // Two windows that go at once, a message and the form below it, leave some window managers without an active one.
+    apritore->activateWindow();
     apritore->accodaAttivazione();
 }
 

@@ -8,6 +8,24 @@
 #include <QPainter>
 
 namespace zuvora {
+namespace {
+
+// Lines break at blanks only, and paths often have none.
+QString divisibile(const QString &percorso) {
+    constexpr QStringView separatori = u"\\/_-.";
+    constexpr QChar spazioNullo(0x200B);
+    QString diviso;
+    for (const QChar c : percorso) {
+        if (diviso.endsWith(spazioNullo) && separatori.contains(c))
+            diviso.chop(1);
+        diviso += c;
+        if (separatori.contains(c))
+            diviso += spazioNullo;
+    }
+    return diviso;
+}
+
+} // namespace
 
 Label::Label(QWidget *padre, const char *nome, const char *didascalia, const Posto &posto)
     : Controllo(padre, nome, posto), m_base(font()) {
@@ -19,7 +37,11 @@ Label::Label(QWidget *padre, const char *nome, const char *didascalia, const Pos
 
 void Label::setCaption(const QString &testo) {
     m_caption = testo;
-    setText(testo);
+    setText(m_percorso ? divisibile(testo) : testo);
+    if (m_percorso) {
+        setAccessibleName(testo);
+        setToolTip(testo);
+    }
     adatta();
 }
 
@@ -54,6 +76,11 @@ void Label::setAbbrevia(bool abbrevia) {
     adatta();
 }
 
+void Label::setPercorso(bool percorso) {
+    m_percorso = percorso;
+    setCaption(m_caption);
+}
+
 QSize Label::spazioDidascalia() const {
     return contentsRect().size();
 }
@@ -67,7 +94,7 @@ void Label::adatta() {
     }
     if (!m_disposto)
         return;
-    const QFont adatto = fontAdatto(m_caption, m_base, spazioDidascalia(), wordWrap());
+    const QFont adatto = fontAdatto(m_percorso ? text() : m_caption, m_base, spazioDidascalia(), wordWrap());
     if (adatto != font())
         setFont(adatto);
     if (!m_abbrevia)

@@ -21,6 +21,8 @@ public:
     void setColori(const QColor &testo, const QColor &sfondo = {});
     // A text that finds no room is cut by an ellipsis and comes whole as tool tip, on one line.
     void setAbbrevia(bool abbrevia);
+    // The text is a path: it goes to the next line behind a separator, and comes whole as tool tip.
+    void setPercorso(bool percorso);
 
     QString didascaliaMostrata() const override { return text(); }
     QSize spazioDidascalia() const override;
@@ -36,6 +38,7 @@ private:
     QFont m_base;
     bool m_autosize = false;
     bool m_abbrevia = false;
+    bool m_percorso = false;
     bool m_disposto = false; // the caption is fitted from the first showing on, as a button's is
 };
 

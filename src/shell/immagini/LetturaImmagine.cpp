@@ -78,8 +78,6 @@ bool siRitaglia(const QImageReader &lettore) {
            lettore.transformation() == QImageIOHandler::TransformationNone;
 }
 
-enum class Lettura { Ridotta, Ritaglio };
-
 qint64 puntiDi(const QSize &misura) {
     return qint64{misura.width()} * misura.height();
 }
@@ -109,7 +107,7 @@ QString senzaMisura(QIODevice &file) {
 }
 
 // Sets the reader up; a sentence when the file is no picture that can be read.
-QString prepara(QImageReader &lettore, QIODevice &file, Lettura lettura = Lettura::Ridotta) {
+QString prepara(QImageReader &lettore, QIODevice &file, Lettura lettura) {
     [[maybe_unused]] static const bool limite = (QImageReader::setAllocationLimit(limiteLettore), true);
     lettore.setDecideFormatFromContent(true);
     lettore.setAutoTransform(true);
@@ -165,12 +163,12 @@ QSize misuraImmagine(const QString &percorso) {
     return misura.isValid() ? misura : QSize();
 }
 
-QString difettoImmagine(const QString &percorso) {
+QString difettoImmagine(const QString &percorso, Lettura lettura) {
     QFile file(percorso);
     if (QString motivo = apri(file); !motivo.isEmpty())
         return motivo;
     QImageReader lettore(&file);
-    return prepara(lettore, file);
+    return prepara(lettore, file, lettura);
 }
 
 ImmagineLetta leggi(const QString &percorso, const QSize &massimo, Riduzione riduzione, Avanzamento *avanzamento) {
@@ -179,7 +177,7 @@ ImmagineLetta leggi(const QString &percorso, const QSize &massimo, Riduzione rid
     QString motivo = apri(file);
     QImageReader lettore(&file);
     if (motivo.isEmpty())
-        motivo = prepara(lettore, file);
+        motivo = prepara(lettore, file, Lettura::Ridotta);
     if (annullata())
         return {{}, {}, true};
     if (!motivo.isEmpty())

@@ -19,6 +19,12 @@ enum class Riduzione {
     Riempi       // to exactly the room
 };
 
+// How much of a picture must be held in memory depends on what becomes of it.
+enum class Lettura {
+    Ridotta, // leggi
+    Ritaglio // leggiRitaglio
+};
+
 struct ImmagineLetta {
     QImage immagine; // null when it can't be read
     QString motivo;  // why it can't, an Italian sentence; empty also after a cancel
@@ -37,7 +43,7 @@ ImmagineLetta leggiRitaglio(const QString &percorso, const QSize &misura);
 QSize misuraImmagine(const QString &percorso);
 
 // Why the file can't be used as a picture, an Italian sentence, as far as that is told without decoding it: missing, no
-// picture, cut off, too large. Empty when nothing speaks against it.
-QString difettoImmagine(const QString &percorso);
+// picture, cut off, too large for that way of reading. Empty when nothing speaks against it.
+QString difettoImmagine(const QString &percorso, Lettura lettura = Lettura::Ridotta);
 
 } // namespace zuvora
