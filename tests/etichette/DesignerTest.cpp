@@ -106,6 +106,10 @@ TEST_F(Finestra, DisegnareSalvareERiaprire) {
     EXPECT_EQ(oggetti[1].tipo, TipoOggetto::Codice);
     EXPECT_EQ(oggetti[1].simbologia, Simbologia::Code128);
     EXPECT_EQ(designer->windowTitle(), u"Impostazione Modulo"_s);
+    QTest::keyClick(&trova<Foglio>("foglio"), Qt::Key_Return); // writes on at its end
+    QTest::keyClicks(designer->focusWidget(), u"9"_s);
+    QTest::keyClick(designer->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(salvati()[1].testo, oggetti[1].testo + u'9');
 }
 
 TEST_F(Finestra, OgniOggettoNuovoESceltoEInVista) {

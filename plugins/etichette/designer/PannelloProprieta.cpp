@@ -241,6 +241,7 @@ void PannelloProprieta::setVariabili(const QStringList &nomi) {
 }
 
 void PannelloProprieta::modificaContenuto() {
+    m_testo->moveCursor(QTextCursor::End); // to go on where the text ends
     for (QWidget *campo : std::initializer_list<QWidget *>{m_testo, m_immagine, m_spessore})
         if (!campo->isHidden() && campo->isEnabled()) {
             campo->setFocus(Qt::ShortcutFocusReason);
