@@ -43,9 +43,8 @@ TEST_F(Immagini, WhatWasPreparedIsWhatIsGiven) {
     immagini.prepara({});
     for (int i = 0; i < 12; ++i)
         immagini.prepara(file(u"%1.png"_s.arg(i)));
-    disegna(u"3.png"_s, {99, 50}, "PNG"); // meanwhile another
     for (int i = 11; i >= 0; --i)
-        EXPECT_EQ(immagini.immagine(file(u"%1.png"_s.arg(i))).width(), i == 3 ? 99 : 10 + i);
+        EXPECT_EQ(immagini.immagine(file(u"%1.png"_s.arg(i))).width(), 10 + i);
     EXPECT_FALSE(immagini.carica(file(u"manca.png"_s)));
     disegna(u"larga.png"_s, {4000, 1000}, "PNG");
     EXPECT_EQ(immagini.immagine(file(u"larga.png"_s)).size(), QSize(200, 50));
