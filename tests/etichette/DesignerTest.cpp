@@ -8,6 +8,7 @@
 #include "store/Ostacoli.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
@@ -192,6 +193,35 @@ TEST_F(Finestra, UnAltraModificaFaRinunciareAlTrascinamento) {
             for (qsizetype i = 0; i < oggetti.size(); ++i)
                 EXPECT_EQ(oggetti[i].area, attesi[i].area) << tasto << mosso << i;
         }
+}
+
+// By keys alone: the first field has the focus, and the format is that of the paper there is.
+TEST_F(Finestra, LeFinestrePiccoleSiUsanoDaiTasti) {
+    apri(modelliPronti().first().etichetta);
+    QTimer::singleShot(0, [] {
+        QTest::keyClick(QApplication::activeModalWidget()->focusWidget(), Qt::Key_Down);
+        QTest::keyClick(QApplication::activeModalWidget()->focusWidget(), Qt::Key_Return);
+    });
+    premi("Modelli");
+    EXPECT_EQ(salvati().size(), modelliPronti()[1].etichetta.oggetti.size());
+    QTimer::singleShot(0, [] {
+        auto *finestra = QApplication::activeModalWidget();
+        auto &formato = *finestra->findChild<QComboBox *>(u"Formato"_s);
+        EXPECT_EQ(formato.currentText(), u"Rotolo 80 mm, lunghezza secondo il contenuto"_s);
+        auto &larghezza = *finestra->findChild<QLineEdit *>(u"Larghezza"_s);
+        larghezza.setFocus();
+        larghezza.selectAll();
+        QTest::keyClicks(&larghezza, u"72"_s);
+        QTest::keyClick(&larghezza, Qt::Key_Return); // applies it, and the window stays
+        EXPECT_EQ(formato.currentText(), u"su misura"_s);
+        formato.setFocus();
+        for (int i = 0; i < 4; ++i)
+            QTest::keyClick(&formato, Qt::Key_Down);
+        QTest::keyClick(&formato, Qt::Key_Return);
+    });
+    premi("Carta");
+    salvati();
+    EXPECT_EQ(leggiEtichetta(ticket).etichetta->carta, formatiCarta()[3].carta);
 }
 
 TEST_F(Finestra, DentroUnaCorniceSiSceglieQuelloCheCiSta) {

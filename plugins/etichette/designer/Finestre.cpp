@@ -14,6 +14,7 @@
 #include <QScrollArea>
 #include <QSpinBox>
 #include <QVBoxLayout>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -45,6 +46,8 @@ public:
             m_righe->addRow(w);
         else
             m_righe->addRow(etichetta, w);
+        if (m_righe->rowCount() == 1)
+            w->setFocus(); // else a button would have it
         return w;
     }
     CampoMisura *misura(const QString &etichetta, const char *nome, int decimi) {
@@ -56,6 +59,14 @@ public:
 private:
     QFormLayout *m_righe;
 };
+
+// The row of the paper in the list of formats; 0 for none of them. Margins and head are a matter of the printer.
+int formatoDi(const QList<Formato> &formati, int larghezza, int altezza, bool cresce) {
+    const auto trovato = std::find_if(formati.begin(), formati.end(), [&](const Formato &f) {
+        return f.carta.larghezza == larghezza && f.carta.cresce == cresce && (cresce || f.carta.altezza == altezza);
+    });
+    return trovato == formati.end() ? 0 : static_cast<int>(trovato - formati.begin()) + 1;
+}
 
 int tra(const CampoMisura *campo, int minimo, int massimo, int altrimenti) {
     return std::clamp(campo->decimi().value_or(altrimenti), minimo, massimo);
@@ -90,6 +101,14 @@ std::optional<Carta> chiediCarta(const Carta &carta, QWidget *padre) {
         dpi->setValue(c.dpi);
     };
     mostra(carta);
+    const auto riconosci = [&] {
+        formato->setCurrentIndex(
+            formatoDi(formati, larghezza->decimi().value_or(0), altezza->decimi().value_or(0), cresce->isChecked()));
+    };
+    riconosci();
+    for (CampoMisura *campo : {larghezza, altezza})
+        QObject::connect(campo, &CampoMisura::applicato, &s, riconosci);
+    QObject::connect(cresce, &QCheckBox::clicked, &s, riconosci);
     QObject::connect(formato, &QComboBox::activated, &s, [&](int i) {
         if (i > 0)
             mostra(formati[i - 1].carta);
