@@ -86,6 +86,18 @@ TEST_F(ProvaImpostatotem, SavesWhatTheBoxesHoldAndShowsItAgain) {
     EXPECT_EQ(trova<ListBox>(form(), "Combo1").List(1), u"Esami"_s);
 }
 
+TEST_F(ProvaImpostatotem, WithoutServicesItSaysWhatIsNotShownAndKeepsIt) {
+    EXPECT_FALSE(trova<Label>(form(), "Avviso").isVisible());
+    riapri();
+    i.esegui(u"UPDATE Servizi SET ServizioAttivo=0"_s);
+    const QString prima = riga(u"*"_s);
+    EXPECT_TRUE(trova<Label>(form(), "Avviso").isVisible());
+    EXPECT_EQ(didascalieTagliate(form()), QStringList());
+    EXPECT_EQ(casella("TitTot").text() + casella("NrServizi").text(), u"0"_s);
+    clic("SiSalva");
+    EXPECT_EQ(riga(u"*"_s), prima);
+}
+
 TEST_F(ProvaImpostatotem, ClosingLosesWhatWasNotSaved) {
     i.esegui(u"UPDATE ConfigurazioneTotem SET SfondoTotem='/s.jpg'"_s);
     const QByteArray prima = i.contenuto();

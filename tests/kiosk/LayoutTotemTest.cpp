@@ -160,8 +160,8 @@ TEST_F(ProvaLayoutTotem, ThePictureStandsAtItsOwnSize) {
     QImage grande(3000, 2000, QImage::Format_RGB32);
     grande.fill(Qt::red);
     grande.setPixel(1919, 0, qRgb(0, 0, 255));
-    ASSERT_TRUE(grande.save(i.file(u"grande.bmp"_s)));
-    sfondo(i.file(u"grande.bmp"_s));
+    ASSERT_TRUE(grande.save(i.file(u"grande@2x.bmp"_s)));
+    sfondo(i.file(u"grande@2x.bmp"_s));
     LayoutTotem form(i.ambiente, richiesta(0), nullptr);
     EXPECT_EQ(form.grab().toImage().pixel(1919, 0), qRgb(0, 0, 255));
 }
@@ -195,7 +195,10 @@ TEST_F(ProvaLayoutTotem, NamesAreWrappedAndNeverCut) {
 
 TEST_F(ProvaLayoutTotem, IsMovedByAnyPlaceOfIt) {
     sfondo({});
-    LayoutTotem form(i.ambiente, richiesta(3), nullptr);
+    QWidget apritore;
+    apritore.show();
+    LayoutTotem form(i.ambiente, richiesta(3), &apritore);
+    form.move(50, 60);
     form.show();
     const QPoint prima = form.pos();
     EXPECT_EQ(prima, form.screen()->availableGeometry().topLeft()) << "larger than the monitor, with its frame in view";

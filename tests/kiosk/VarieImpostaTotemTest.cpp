@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -235,7 +236,10 @@ TEST_F(ProvaImpostazione, AKioskThatFallsSilentIsToldInTime) {
     form->show();
     sistema->muta = totem();
     scrivi("Modifnr(1)", "9");
+    bool rifiutata = false;
+    QTimer::singleShot(0, form.get(), [&] { rifiutata = !form->close(); }); // by its frame, while it asks
     QTest::mouseClick(&trova<QWidget>(*form, "Na1(1)"), Qt::LeftButton);
+    EXPECT_TRUE(rifiutata);
     EXPECT_TRUE(i.dialoghi.unicoMessaggio().contains(u"non risponde"_s));
     EXPECT_EQ(casella("Modifnr(1)").text(), u"9"_s);
     sistema->risveglia();

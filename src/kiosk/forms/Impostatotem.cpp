@@ -116,6 +116,14 @@ void Impostatotem::mostra() {
         Combo1.AddItem(servizio);
     if (Combo1.ListCount() > 0)
         Combo1.setListIndex(0);
+    const bool senzaServizi = m_riga.servizi().isEmpty() && !m_riga.guasto();
+    Avviso.setVisible(senzaServizi);
+    if (senzaServizi) {
+        Avviso.setCaption(u"Nessun servizio attivo: sfondo, titolo, data e font già salvati qui non si vedono. Il "
+                          "salvataggio li lascia come sono, tranne quelli che si cambiano."_s);
+        Avviso.raise();
+        Combo1.setAccessibleDescription(Avviso.Caption());
+    }
 }
 
 ContenutoTotem Impostatotem::contenuto() {

@@ -68,6 +68,7 @@ private:
     Label Label1{this, "Label1", "Servizi Attivi nr:", {2640, 5085, 1800, 255}};
     Edit NrServizi{this, "NrServizi", {4560, 5040, 615, 285}, "0"};
     ListBox Combo1{this, "Combo1", {2640, 5400, 4455, 1500}};
+    Label Avviso{this, "Avviso", "", {2760, 5490, 4215, 810}};      // why there is less to see than was saved
     Label Label2{this, "Label2", "Label2", {5280, 5085, 615, 255}}; // hidden: the chosen screen's index
     Label Label3{this, "Label3", "Label3", {6000, 5085, 615, 255}}; // hidden: who opened the preview
     Button SiSalva{this, "SiSalva", "&Salva impostazioni", {2640, 7080, 1575, 330}};
