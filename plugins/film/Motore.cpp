@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QThread>
 #include <QTimer>
+#include <algorithm>
 #include <cstdlib>
 
 using namespace Qt::Literals::StringLiterals;
@@ -22,6 +23,9 @@ constexpr auto coda = 150ms;
 constexpr qint64 pressoLaFine = 1000; // milliseconds
 constexpr auto fermoPressoLaFine = 1s;
 constexpr qint64 passoMinimo = 50; // milliseconds
+
+// Moved to its very end while it pauses, a film can't be played again at once: it is moved to this before.
+constexpr qint64 ultimaImmagine = 100; // milliseconds
 
 // The ear hears loudness by ratios.
 float perOrecchio(int percento) {
@@ -175,8 +179,12 @@ void Motore::sbaglia(const QString &dettaglio) {
 }
 
 void Motore::riprendi() {
-    if (m_aperto && m_notizia.stato != StatoLettore::Guasto)
-        m_lettore->play();
+    if (!m_aperto || m_notizia.stato == StatoLettore::Guasto)
+        return;
+    const bool allaFine = m_lettore->duration() - m_lettore->position() <= 2 * ultimaImmagine;
+    if (!m_flusso && m_notizia.stato == StatoLettore::InPausa && allaFine)
+        m_lettore->setPosition(0);
+    m_lettore->play();
 }
 
 void Motore::pausa() {
@@ -190,7 +198,7 @@ void Motore::setPosizione(qint64 millisecondi) {
     const bool finito = m_notizia.stato == StatoLettore::Finito;
     if (finito)
         m_lettore->play(); // back to the beginning: the end can't be left otherwise
-    m_lettore->setPosition(millisecondi);
+    m_lettore->setPosition(std::min(millisecondi, std::max<qint64>(m_lettore->duration() - ultimaImmagine, 0)));
 }
 
 void Motore::setVolume(int percento) {

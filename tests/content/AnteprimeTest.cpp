@@ -28,9 +28,15 @@ TEST_F(Anteprime, AFilmPlaysPausesAndMoves) {
     EXPECT_EQ(scritto(*form, "nome"), u"mare_al_tramonto.mp4"_s);
     clic(*form, "pausa");
     EXPECT_TRUE(aspetta([&] { return !MP1.suona(); }));
+    posizione.setFocus();
+    QTest::keyClick(&posizione, Qt::Key_End);
+    EXPECT_TRUE(aspetta([&] { return posizione.value() > 7000; }));
+    clic(*form, "pausa"); // from the start again
+    EXPECT_TRUE(aspetta([&] { return MP1.suona() && posizione.value() < 2000; }));
+    clic(*form, "pausa");
+    EXPECT_TRUE(aspetta([&] { return !MP1.suona(); }));
     QTest::keyClick(&MP1, Qt::Key_Space);
     EXPECT_TRUE(aspetta([&] { return MP1.suona(); }));
-    posizione.setFocus();
     QTest::keyClick(&posizione, Qt::Key_Right);
     EXPECT_TRUE(aspetta([&] { return posizione.value() >= 5000; }));
 }

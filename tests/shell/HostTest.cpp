@@ -161,6 +161,30 @@ TEST(Stile, IBordiSiVedono) {
     }
 }
 
+TEST(Stile, UnCursoreDiceSeSiUsaESeHaIlFuoco) {
+    preparaApplicazione();
+    QWidget finestra;
+    auto *altro = new QSlider(Qt::Horizontal, &finestra);
+    auto *cursore = new QSlider(Qt::Horizontal, &finestra);
+    altro->move(0, 60);
+    cursore->setValue(cursore->maximum());
+    finestra.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
+    const auto scuri = [&](QWidget *fuoco) {
+        fuoco->setFocus();
+        const QImage vista = cursore->grab().toImage();
+        int quanti = 0;
+        for (int n = 0; n < vista.width() * vista.height(); ++n)
+            quanti += qGray(vista.pixel(n % vista.width(), n / vista.width())) < 100 ? 1 : 0;
+        return quanti;
+    };
+    const int senza = scuri(altro);
+    EXPECT_GT(senza, 100); // what is full of it
+    EXPECT_GT(scuri(cursore), senza + 20);
+    cursore->setEnabled(false);
+    EXPECT_EQ(scuri(altro), 0);
+}
+
 class FormProva : public Form {
 public:
     explicit FormProva(const Ambiente &a) : Form(a, "FormProva", "Prova", {6000, 4500}, nullptr) {}
