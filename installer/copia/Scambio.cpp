@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
-#include <ranges>
 #include <system_error>
 #include <utility>
 
@@ -182,9 +181,10 @@ bool ripara(const QString &cartella, const std::function<void()> &passo) {
     if (QFileInfo::exists(base + finito))
         pulisci(cartella, leggiPiano(base + finito));
     if (QFileInfo::exists(base + inPreparazione)) {
-        const Piano piano = leggiPiano(base + inPreparazione);
+        Piano piano = leggiPiano(base + inPreparazione);
         pulisci(cartella, piano);
-        for (const QString &fatta : piano.cartelle | std::views::reverse)
+        std::ranges::reverse(piano.cartelle);
+        for (const QString &fatta : std::as_const(piano.cartelle))
             QDir().rmdir(cartella + u'/' + fatta); // only an empty one: what somebody put there stays
     }
     rimuovi(base);
