@@ -45,7 +45,11 @@ TEST_F(ProvaPagineChiamata, UnSuonoNuovoPrendeLaFormaDiRete) {
 }
 
 TEST_F(ProvaPagineChiamata, CancellaPredefinitoEUso) {
-    EXPECT_EQ(premi(pannello, "btnDD(1)"), u"DinDon predefinito impostato !"_s);
+    QString detto;
+    guida.messaggio(&detto);
+    QTest::keyClick(pannello.focusWidget(), Qt::Key_Return); // from the list
+    EXPECT_EQ(detto, u"DinDon predefinito impostato !"_s);
+    EXPECT_EQ(pannello.focusWidget()->objectName(), u"gridDD"_s);
     EXPECT_EQ(riga(u"dindon"_s), u"\\\\PC-PROVA\\a.wav"_s);
     EXPECT_EQ(cancella(pannello, "btnDD(2)"), u"Voce cancellata !"_s);
     EXPECT_EQ(suoni().size(), 1);

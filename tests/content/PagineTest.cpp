@@ -74,17 +74,18 @@ TEST_F(ProvaRadio, NewChangedAndRefused) {
     const QString altre = u"Alfa|http://a/ %1Zeta|http://z/"_s;
     const struct {
         const char *bottone;
-        QString nome, url, detto, dopo;
+        QString nome, url, detto, dopo, prima = {};
     } passi[] = {
         {"btnRadio(3)", {}, u"http://x/"_s, u"Inserire i dati Utente prima di salvare !"_s, altre.arg(u""_s)},
         {"btnRadio(3)", u"Nuova"_s, {}, u"Inserire il percorso prima di salvare !"_s, altre.arg(u""_s)},
         {"btnRadio(3)", u"aLFa"_s, u"http://x/"_s, u"Voce già presente in archivio !"_s, altre.arg(u""_s)},
         {"btnRadio(3)", u"Onda"_s, u"http://o/"_s, {}, altre.arg(u"Onda|http://o/ "_s)},
-        {"btnRadio(1)", u"ONDA"_s, u"http://p/"_s, {}, altre.arg(u"ONDA|http://p/ "_s)},
+        {"btnRadio(1)", u"ONDA"_s, u"http://p/"_s, {}, altre.arg(u"ONDA|http://p/ "_s), u"http://o/"_s},
     };
     for (const auto &passo : passi) {
         QString detto;
         guida.quando("GestioneRadio", [&](QWidget &form) {
+            EXPECT_EQ(trova<QLineEdit>(form, "text1(1)").text(), passo.prima);
             digita(form, "text1(0)", passo.nome);
             digita(form, "text1(1)", passo.url);
             if (!passo.detto.isEmpty())
@@ -105,7 +106,6 @@ TEST_F(ProvaRadio, NewChangedAndRefused) {
 TEST_F(ProvaRadio, ALockedDatabaseBetweenSaveAndList) {
     std::optional<prova::AltroProcesso> altro;
     guida.quando("GestioneRadio", [&](QWidget &form) {
-        EXPECT_EQ(trova<QLineEdit>(form, "text1(0)").text(), u"Alfa"_s);
         clic(form, "CBT(1)");
         altro.emplace(i.archivio(), "BEGIN EXCLUSIVE");
     });

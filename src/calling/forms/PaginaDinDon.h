@@ -13,6 +13,7 @@ public:
 
 private:
     void riempi() override;
+    QWidget *fuocoIniziale() override { return &gridDD; }
     bool vuoto() { return gridDD.Rows() == 0; }
     void nuovo();
     void cancella();

@@ -31,8 +31,12 @@ void Pagina::apri() {
     raise();
     show();
     ordinaFuochi(*window());
-    if (QWidget *primo = primoFuoco(*this))
+    if (QWidget *primo = fuocoIniziale())
         primo->setFocus(Qt::TabFocusReason);
+}
+
+QWidget *Pagina::fuocoIniziale() {
+    return primoFuoco(*this);
 }
 
 } // namespace zuvora

@@ -21,6 +21,9 @@ public:
 
 protected:
     virtual void riempi() = 0;
+    // What has the focus when the page opens: the first field, else the main action. A page to choose from a list gives
+    // it to that.
+    virtual QWidget *fuocoIniziale();
 
 private:
     int m_topAperta;
