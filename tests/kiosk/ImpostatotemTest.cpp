@@ -66,6 +66,12 @@ TEST_F(ProvaImpostatotem, EachColumnStandsInItsBox) {
     EXPECT_EQ(trova<ListBox>(form(), "Combo1").ListIndex(), 0);
     clic("SiSalva");
     EXPECT_EQ(riga(u"*"_s), valori);
+
+    riapri();
+    i.esegui(u"UPDATE ConfigurazioneTotem SET RisoluzioneTotem=NULL"_s);
+    EXPECT_EQ(trova<Label>(form(), "Label2").Caption(), u"Label2"_s);
+    clic("SiSalva");
+    EXPECT_EQ(riga(u"RisoluzioneTotem"_s), u"NULL"_s) << "no screen is chosen";
 }
 
 TEST_F(ProvaImpostatotem, SavesWhatTheBoxesHoldAndShowsItAgain) {
@@ -167,6 +173,7 @@ TEST_F(ProvaImpostatotem, ThePathComesFromItsFormOnlyWhenConfirmed) {
     clic("PercorsoTotem");
     EXPECT_EQ(casella("PRT").text(), altro);
     EXPECT_EQ(riga(u"PercorsoReteTotem"_s), i.file(u"Totem"_s));
+    EXPECT_EQ(i.dialoghi.primeCartelle.first(), i.file(u"Totem"_s)) << "the search starts where the kiosk is";
 
     i.esegui(u"UPDATE ConfigurazioneTotem SET PercorsoReteTotem=NULL"_s);
     QString righe;

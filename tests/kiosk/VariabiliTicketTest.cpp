@@ -45,7 +45,7 @@ class Ticket : public DueArchivi {};
 TEST_F(Ticket, OffersEachColumnOfTheTableInOrder) {
     esegui(totem(), u"ALTER TABLE DatiDaStampareIMP ADD COLUMN Nuova TEXT;"
                     "INSERT INTO DatiDaStampareIMP(Numero,[Data],Prioritario,MinutiDiAttesa,Nuova) "
-                    "VALUES(152,'2013-10-03',1,12.5,'città')"_s);
+                    "VALUES(152,'2013-10-03',1,12.5,'città'),(153,NULL,0,1,'altra')"_s);
     const auto variabili = variabiliTicket(totem());
     ASSERT_EQ(variabili.size(), 11);
     EXPECT_EQ(variabili[0], (VariabileTicket{u"Numero"_s, u"152"_s, TipoEtichetta::Numero}));

@@ -171,7 +171,9 @@ TEST_F(ProvaImpostazione, EnterWritesTheOneNumber) {
     EXPECT_EQ(casella("Modifnr(3)").accessibleName(), u"Numero attuale, Esami"_s);
     scrivi("Modifnr(3)", "4x2");
     QTest::keyClick(&casella("Modifnr(3)"), Qt::Key_Enter, Qt::KeypadModifier);
-    EXPECT_EQ(i.dialoghi.unicoMessaggio(), u"Numero Modificato !"_s);
+    const auto box = i.dialoghi.prendiBox();
+    ASSERT_EQ(box.size(), 1U);
+    EXPECT_EQ(box.front().titolo + u": "_s + box.front().testo, u"Conferma: Numero Modificato !"_s);
     EXPECT_EQ(numero(u"P3"_s), u"42"_s);
     EXPECT_EQ(numero(u"P2"_s), u"0"_s);
     casella("Modifnr(3)").setText({});
