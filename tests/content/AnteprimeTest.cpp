@@ -30,7 +30,7 @@ TEST_F(Anteprime, AFilmPlaysPausesAndMoves) {
     EXPECT_TRUE(aspetta([&] { return !MP1.suona(); }));
     posizione.setFocus();
     QTest::keyClick(&posizione, Qt::Key_End);
-    EXPECT_TRUE(aspetta([&] { return posizione.value() > 7000; }));
+    EXPECT_TRUE(aspetta([&] { return scritto(*form, "tempo").startsWith(u"0:07"_s); }));
     clic(*form, "pausa"); // from the start again
     EXPECT_TRUE(aspetta([&] { return MP1.suona() && posizione.value() < 2000; }));
     clic(*form, "pausa");
