@@ -25,11 +25,6 @@ QStringList voci(const QString &cartella) {
     return QDir(cartella).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System, QDir::Name);
 }
 
-bool esiste(const QString &percorso) {
-    const QFileInfo info(percorso);
-    return info.exists() || info.isSymLink();
-}
-
 // Entries of the folder that a killed process left: its preparation, and what it had moved out of it. Once the settings
 // database was in its place the installation was whole, and only the preparation is left over.
 QStringList avanzi(const QString &cartella) {
@@ -41,9 +36,9 @@ QStringList avanzi(const QString &cartella) {
         QFile elenco(preparazione + fileElenco);
         const QStringList spostate =
             elenco.open(QIODevice::ReadOnly) ? QString::fromUtf8(elenco.readAll()).split(u'\n') : QStringList();
-        const bool intera = !esiste(percorsoIn(preparazione, archivioZuvora.file));
+        const bool intera = !presente(percorsoIn(preparazione, archivioZuvora.file));
         for (const QString &nome : spostate)
-            if (!intera && !nome.isEmpty() && !nome.contains(u'/') && !esiste(preparazione + u'/' + nome))
+            if (!intera && !nome.isEmpty() && !nome.contains(u'/') && !presente(preparazione + u'/' + nome))
                 trovati += nome;
         trovati += voce; // after what its list names
     }
@@ -123,7 +118,7 @@ void Cantiere::pubblica() {
     sincronizzaTutto(preparazione());
     for (const QString &voce : tutte) {
         fermaSeInterrotto();
-        if (esiste(m_cartella + u'/' + voce))
+        if (presente(m_cartella + u'/' + voce))
             throw Guasto{u"Nella cartella %1 è comparso %2: nulla è stato modificato."_s.arg(
                 QDir::toNativeSeparators(m_cartella), voce)};
         sposta(preparazione() + u'/' + voce, m_cartella + u'/' + voce);

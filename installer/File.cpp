@@ -102,6 +102,11 @@ bool eArchivio(const QString &nome) {
     return nome.endsWith(".mdb"_L1, Qt::CaseInsensitive);
 }
 
+bool presente(const QString &percorso) {
+    const QFileInfo info(percorso);
+    return info.exists() || info.isSymLink();
+}
+
 QString nativo(const QString &percorso) {
     return QDir::toNativeSeparators(percorso);
 }

@@ -13,6 +13,7 @@ void scriviNuovo(const QString &file, const QByteArray &contenuto);
 void copia(const QString &da, const QString &a);
 // Why nothing can be written at the end of the file, which is spoilt by the question; empty when it can.
 QString motivoDelDisco(const QString &file);
+bool presente(const QString &percorso);           // a link that leads nowhere too
 QString nativo(const QString &percorso);          // as the platform writes it
 bool eArchivio(const QString &nome);              // by its ending
 QString posto(const QString &file);               // as the user knows it: without the hidden folder of the making

@@ -45,11 +45,6 @@ constexpr auto membri = [] {
                       std::pair{u'a', &Piano::archivi}};
 }();
 
-bool esiste(const QString &percorso) {
-    const QFileInfo info(percorso);
-    return info.exists() || info.isSymLink();
-}
-
 void sincronizzaNome(const QString &percorso) {
     sincronizzaCartelle(QFileInfo(percorso).path(), {});
 }
@@ -88,9 +83,9 @@ Piano pianoDi(const QString &cartella, const QStringList &nomi, const QString &c
             throw Guasto{u"%1 è una cartella: nulla è stato modificato."_s.arg(nativo(posto))};
         for (qsizetype fine = nome.indexOf(u'/'); fine >= 0; fine = nome.indexOf(u'/', fine + 1))
             if (const QString madre = nome.left(fine);
-                !esiste(cartella + u'/' + madre) && !piano.cartelle.contains(madre))
+                !presente(cartella + u'/' + madre) && !piano.cartelle.contains(madre))
                 piano.cartelle += madre;
-        (eArchivio(nome) && esiste(posto) ? piano.archivi : piano.file) += nome;
+        (eArchivio(nome) && presente(posto) ? piano.archivi : piano.file) += nome;
     }
     // The settings database, the first of a copy, comes last.
     std::ranges::reverse(piano.archivi);
@@ -127,16 +122,16 @@ void tieniVecchio(const QString &posto) {
 // back to where it waited, and with it the sign that this one is still to do.
 void rimettiFile(const QString &posto, const std::function<void()> &passo) {
     passo();
-    if (!esiste(posto + nuovo) && esiste(posto))
+    if (!presente(posto + nuovo) && presente(posto))
         sposta(posto, posto + nuovo);
     passo();
-    if (esiste(posto + vecchio))
+    if (presente(posto + vecchio))
         sposta(posto + vecchio, posto);
 }
 
 void rimettiArchivio(const QString &posto, const std::function<void()> &passo) {
     passo();
-    if (!esiste(posto + vecchio))
+    if (!presente(posto + vecchio))
         return;
     copiaArchivio(posto + vecchio, posto);
     passo();
@@ -233,7 +228,7 @@ void Scambio::esegui(const QStringList &nomi, const QString &copia) {
     sincronizzaNome(base + inCorso);
     for (const QString &nome : piano.file) {
         m_passo();
-        if (esiste(posto(nome)))
+        if (presente(posto(nome)))
             sposta(posto(nome), posto(nome) + vecchio);
         m_passo();
         sposta(posto(nome) + nuovo, posto(nome));

@@ -181,7 +181,8 @@ void Motore::sbaglia(const QString &dettaglio) {
 void Motore::riprendi() {
     if (!m_aperto || m_notizia.stato == StatoLettore::Guasto)
         return;
-    const bool allaFine = m_lettore->duration() - m_lettore->position() <= 2 * ultimaImmagine;
+    const bool allaFine =
+        m_lettore->duration() > 0 && m_lettore->duration() - m_lettore->position() <= 2 * ultimaImmagine;
     if (!m_flusso && m_notizia.stato == StatoLettore::InPausa && allaFine)
         m_lettore->setPosition(0);
     m_lettore->play();
@@ -197,8 +198,10 @@ void Motore::setPosizione(qint64 millisecondi) {
         return;
     const bool finito = m_notizia.stato == StatoLettore::Finito;
     if (finito)
-        m_lettore->play(); // back to the beginning: the end can't be left otherwise
-    m_lettore->setPosition(std::min(millisecondi, std::max<qint64>(m_lettore->duration() - ultimaImmagine, 0)));
+        m_lettore->play();                       // back to the beginning: the end can't be left otherwise
+    const qint64 durata = m_lettore->duration(); // 0 while it isn't known
+    m_lettore->setPosition(durata > 0 ? std::min(millisecondi, std::max<qint64>(durata - ultimaImmagine, 0))
+                                      : millisecondi);
 }
 
 void Motore::setVolume(int percento) {

@@ -30,7 +30,6 @@ constexpr QSize latoImmagine(1600, 1600);       // points; a roll of 80 mm has 6
 constexpr qint64 immagineIntatta = 1024 * 1024; // bytes
 constexpr int bozzaDopo = 2000;                 // milliseconds
 constexpr int avvisiDopo = 150;
-constexpr std::chrono::seconds attesaCartella{20}; // of a kiosk's folder on the network
 const QString filtroImmagini = u"Immagini|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.webp;*.svg"_s;
 const QString tipoAppunti = u"application/x-zuvora-biglietto"_s;
 constexpr std::chrono::seconds attesaImmagine{20};

@@ -9,6 +9,7 @@
 #include <QDialog>
 #include <QTimer>
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -23,6 +24,8 @@ namespace zuvora {
 
 class Foglio;
 class PannelloProprieta;
+
+inline constexpr std::chrono::seconds attesaCartella{20}; // of a kiosk's folder on the network
 
 // The window in which a ticket is designed: what can be put on it, the canvas, the selected object in numbers.
 class DesignerEtichetta : public QDialog {

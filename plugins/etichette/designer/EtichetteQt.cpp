@@ -9,7 +9,6 @@
 #include "shell/logic/Domanda.h"
 
 #include <QFileInfo>
-#include <chrono>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -20,7 +19,6 @@ constexpr int riuscito = 0;
 constexpr int fallito = -1;
 constexpr int sicuroSi = 0;
 constexpr int sicuroNo = 1;
-constexpr std::chrono::seconds attesaApertura{20}; // of a kiosk's folder on the network
 
 QString stampaProva(const QString &stampante, const Etichetta &e, const Valori &valori) {
     return stampa(stampante, e, valori).motivo;
@@ -72,7 +70,7 @@ bool EtichetteQt::conferma(QWidget *finestra, const QString &testo, int sicuro) 
 }
 
 int EtichetteQt::disegna(QWidget *finestra, const QString &titolo, const QString &file) {
-    const auto trovato = chiediEAspetta<Trovato>([file] { return cerca(file); }, attesaApertura);
+    const auto trovato = chiediEAspetta<Trovato>([file] { return cerca(file); }, attesaCartella);
     if (!trovato) {
         m_dialoghi.messaggio(
             finestra, Dialoghi::Icona::Critica, titoloMessaggi(),

@@ -86,7 +86,7 @@ void FormPlaylist::collega() {
 }
 
 // The files come after the folders that they follow, not in their place beside the drive.
-void FormPlaylist::attivata() {
+void FormPlaylist::correggiFuochi() {
     setTabOrder(&Drive1, &Dir1);
     setTabOrder(&Dir1, &File1);
     setTabOrder(&File1, &Command6);

@@ -24,7 +24,7 @@ protected:
     // What the settings row gets as time with the default: nothing for a kind without one. False: not to be stored.
     virtual bool chiediTempo(std::optional<double> & /*tempo*/) { return true; }
 
-    void attivata() override;
+    void correggiFuochi() override;
     void ElencaPlaylist();
     bool haVoci() const { return List2.ListCount() > 0; }
     QString voceScelta() const { return List2.List(List2.ListIndex()); } // empty without one

@@ -61,7 +61,7 @@ Impostazione::Impostazione(const Ambiente &contesto, const QString &cartellaTote
 }
 
 // The tall button comes after the column that it writes, not after its first line.
-void Impostazione::attivata() {
+void Impostazione::correggiFuochi() {
     setTabOrder(&NumIniz(serviziNumerati), &Salvain);
     setTabOrder(&Salvain, &PB1_0);
 }

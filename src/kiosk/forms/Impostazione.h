@@ -12,7 +12,7 @@ public:
     Impostazione(const Ambiente &ambiente, const QString &cartellaTotem, QWidget *padre);
 
 protected:
-    void attivata() override;
+    void correggiFuochi() override;
     bool puoScaricarsi() override { return !m_occupata; }
 
 private:

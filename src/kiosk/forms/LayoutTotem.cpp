@@ -16,6 +16,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace zuvora {
 namespace {
 
+constexpr QColor fondoAvviso(0xFF, 0xF4, 0xC4);
 constexpr int margineDestro = 240;                    // twips, from the date to the screen's right edge
 constexpr Posto fuoriVista = {1000, 23000, 975, 330}; // where a button waits
 
@@ -160,7 +161,7 @@ void LayoutTotem::componi() {
     pittore.fillRect(rect(), palette().window());
     pittore.drawPixmap(QPoint(), m_sfondo);
     if (!Avviso.isHidden())
-        pittore.fillRect(Avviso.geometry(), QColor(0xFF, 0xF4, 0xC4));
+        pittore.fillRect(Avviso.geometry(), fondoAvviso);
     for (QWidget *figlio : findChildren<QWidget *>(Qt::FindDirectChildrenOnly))
         if (!figlio->isHidden())
             figlio->render(&pittore, figlio->pos(), {}, {});

@@ -146,6 +146,7 @@ void Form::showEvent(QShowEvent *e) {
         centra();
     nominaCampi(this);
     ordinaFuochi(*this);
+    correggiFuochi();
     if (QWidget *primo = focusWidget() == nullptr ? primoFuoco(*this) : nullptr)
         primo->setFocus(Qt::TabFocusReason);
     accodaAttivazione();

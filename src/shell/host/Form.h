@@ -30,6 +30,8 @@ protected:
     // After the first showing and after each return from a form that this one opened, but for those opened in here.
     // Always from the event loop, so that the form may unload itself; never while another form stands over it.
     virtual void attivata() {}
+    // Where Tab is to go another way than by the places of the fields. Once, at the first showing.
+    virtual void correggiFuochi() {}
 
     void closeEvent(QCloseEvent *e) override;
     void keyPressEvent(QKeyEvent *e) override;
