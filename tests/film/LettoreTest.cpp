@@ -126,8 +126,13 @@ TEST_F(ProvaLettore, PausaEPosizione) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return lettore->posizione() >= 15s; }, 5000));
     EXPECT_LT(ferma, 10s);
     EXPECT_LT(lettore->posizione(), 16s);
+    lettore->setPosizione(20s); // its very end, from where it plays anew at once
+    ASSERT_TRUE(QTest::qWaitFor([&] { return lettore->posizione() >= 19s; }, 5000));
+    EXPECT_GT(colore().red(), 200);
     lettore->riprendi();
-    EXPECT_TRUE(attendi(StatoLettore::InCorso));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return lettore->stato() == StatoLettore::InCorso && lettore->posizione() < 10s; }, 5000));
+    lettore->setPosizione(18s);
     EXPECT_TRUE(attendi(StatoLettore::Finito));
 }
 
